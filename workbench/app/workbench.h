@@ -1,0 +1,75 @@
+// The development environment as the rest of the program sees it: what a menu
+// command, a service or a line of a script can ask of it. User-interface thread
+// only. Paths are Windows paths in Windows-1252.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace workbench {
+
+class EventLog;
+class EditorWindow;
+
+class Workbench {
+ public:
+  virtual ~Workbench() = default;
+
+  virtual EventLog& events() = 0;
+  // 0 before the frame exists.
+  virtual HWND frame() = 0;
+  virtual HWND mdiClient() = 0;
+
+  // Opens a folder as a project, or a source file in an editor. A project that is
+  // open is closed first. Returns false when it cannot be opened, or when the
+  // user kept an unsaved file; the reason has been shown.
+  virtual bool openPath(const std::string& path) = 0;
+  // Returns false when the user kept an unsaved file.
+  virtual bool closeProject() = 0;
+  virtual bool hasProject() = 0;
+  // The project's folder without a trailing separator, else the current directory.
+  virtual std::string projectDirectory() = 0;
+  // A full path from one that may be relative to projectDirectory().
+  virtual std::string resolve(const std::string& path) = 0;
+
+  // Brings an editor of the file forward or opens one; a line above 0 puts the
+  // caret there. Returns null when the file cannot be shown (the reason has been
+  // shown).
+  virtual EditorWindow* editFile(const std::string& path, int line) = 0;
+  // The topmost editor showing the file, or null.
+  virtual EditorWindow* findEditor(const std::string& path) = 0;
+  // The active editor, or null.
+  virtual EditorWindow* activeEditor() = 0;
+
+  virtual void setStatus(const std::string& text) = 0;
+  virtual std::string status() = 0;
+
+  // The bar of the add-on (the top-level window of class "KADO"), or 0.
+  virtual HWND addonBar() = 0;
+};
+
+// One view of a file: a "BCW5Editor" MDI child with its "EditWindClass" text
+// window. Lines and columns are 1-based, columns count bytes.
+class EditorWindow {
+ public:
+  virtual ~EditorWindow() = default;
+
+  virtual HWND window() = 0;
+  virtual HWND textWindow() = 0;
+  virtual const std::string& file() = 0;
+  virtual bool modified() = 0;
+  // The whole text as it would be saved.
+  virtual std::string text() = 0;
+  virtual void caret(int* line, int* column) = 0;
+  virtual void setCaret(int line, int column) = 0;
+  // From the first place up to, not including, the second; the caret ends at the second.
+  virtual void select(int line1, int column1, int line2, int column2) = 0;
+  virtual std::string selection() = 0;
+  // Replaces the selection as typing does; a line feed in the text breaks the line.
+  virtual void type(const std::string& text) = 0;
+  // Returns false when the file could not be written (the reason has been shown).
+  virtual bool save() = 0;
+};
+
+}  // namespace workbench
