@@ -69,14 +69,14 @@ void startAddon(IIde* ide) {
   storeIde(ide);
   probeEnvironment(*addonEnvironment);
   const HINSTANCE instance = addonEnvironment->instance;
-  const bool newShell = addonEnvironment->newShell != FALSE;
+  const bool new_shell = addonEnvironment->new_shell != FALSE;
   registerBarClass(instance);
-  barWindow = createBarWindow(instance, newShell);
+  barWindow = createBarWindow(instance, new_shell);
 
   create(quickFind, barWindow);
   create(helpFile, instance, barWindow);
-  create(editorNavigation, barWindow, newShell);
-  create(topBar, newShell, barWindow);
+  create(editorNavigation, barWindow, new_shell);
+  create(topBar, new_shell, barWindow);
   create(completionSettings);
   create(editorServiceHolder);
   create(statusLineServiceHolder);

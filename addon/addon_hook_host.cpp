@@ -34,6 +34,8 @@ bool AddonHookHost::barWatchesProjectView() const {
          topBar->construction() < BarConstruction::kNoMenu;
 }
 
-bool AddonHookHost::barStaysOnTop() const { return topBar != nullptr && topBar->alwaysOnTop(); }
+bool AddonHookHost::barStaysOnTop() const {
+  return topBar != nullptr && topBar->alwaysOnTop();
+}
 
 }  // namespace kesto

@@ -4,7 +4,7 @@
 extern "C" {
 
 // The IDE's root interface starts the add-on, 0 shuts it down.
-__declspec(dllexport) void __cdecl BcwAddOnEntry(int ide) {
+void __cdecl BcwAddOnEntry(int ide) {
   if (ide != 0) {
     kesto::startAddon(reinterpret_cast<IIde*>(ide));
   } else {

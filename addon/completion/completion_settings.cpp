@@ -16,16 +16,16 @@ constexpr int kDefaultKeyCode = 222;
 
 CompletionSettings::CompletionSettings() {
   enabled_ = settings().readInteger(kSection, "Enabled", 1);
-  keyCode_ = settings().readInteger(kSection, "KeyCode", kDefaultKeyCode);
-  char text[kSettingTextSize] = "";
+  key_code_ = settings().readInteger(kSection, "KeyCode", kDefaultKeyCode);
+  char text[SettingsStore::kValueSize] = "";
   settings().readString(kSection, "TextCode", text, sizeof text, "???");
-  keyText_ = text;
+  key_text_ = text;
 }
 
 CompletionSettings::~CompletionSettings() {
   settings().writeInteger(kSection, "Enabled", enabled_);
-  settings().writeInteger(kSection, "KeyCode", keyCode_);
-  settings().writeString(kSection, "TextCode", keyText_);
+  settings().writeInteger(kSection, "KeyCode", key_code_);
+  settings().writeString(kSection, "TextCode", key_text_);
 }
 
 }  // namespace kesto

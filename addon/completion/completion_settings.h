@@ -16,12 +16,12 @@ class CompletionSettings {
   CompletionSettings& operator=(const CompletionSettings&) = delete;
 
   bool enabled() const { return enabled_ != 0; }
-  unsigned keyCode() const { return static_cast<unsigned>(keyCode_); }
+  unsigned keyCode() const { return static_cast<unsigned>(key_code_); }
 
  private:
   int enabled_;
-  int keyCode_;
-  String keyText_;
+  int key_code_;
+  String key_text_;
 };
 
 extern CompletionSettings* completionSettings;

@@ -10,7 +10,9 @@ IIde* storedIde = nullptr;
 
 }  // namespace
 
-void storeIde(IIde* ide) { storedIde = ide; }
+void storeIde(IIde* ide) {
+  storedIde = ide;
+}
 
 void releaseIde() {
   if (storedIde != nullptr) {

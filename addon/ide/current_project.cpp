@@ -26,7 +26,9 @@ std::string currentDirectory() {
 
 }  // namespace
 
-bool isProjectOpen() { return static_cast<bool>(loadedProjectService()); }
+bool isProjectOpen() {
+  return static_cast<bool>(loadedProjectService());
+}
 
 std::string projectDirectory() {
   if (const ComPtr<IProjectService> service = loadedProjectService()) {

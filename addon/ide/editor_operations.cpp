@@ -64,9 +64,9 @@ void insertAtCursor(const EditorTransaction& editor, const std::string& text, in
 }
 
 // A second request on a word that cannot be continued shows its description.
-void showAnswerWithoutText(const CompletionAnswer& answer, std::string& shownDescription) {
-  if (answer.description != shownDescription) {
-    shownDescription = answer.description;
+void showAnswerWithoutText(const CompletionAnswer& answer, std::string& shown_description) {
+  if (answer.description != shown_description) {
+    shown_description = answer.description;
     showStatus(answer.status.c_str());
     return;
   }
@@ -102,8 +102,8 @@ void wordAtCursor(const char* file, char (&output)[kWordBufferSize]) {
 }
 
 void completeAtCursor(const char* file) {
-  static std::string shownDescription;
-  const std::string name = withoutLineSuffix(file);
+  static std::string shown_description;
+  const std::string name(fileWithoutLine(file));
   const EditorTransaction editor(name.c_str());
   if (!editor) {
     return;
@@ -123,11 +123,11 @@ void completeAtCursor(const char* file) {
     return;
   }
   if (answer.text.empty()) {
-    showAnswerWithoutText(answer, shownDescription);
+    showAnswerWithoutText(answer, shown_description);
     return;
   }
   insertAtCursor(editor, answer.text, column, line);
-  shownDescription = answer.description;
+  shown_description = answer.description;
   showStatus(answer.result == 1 ? "Completion done" : answer.status.c_str());
 }
 

@@ -7,7 +7,7 @@ namespace kesto {
 AddonEnvironment* addonEnvironment = nullptr;
 
 void describeSystem(AddonEnvironment& environment, DWORD platform, DWORD major, DWORD minor) {
-  environment.newShell = FALSE;
+  environment.new_shell = FALSE;
   const char* format = nullptr;
   switch (platform) {
     case VER_PLATFORM_WIN32s:
@@ -15,16 +15,16 @@ void describeSystem(AddonEnvironment& environment, DWORD platform, DWORD major, 
       break;
     case VER_PLATFORM_WIN32_WINDOWS:
       format = "Windows 95 (%d.%d)";
-      environment.newShell = TRUE;
+      environment.new_shell = TRUE;
       break;
     case VER_PLATFORM_WIN32_NT:
       format = "Windows NT %d.%d";
-      environment.newShell = major > 3;
+      environment.new_shell = major > 3;
       break;
     default:
       return;
   }
-  _snprintf(environment.osDescription, sizeof environment.osDescription - 1, format,
+  _snprintf(environment.os_description, sizeof environment.os_description - 1, format,
             static_cast<int>(major), static_cast<int>(minor));
 }
 
@@ -33,8 +33,7 @@ void probeEnvironment(AddonEnvironment& environment) {
   version.dwOSVersionInfoSize = sizeof version;
   static_assert(sizeof version == 148);
   GetVersionExA(&version);
-  describeSystem(environment, version.dwPlatformId, version.dwMajorVersion,
-                 version.dwMinorVersion);
+  describeSystem(environment, version.dwPlatformId, version.dwMajorVersion, version.dwMinorVersion);
 }
 
 }  // namespace kesto

@@ -8,9 +8,9 @@ namespace kesto {
 struct AddonEnvironment {
   HINSTANCE instance = nullptr;
   // "Windows 95 (4.0)" and the like, for the user to read; empty on an unknown platform.
-  char osDescription[40] = "";
+  char os_description[40] = "";
   // TRUE where the Windows 95 window styles exist: Windows 95, and NT from 4.0 on.
-  BOOL newShell = FALSE;
+  BOOL new_shell = FALSE;
 };
 
 // Exists while the DLL is attached.

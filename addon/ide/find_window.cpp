@@ -1,7 +1,6 @@
 #include "addon/ide/find_window.h"
 
 #include <cstring>
-#include <string>
 
 #include "addon/foundation/path.h"
 #include "ideapi/ide_identifiers.h"
@@ -13,20 +12,21 @@ constexpr int kClassNameSize = 80;
 constexpr int kTitleSize = 280;
 
 struct ChildSearch {
-  const char* className;
+  const char* class_name;
   const char* title;
   HWND found;
 };
 
 BOOL CALLBACK testChild(HWND window, LPARAM parameter) {
   ChildSearch& search = *reinterpret_cast<ChildSearch*>(parameter);
-  if (search.className != nullptr && !isWindowOfClass(window, search.className)) {
+  if (search.class_name != nullptr && !isWindowOfClass(window, search.class_name)) {
     return TRUE;
   }
   if (search.title != nullptr) {
     char title[kTitleSize] = "";
     GetWindowTextA(window, title, sizeof title);
-    if (!titleMatches(upperCase(title), search.title)) {
+    upperAscii(title);
+    if (!titleMatches(title, search.title)) {
       return TRUE;
     }
   }
@@ -36,19 +36,21 @@ BOOL CALLBACK testChild(HWND window, LPARAM parameter) {
 
 }  // namespace
 
-bool isWindowOfClass(HWND window, const char* className) {
+bool isWindowOfClass(HWND window, const char* class_name) {
   char name[kClassNameSize] = "";
   GetClassNameA(window, name, sizeof name);
-  return strcmp(name, className) == 0;
+  return strcmp(name, class_name) == 0;
 }
 
-HWND findChildWindow(HWND parent, const char* className, const char* title) {
-  ChildSearch search = {className, title, nullptr};
+HWND findChildWindow(HWND parent, const char* class_name, const char* title) {
+  ChildSearch search = {class_name, title, nullptr};
   EnumChildWindows(parent, testChild, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
 
-HWND findFrame() { return FindWindowA(ideapi::kFrameClass, nullptr); }
+HWND findFrame() {
+  return FindWindowA(ideapi::kFrameClass, nullptr);
+}
 
 HWND findMdiClient() {
   // Without a parent the enumeration would walk the desktop.

@@ -10,7 +10,7 @@ namespace kesto {
 // upper case; it must be the window title's file name or path, that is stand at
 // its start or after a "\" or "/" and be followed by the end or ":". Null when
 // nothing matches.
-HWND findChildWindow(HWND parent, const char* className, const char* title);
+HWND findChildWindow(HWND parent, const char* class_name, const char* title);
 
 // The IDE's frame, or null.
 HWND findFrame();
@@ -19,7 +19,7 @@ HWND findMdiClient();
 // The editor in front of all documents; null when another kind of window is.
 HWND findActiveEditor();
 
-bool isWindowOfClass(HWND window, const char* className);
+bool isWindowOfClass(HWND window, const char* class_name);
 // Brings the frame forward and gives it the keyboard.
 void activateFrame();
 

@@ -15,8 +15,7 @@ void HookSet::onWindowMessage(const CWPSTRUCT& message) {
       }
       [[fallthrough]];
     case WM_DESTROY:
-      if (host_.barWatchesProjectView() &&
-          isWindowOfClass(message.hwnd, ideapi::kProjectClass)) {
+      if (host_.barWatchesProjectView() && isWindowOfClass(message.hwnd, ideapi::kProjectClass)) {
         post(kCommandRebuildMenu);
       }
       break;
@@ -48,9 +47,9 @@ void HookSet::onEditorFrame(HWND editor) {
   RECT frame = {};
   GetWindowRect(editor, &frame);
   if (frame.right - frame.left > 2 * GetSystemMetrics(SM_CYCAPTION)) {
-    postingPaint_ = true;
+    posting_paint_ = true;
     post(kCommandPaintButtons, reinterpret_cast<LPARAM>(editor));
-    postingPaint_ = false;
+    posting_paint_ = false;
   } else {
     MessageBeep(0);
   }
@@ -83,16 +82,15 @@ void HookSet::onFrameActivation(bool active) {
 }
 
 LRESULT CALLBACK HookSet::getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
-  if (code >= 0 && current_ != nullptr) {
+  if (code >= 0 && current != nullptr) {
     const MSG& message = *reinterpret_cast<const MSG*>(lParam);
     if (message.message == WM_COMMAND &&
         message.wParam == static_cast<WPARAM>(ideapi::kCommandSaveAll) &&
         isWindowOfClass(message.hwnd, ideapi::kFrameClass)) {
-      current_->host_.resetAutoSave();
+      current->host_.resetAutoSave();
     }
   }
-  return CallNextHookEx(current_ != nullptr ? current_->getMessage_ : nullptr, code, wParam,
-                        lParam);
+  return CallNextHookEx(current != nullptr ? current->get_message_ : nullptr, code, wParam, lParam);
 }
 
 }  // namespace kesto

@@ -8,12 +8,12 @@ namespace kesto {
 
 HelpFile* helpFile = nullptr;
 
-bool makeHelpPath(char* modulePath) {
-  const size_t length = strlen(modulePath);
-  if (length < 4 || modulePath[length - 4] != '.') {
+bool makeHelpPath(char* module_path) {
+  const size_t length = strlen(module_path);
+  if (length < 4 || module_path[length - 4] != '.') {
     return false;
   }
-  memcpy(modulePath + length - 3, "hlp", 4);
+  memcpy(module_path + length - 3, "hlp", 4);
   return true;
 }
 
@@ -25,9 +25,8 @@ HelpFile::HelpFile(HINSTANCE instance, HWND owner) : instance_(instance), owner_
   // Only the form of the path is tested, on purpose: a help file that does not
   // exist shows itself when a topic is asked for.
   if (!makeHelpPath(path_)) {
-    showMessage(nullptr,
-                "You can't use Kesto AddOn for Borland C++ 5.0\nwithout its helpfile !", "Fatal",
-                kBoxStop);
+    showMessage(nullptr, "You can't use Kesto AddOn for Borland C++ 5.0\nwithout its helpfile !",
+                "Fatal", kMessageIconHand);
     ExitProcess(0);
   }
 }

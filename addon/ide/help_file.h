@@ -32,6 +32,6 @@ inline constexpr DWORD kHelpContents = 1;
 
 // Replaces the three letters after the final "." by "hlp". Returns false, and
 // leaves the path alone, when it does not end in "." and three characters.
-bool makeHelpPath(char* modulePath);
+bool makeHelpPath(char* module_path);
 
 }  // namespace kesto

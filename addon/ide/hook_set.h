@@ -54,9 +54,9 @@ class HookHost {
 // The editor that the last title-bar command concerns.
 struct EditorTarget {
   HWND window = nullptr;
-  char title[256] = "";          // its file, without view number and modified mark
-  char documented[512] = "";     // title of the last right click, for the documentation
-  POINTS click = {};             // where its popup belongs, in screen coordinates
+  char title[256] = "";       // its file, without view number and modified mark
+  char documented[512] = "";  // title of the last right click, for the documentation
+  POINTS click = {};          // where its popup belongs, in screen coordinates
 };
 
 class HookSet {
@@ -69,15 +69,15 @@ class HookSet {
   HookSet& operator=(const HookSet&) = delete;
 
   // While a window captures, every key goes to it and none to the IDE.
-  void startKeyCapture(HWND window) { keyCapture_ = window; }
-  void stopKeyCapture() { keyCapture_ = nullptr; }
+  void startKeyCapture(HWND window) { key_capture_ = window; }
+  void stopKeyCapture() { key_capture_ = nullptr; }
 
   const EditorTarget& target() const { return target_; }
   // Set while a title-bar popup is tracked: title-bar clicks go to the IDE.
   void suspend(bool suspended) { suspended_ = suspended; }
   bool suspended() const { return suspended_; }
   // True while the painting command is being posted.
-  bool postingPaint() const { return postingPaint_; }
+  bool postingPaint() const { return posting_paint_; }
 
  private:
   static LRESULT CALLBACK mouseHook(int code, WPARAM wParam, LPARAM lParam);
@@ -91,23 +91,23 @@ class HookSet {
   void onEditorFrame(HWND editor);
   void onFrameSize(bool minimised);
   void onFrameActivation(bool active);
-  bool onKey(UINT virtualKey, LPARAM lParam);
-  bool onCapturedKey(UINT virtualKey, LPARAM lParam);
+  bool onKey(UINT virtual_key, LPARAM lParam);
+  bool onCapturedKey(UINT virtual_key, LPARAM lParam);
   bool onSearchKey(unsigned code);
   void post(int command, LPARAM lParam = 0);
 
   // The hook procedures carry no context of their own.
-  static HookSet* current_;
+  static HookSet* current;
 
   HHOOK mouse_ = nullptr;
-  HHOOK callWindow_ = nullptr;
-  HHOOK getMessage_ = nullptr;
+  HHOOK call_window_ = nullptr;
+  HHOOK get_message_ = nullptr;
   HHOOK keyboard_ = nullptr;
   HWND bar_;
-  HWND keyCapture_ = nullptr;
+  HWND key_capture_ = nullptr;
   EditorTarget target_;
   bool suspended_ = false;
-  bool postingPaint_ = false;
+  bool posting_paint_ = false;
   HookHost& host_;
 };
 

@@ -7,12 +7,12 @@ namespace kesto {
 OptionsServiceHolder* optionsServiceHolder = nullptr;
 
 OptionsServiceHolder::OptionsServiceHolder() : ServiceHolder(ideapi::kOptionsService) {
-  const IOptionsService* svr = get();
-  KESTO_ASSERT(svr != NULL, "svr!=NULL", "koptions", 13);
+  checkThat(get() != nullptr, "svr!=NULL", "koptions", 13);
 }
 
 int getOptionText(ProjectNode node, int kind, String& output) {
-  IOptionsService* service = optionsServiceHolder != nullptr ? optionsServiceHolder->get() : nullptr;
+  IOptionsService* service =
+      optionsServiceHolder != nullptr ? optionsServiceHolder->get() : nullptr;
   if (service == nullptr) {
     return 0;
   }

@@ -18,12 +18,12 @@ void registerMakeClient(MakeClientFactory create) {
   }
   makeService = getService<IMakeService>(ideapi::kMakeService);
   if (!makeService) {
-    showMessage(nullptr, "Creation SMK impossible", "Erreur", kBoxPlain);
+    showMessage(nullptr, "Creation SMK impossible", "Erreur", kMessageOk);
     return;
   }
   makeClient = ComPtr<IMakeClient>(create());
   if (!makeClient) {
-    showMessage(nullptr, "Creation CMK impossible", "Erreur", kBoxPlain);
+    showMessage(nullptr, "Creation CMK impossible", "Erreur", kMessageOk);
     makeService.reset();
     return;
   }

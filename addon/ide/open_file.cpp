@@ -14,9 +14,9 @@ constexpr int kTitleSize = 512;
 
 bool openInOtherView = false;
 
-int runTool(const char* toolName, const char* path) {
+int runTool(const char* tool_name, const char* path) {
   const ComPtr<IToolService> service = getService<IToolService>(ideapi::kToolService);
-  const ComPtr<IIdeString> name = makeIdeString(toolName);
+  const ComPtr<IIdeString> name = makeIdeString(tool_name);
   const ComPtr<IIdeString> file = makeIdeString(path);
   if (!service || !name || !file) {
     return kToolNotHandled;
@@ -42,17 +42,19 @@ const char* toolResultText(int result) {
   }
 }
 
-HWND findEditorTitled(const char* path, HWND otherThan) {
-  const std::string wanted = upperCase(path);
+HWND findEditorTitled(const char* path, HWND other_than) {
+  std::string wanted(path);
+  upperAscii(wanted.data());
   const HWND client = findMdiClient();
   HWND window = client != nullptr ? GetWindow(client, GW_CHILD) : nullptr;
   for (; window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
-    if (window == otherThan || !isWindowOfClass(window, ideapi::kEditorClass)) {
+    if (window == other_than || !isWindowOfClass(window, ideapi::kEditorClass)) {
       continue;
     }
     char title[kTitleSize] = "";
     GetWindowTextA(window, title, sizeof title);
-    if (upperCase(title) == wanted) {
+    upperAscii(title);
+    if (wanted == title) {
       return window;
     }
   }
@@ -64,7 +66,9 @@ void raiseEditor(HWND editor) {
   SetWindowPos(editor, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 
-void setOpenInOtherView(bool on) { openInOtherView = on; }
+void setOpenInOtherView(bool on) {
+  openInOtherView = on;
+}
 
 bool openFile(const char* path) {
   if (!openInOtherView && GetKeyState(VK_SHIFT) >= 0) {

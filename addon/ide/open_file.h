@@ -18,7 +18,7 @@ const char* toolResultText(int result);
 
 // The editor window whose title is the path, regardless of case and other than
 // the given one (null: any); null when there is none.
-HWND findEditorTitled(const char* path, HWND otherThan);
+HWND findEditorTitled(const char* path, HWND other_than);
 // Shows the editor in its normal size, in front of the others, without moving it.
 void raiseEditor(HWND editor);
 

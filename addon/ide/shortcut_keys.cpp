@@ -1,6 +1,5 @@
 // The keyboard hook's part of the hook set: shortcuts and key capture.
 #include "addon/foundation/key_code.h"
-#include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/hook_set.h"
 #include "ideapi/ide_identifiers.h"
@@ -13,33 +12,33 @@ constexpr LPARAM kKeyWasDown = 1L << 30;
 constexpr LPARAM kAltHeld = 1L << 29;
 constexpr int kActiveTitleSize = 300;
 
-unsigned pressedKeyCode(UINT virtualKey, LPARAM lParam) {
-  return keyCode(virtualKey, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
+unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
+  return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
                  GetKeyState(VK_SHIFT) < 0);
 }
 
 }  // namespace
 
-bool HookSet::onKey(UINT virtualKey, LPARAM lParam) {
-  if (keyCapture_ != nullptr) {
-    return onCapturedKey(virtualKey, lParam);
+bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
+  if (key_capture_ != nullptr) {
+    return onCapturedKey(virtual_key, lParam);
   }
   if ((lParam & (kKeyUp | kKeyWasDown)) != 0) {
     return false;
   }
   const unsigned completion = host_.completionKey();
-  if (completion != 0 && virtualKey == completion % kKeyCodeModifiers &&
-      pressedKeyCode(virtualKey, lParam) == completion) {
+  if (completion != 0 && virtual_key == virtualKeyOf(completion) &&
+      pressedKeyCode(virtual_key, lParam) == completion) {
     post(kCommandComplete);
     return true;
   }
-  return host_.navigationEnabled() && onSearchKey(pressedKeyCode(virtualKey, lParam));
+  return host_.navigationEnabled() && onSearchKey(pressedKeyCode(virtual_key, lParam));
 }
 
-bool HookSet::onCapturedKey(UINT virtualKey, LPARAM lParam) {
-  const bool modifier = virtualKey >= VK_SHIFT && virtualKey <= VK_MENU;
+bool HookSet::onCapturedKey(UINT virtual_key, LPARAM lParam) {
+  const bool modifier = virtual_key >= VK_SHIFT && virtual_key <= VK_MENU;
   if ((lParam & kKeyUp) == 0 && !modifier) {
-    SendMessageA(keyCapture_, kCapturedKeyMessage, virtualKey, lParam);
+    SendMessageA(key_capture_, kCapturedKeyMessage, virtual_key, lParam);
   }
   return true;
 }

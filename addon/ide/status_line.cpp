@@ -20,6 +20,8 @@ void showStatus(const char* text) {
   }
 }
 
-void soundBeep() { Beep(kBeepHertz, kBeepMilliseconds); }
+void soundBeep() {
+  Beep(kBeepHertz, kBeepMilliseconds);
+}
 
 }  // namespace kesto

@@ -1,5 +1,6 @@
 // The mouse hook's part of the hook set: clicks on editor title bars.
 #include <cstring>
+#include <string_view>
 
 #include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
@@ -19,7 +20,7 @@ bool isEnabledEditor(HWND window) {
 }
 
 template <size_t size>
-void copyText(char (&output)[size], const std::string& text) {
+void copyText(char (&output)[size], std::string_view text) {
   const size_t length = text.size() < size ? text.size() : size - 1;
   memcpy(output, text.data(), length);
   output[length] = '\0';
@@ -43,7 +44,7 @@ bool HookSet::onTitleClick(UINT message, const MOUSEHOOKSTRUCT& mouse) {
   if (message == WM_NCRBUTTONDOWN && isEnabledEditor(mouse.hwnd)) {
     char title[kDocumentedTitleSize] = "";
     GetWindowTextA(mouse.hwnd, title, sizeof title);
-    copyText(target_.documented, withoutModifiedMark(title));
+    copyText(target_.documented, documentationTitle(title));
     takeClick(mouse.hwnd, point, kCommandTitleMenu);
     return true;
   }

@@ -23,7 +23,7 @@ MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size) {
   MenuPlan menu;
   MenuPlan submenu;
   const char* open_class = "";
-  const auto closeSubmenu = [&] {
+  const auto close_submenu = [&] {
     if (!submenu.empty()) {
       appendItem(menu, {open_class, 0, false, std::move(submenu)}, column_size);
       submenu.clear();
@@ -33,13 +33,13 @@ MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size) {
   for (int i = 0; i < count; ++i) {
     const Fnc& entry = *functions.at(i);
     if (strcmp(entry.className(), open_class) != 0) {
-      closeSubmenu();
+      close_submenu();
       open_class = entry.className();
     }
     appendItem(*open_class != '\0' ? submenu : menu, command(entry.name(), kFirstFunctionId + i),
                column_size);
   }
-  closeSubmenu();
+  close_submenu();
   return menu;
 }
 

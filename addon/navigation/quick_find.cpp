@@ -15,22 +15,22 @@ constexpr const char* kKeyNames[kSearchCount] = {"KeyFunction", "KeyMethod", "Ke
 constexpr const char* kTextNames[kSearchCount] = {"TxtFunction", "TxtMethod", "TxtClass",
                                                   "TxtCross"};
 
-void readText(const char* name, const char* byDefault, String& text) {
-  char buffer[kSettingTextSize] = "";
-  settings().readString(kSection, name, buffer, sizeof buffer, byDefault);
+void readText(const char* name, const char* by_default, String& text) {
+  char buffer[SettingsStore::kValueSize] = "";
+  settings().readString(kSection, name, buffer, sizeof buffer, by_default);
   text = buffer;
 }
 
 }  // namespace
 
 QuickFind::QuickFind(HWND owner) : owner_(owner) {
-  readText("FunctionMask", "*.cpp;*.cc;*.c", functionMask_);
-  readText("IncludeMask", "*.h;*.rh", includeMask_);
+  readText("FunctionMask", "*.cpp;*.cc;*.c", function_mask_);
+  readText("IncludeMask", "*.h;*.rh", include_mask_);
   for (int i = 0; i < kSearchCount; ++i) {
-    readText(kTextNames[i], "???", keyTexts_[i]);
+    readText(kTextNames[i], "???", key_texts_[i]);
   }
   recurse_ = settings().readInteger(kSection, "Recurse", 1);
-  leftSide_ = settings().readInteger(kSection, "LeftSide", 1);
+  left_side_ = settings().readInteger(kSection, "LeftSide", 1);
   for (int i = 0; i < kSearchCount; ++i) {
     keys_[i] = static_cast<unsigned short>(settings().readInteger(kSection, kKeyNames[i], 0));
   }
@@ -38,13 +38,13 @@ QuickFind::QuickFind(HWND owner) : owner_(owner) {
 
 QuickFind::~QuickFind() {
   SettingsStore& store = settings();
-  store.writeString(kSection, "FunctionMask", functionMask_);
-  store.writeString(kSection, "IncludeMask", includeMask_);
+  store.writeString(kSection, "FunctionMask", function_mask_);
+  store.writeString(kSection, "IncludeMask", include_mask_);
   for (int i = 0; i < kSearchCount; ++i) {
-    store.writeString(kSection, kTextNames[i], keyTexts_[i]);
+    store.writeString(kSection, kTextNames[i], key_texts_[i]);
   }
   store.writeInteger(kSection, "Recurse", recurse_);
-  store.writeInteger(kSection, "LeftSide", leftSide_);
+  store.writeInteger(kSection, "LeftSide", left_side_);
   for (int i = 0; i < kSearchCount; ++i) {
     store.writeInteger(kSection, kKeyNames[i], keys_[i]);
   }

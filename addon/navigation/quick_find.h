@@ -20,20 +20,20 @@ class QuickFind {
   QuickFind(const QuickFind&) = delete;
   QuickFind& operator=(const QuickFind&) = delete;
 
-  bool leftSide() const { return leftSide_ != 0; }
+  bool leftSide() const { return left_side_ != 0; }
   // The shortcut's key code, 0 for none.
   unsigned short key(Search search) const { return keys_[static_cast<int>(search)]; }
   // The shortcut as the user reads it.
-  String& keyText(Search search) { return keyTexts_[static_cast<int>(search)]; }
+  const String& keyText(Search search) const { return key_texts_[static_cast<int>(search)]; }
 
  private:
   HWND owner_;
-  String functionMask_;
-  String includeMask_;
+  String function_mask_;
+  String include_mask_;
   int recurse_;
-  int leftSide_;
+  int left_side_;
   unsigned short keys_[kSearchCount];
-  String keyTexts_[kSearchCount];
+  String key_texts_[kSearchCount];
 };
 
 extern QuickFind* quickFind;

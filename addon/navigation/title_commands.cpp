@@ -37,26 +37,23 @@ void appendSearch(HMENU popup, Search search, const char* text) {
   std::string item(text);
   if (quickFind != nullptr && quickFind->key(search) != 0) {
     item += '\t';
-    item += static_cast<char*>(quickFind->keyText(search));
+    item += quickFind->keyText(search).view();
   }
   AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
 }
 
-// The project's folder, then the include path of the file's node.
-std::string includeSearchPath(const char* file) {
-  std::string path = projectDirectory();
+// The include path of the file's node, empty without a project.
+String includePathOf(const char* file) {
+  String path;
   if (isProjectOpen()) {
-    String nodePath;
-    if (getOptionText(nodeOfFile(file), kOptionIncludePath, nodePath) != 0 &&
-        nodePath.length() != 0) {
-      path += ';';
-      path += static_cast<char*>(nodePath);
-    }
+    getOptionText(nodeOfFile(file), kOptionIncludePath, path);
   }
   return path;
 }
 
-bool ready() { return hookSet != nullptr && editorNavigation != nullptr; }
+bool ready() {
+  return hookSet != nullptr && editorNavigation != nullptr;
+}
 
 }  // namespace
 
@@ -110,15 +107,16 @@ bool chooseInclude(int index) {
     return true;
   }
   DirectoryListing listing;
-  const std::string path = includeSearchPath(hookSet->target().title);
-  const std::string found = findInclude(listing, path, name);
-  if (found.empty()) {
+  const String path =
+      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
+  String found;
+  if (!findInclude(listing, path.view(), name, found)) {
     showStatus("Pas trouve");
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;
   }
-  showStatus(found.c_str());
-  openFile(found.c_str());
+  showStatus(found.text());
+  openFile(found.text());
   return true;
 }
 

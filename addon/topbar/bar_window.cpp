@@ -13,7 +13,9 @@ namespace {
 constexpr UINT kStartUpItem = 99;
 constexpr char kStartUpText[] = "Kesto Addon for Borland C++ 5.0 initializing...";
 
-bool isTitlePopupOpen() { return hookSet != nullptr && hookSet->suspended(); }
+bool isTitlePopupOpen() {
+  return hookSet != nullptr && hookSet->suspended();
+}
 
 void collapseBar() {
   if (topBar != nullptr) {
@@ -78,28 +80,29 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
 }  // namespace
 
 bool registerBarClass(HINSTANCE instance) {
-  WNDCLASSA barClass = {};
-  barClass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
-  barClass.lpfnWndProc = barProcedure;
-  barClass.hInstance = instance;
-  barClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
-  barClass.lpszClassName = kBarClass;
-  return RegisterClassA(&barClass) != 0;
+  WNDCLASSA bar_class = {};
+  bar_class.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
+  bar_class.lpfnWndProc = barProcedure;
+  bar_class.hInstance = instance;
+  bar_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+  bar_class.lpszClassName = kBarClass;
+  return RegisterClassA(&bar_class) != 0;
 }
 
-void unregisterBarClass(HINSTANCE instance) { UnregisterClassA(kBarClass, instance); }
+void unregisterBarClass(HINSTANCE instance) {
+  UnregisterClassA(kBarClass, instance);
+}
 
-HWND createBarWindow(HINSTANCE instance, bool newShell) {
+HWND createBarWindow(HINSTANCE instance, bool new_shell) {
   const HMENU menu = CreateMenu();
   AppendMenuA(menu, MF_STRING, kStartUpItem, kStartUpText);
   const ScreenMetrics metrics = {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
                                  GetSystemMetrics(SM_CYMENU), GetSystemMetrics(SM_CYCAPTION)};
-  const BarPlacement place = creationPlacement(metrics, newShell);
-  const HWND bar = CreateWindowExA(newShell ? WS_EX_TOPMOST | WS_EX_TOOLWINDOW : WS_EX_TOPMOST,
-                                   kBarClass, nullptr,
-                                   newShell ? WS_POPUP | WS_BORDER : WS_POPUP | WS_CAPTION, place.x,
-                                   place.y, place.width, place.height, nullptr, menu, instance,
-                                   nullptr);
+  const BarPlacement place = creationPlacement(metrics, new_shell);
+  const HWND bar =
+      CreateWindowExA(new_shell ? WS_EX_TOPMOST | WS_EX_TOOLWINDOW : WS_EX_TOPMOST, kBarClass,
+                      nullptr, new_shell ? WS_POPUP | WS_BORDER : WS_POPUP | WS_CAPTION, place.x,
+                      place.y, place.width, place.height, nullptr, menu, instance, nullptr);
   if (bar == nullptr) {
     DestroyMenu(menu);
   }

@@ -17,6 +17,6 @@ bool registerBarClass(HINSTANCE instance);
 void unregisterBarClass(HINSTANCE instance);
 
 // Creates the bar, hidden, with its start-up menu. Null on failure.
-HWND createBarWindow(HINSTANCE instance, bool newShell);
+HWND createBarWindow(HINSTANCE instance, bool new_shell);
 
 }  // namespace kesto

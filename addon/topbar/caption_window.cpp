@@ -33,8 +33,8 @@ void placeCaptionWindow(HWND window) {
   RECT size = {};
   GetWindowRect(window, &frame);
   GetWindowRect(small, &size);
-  const int ownButtons = 3 * GetSystemMetrics(SM_CXSIZE) + GetSystemMetrics(SM_CXFRAME);
-  POINT place = {frame.right - ownButtons - (size.right - size.left),
+  const int own_buttons = 3 * GetSystemMetrics(SM_CXSIZE) + GetSystemMetrics(SM_CXFRAME);
+  POINT place = {frame.right - own_buttons - (size.right - size.left),
                  frame.top + GetSystemMetrics(SM_CYFRAME)};
   if ((GetWindowLongA(small, GWL_STYLE) & WS_CHILD) != 0) {
     ScreenToClient(GetParent(small), &place);

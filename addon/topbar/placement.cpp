@@ -6,30 +6,32 @@ namespace {
 constexpr int kAboveScreen = 2;
 constexpr int kRoomBelow = 80;
 
-int topOf(const ScreenMetrics& metrics, bool newShell) {
-  return newShell ? -kAboveScreen : -kAboveScreen - metrics.menuHeight;
+int topOf(const ScreenMetrics& metrics, bool new_shell) {
+  return new_shell ? -kAboveScreen : -kAboveScreen - metrics.menu_height;
 }
 
-int oneRow(const ScreenMetrics& metrics, bool newShell) {
-  return metrics.menuHeight + (newShell ? 0 : metrics.captionHeight) + 1;
+int oneRow(const ScreenMetrics& metrics, bool new_shell) {
+  return metrics.menu_height + (new_shell ? 0 : metrics.caption_height) + 1;
 }
 
 }  // namespace
 
-BarPlacement creationPlacement(const ScreenMetrics& metrics, bool newShell) {
-  return {-1, topOf(metrics, newShell), metrics.screenWidth + 2, oneRow(metrics, newShell)};
+BarPlacement creationPlacement(const ScreenMetrics& metrics, bool new_shell) {
+  return {-1, topOf(metrics, new_shell), metrics.screen_width + 2, oneRow(metrics, new_shell)};
 }
 
-BarPlacement normalPlacement(const ScreenMetrics& metrics, bool newShell, int leftMargin,
-                             int rightMargin) {
-  return {leftMargin, topOf(metrics, newShell), metrics.screenWidth - leftMargin - rightMargin,
-          oneRow(metrics, newShell)};
+BarPlacement normalPlacement(const ScreenMetrics& metrics, bool new_shell, int left_margin,
+                             int right_margin) {
+  return {left_margin, topOf(metrics, new_shell), metrics.screen_width - left_margin - right_margin,
+          oneRow(metrics, new_shell)};
 }
 
-int highestBar(const ScreenMetrics& metrics) { return metrics.screenHeight - kRoomBelow; }
+int highestBar(const ScreenMetrics& metrics) {
+  return metrics.screen_height - kRoomBelow;
+}
 
-int expandedHeight(int reachedHeight, int clientHeight) {
-  return reachedHeight - (clientHeight + 1);
+int expandedHeight(int reached_height, int client_height) {
+  return reached_height - (client_height + 1);
 }
 
 }  // namespace kesto

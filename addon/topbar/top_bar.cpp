@@ -13,8 +13,8 @@ namespace {
 constexpr char kSection[] = "TopBar";
 
 ScreenMetrics screenMetrics() {
-  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
-          GetSystemMetrics(SM_CYMENU), GetSystemMetrics(SM_CYCAPTION)};
+  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), GetSystemMetrics(SM_CYMENU),
+          GetSystemMetrics(SM_CYCAPTION)};
 }
 
 void moveTo(HWND bar, const BarPlacement& place) {
@@ -30,45 +30,45 @@ int clientHeight(HWND bar) {
 
 }  // namespace
 
-TopBar::TopBar(bool newShell, HWND bar) : newShell_(newShell), bar_(bar) {
+TopBar::TopBar(bool new_shell, HWND bar) : new_shell_(new_shell), bar_(bar) {
   SettingsStore& store = settings();
   enabled_ = store.readInteger(kSection, "Enabled", 1);
-  hideWithIde_ = store.readInteger(kSection, "HideWithBCW", 1);
-  hideWithView_ = store.readInteger(kSection, "HideWithView", 0);
-  alwaysOnTop_ = store.readInteger(kSection, "AlwaysOnTop", 0);
-  editOtherView_ = store.readInteger(kSection, "EditOtherView", 0);
-  leftMargin_ = store.readInteger(kSection, "LeftMargin", newShell ? -1 : 17);
-  rightMargin_ = store.readInteger(kSection, "RightMargin", newShell ? 58 : 37);
-  menuSize_ = store.readInteger(kSection, "MenuSize", 50);
+  hide_with_ide_ = store.readInteger(kSection, "HideWithBCW", 1);
+  hide_with_view_ = store.readInteger(kSection, "HideWithView", 0);
+  always_on_top_ = store.readInteger(kSection, "AlwaysOnTop", 0);
+  edit_other_view_ = store.readInteger(kSection, "EditOtherView", 0);
+  left_margin_ = store.readInteger(kSection, "LeftMargin", new_shell ? -1 : 17);
+  right_margin_ = store.readInteger(kSection, "RightMargin", new_shell ? 58 : 37);
+  menu_size_ = store.readInteger(kSection, "MenuSize", 50);
   construction_ = store.readInteger(kSection, "Hierarchical", 0);
-  setOpenInOtherView(editOtherView_ != 0);
+  setOpenInOtherView(edit_other_view_ != 0);
 }
 
 TopBar::~TopBar() {
   SettingsStore& store = settings();
   store.writeInteger(kSection, "Enabled", enabled_);
-  store.writeInteger(kSection, "HideWithBCW", hideWithIde_);
-  store.writeInteger(kSection, "HideWithView", hideWithView_);
-  store.writeInteger(kSection, "AlwaysOnTop", alwaysOnTop_);
-  store.writeInteger(kSection, "EditOtherView", editOtherView_);
-  store.writeInteger(kSection, "LeftMargin", leftMargin_);
-  store.writeInteger(kSection, "RightMargin", rightMargin_);
-  store.writeInteger(kSection, "MenuSize", menuSize_);
+  store.writeInteger(kSection, "HideWithBCW", hide_with_ide_);
+  store.writeInteger(kSection, "HideWithView", hide_with_view_);
+  store.writeInteger(kSection, "AlwaysOnTop", always_on_top_);
+  store.writeInteger(kSection, "EditOtherView", edit_other_view_);
+  store.writeInteger(kSection, "LeftMargin", left_margin_);
+  store.writeInteger(kSection, "RightMargin", right_margin_);
+  store.writeInteger(kSection, "MenuSize", menu_size_);
   store.writeInteger(kSection, "Hierarchical", construction_);
 }
 
 void TopBar::place(bool expanded) {
-  BarPlacement place = normalPlacement(screenMetrics(), newShell_, leftMargin_, rightMargin_);
+  BarPlacement place = normalPlacement(screenMetrics(), new_shell_, left_margin_, right_margin_);
   if (!expanded) {
     moveTo(bar_, place);
     return;
   }
-  if (expandedHeight_ == 0) {
-    expandedHeight_ = measureExpandedHeight();
-    place.height = expandedHeight_;
+  if (expanded_height_ == 0) {
+    expanded_height_ = measureExpandedHeight();
+    place.height = expanded_height_;
     moveTo(bar_, place);
-  } else if (expandedHeight_ != place.height) {
-    place.height = expandedHeight_;
+  } else if (expanded_height_ != place.height) {
+    place.height = expanded_height_;
     moveTo(bar_, place);
   }
 }
@@ -77,10 +77,10 @@ void TopBar::place(bool expanded) {
 // until something of its client area shows.
 int TopBar::measureExpandedHeight() const {
   const ScreenMetrics metrics = screenMetrics();
-  BarPlacement place = normalPlacement(metrics, newShell_, leftMargin_, rightMargin_);
+  BarPlacement place = normalPlacement(metrics, new_shell_, left_margin_, right_margin_);
   moveTo(bar_, place);
   while (clientHeight(bar_) < 1 && place.height < highestBar(metrics)) {
-    place.height += metrics.menuHeight;
+    place.height += metrics.menu_height;
     moveTo(bar_, place);
   }
   return expandedHeight(place.height, clientHeight(bar_));

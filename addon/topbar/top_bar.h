@@ -12,20 +12,20 @@ enum class BarConstruction : int { kLinear = 0, kHierarchical = 1, kNoMenu = 2 }
 class TopBar {
  public:
   // Reads the settings of section "TopBar".
-  TopBar(bool newShell, HWND bar);
+  TopBar(bool new_shell, HWND bar);
   // Writes them back.
   ~TopBar();
   TopBar(const TopBar&) = delete;
   TopBar& operator=(const TopBar&) = delete;
 
   HWND window() const { return bar_; }
-  bool newShell() const { return newShell_; }
+  bool newShell() const { return new_shell_; }
   bool enabled() const { return enabled_ != 0; }
-  bool hidesWithIde() const { return hideWithIde_ != 0; }
-  bool hidesWithView() const { return hideWithView_ != 0; }
-  bool alwaysOnTop() const { return alwaysOnTop_ != 0; }
+  bool hidesWithIde() const { return hide_with_ide_ != 0; }
+  bool hidesWithView() const { return hide_with_view_ != 0; }
+  bool alwaysOnTop() const { return always_on_top_ != 0; }
   BarConstruction construction() const { return static_cast<BarConstruction>(construction_); }
-  int menuSize() const { return menuSize_; }
+  int menuSize() const { return menu_size_; }
 
   // Moves the bar between its margins with one menu row, or with all rows.
   void place(bool expanded);
@@ -34,24 +34,24 @@ class TopBar {
   // Back to one row; a bar that is not expanded stays as it is.
   void collapse();
   // The rows are counted anew at the next expansion.
-  void forgetExpandedHeight() { expandedHeight_ = 0; }
+  void forgetExpandedHeight() { expanded_height_ = 0; }
 
  private:
   int measureExpandedHeight() const;
 
-  bool newShell_;
+  bool new_shell_;
   HWND bar_;
   bool expanded_ = false;
   int enabled_;
-  int hideWithIde_;
-  int hideWithView_;
-  int alwaysOnTop_;
-  int editOtherView_;
-  int leftMargin_;   // pixels, may be negative
-  int rightMargin_;  // pixels, may be negative
-  int menuSize_;     // items per column
+  int hide_with_ide_;
+  int hide_with_view_;
+  int always_on_top_;
+  int edit_other_view_;
+  int left_margin_;   // pixels, may be negative
+  int right_margin_;  // pixels, may be negative
+  int menu_size_;     // items per column
   int construction_;
-  int expandedHeight_ = 0;  // pixels, 0 while unknown
+  int expanded_height_ = 0;  // pixels, 0 while unknown
 };
 
 extern TopBar* topBar;
