@@ -55,7 +55,54 @@ void appendControl(std::string& out, unsigned code) {
   out += kDigits[code & 15];
 }
 
+// The number of bytes of the character that starts with this byte, 0 when no
+// character does.
+size_t characterLength(unsigned char first) {
+  if (first < 0x80) {
+    return 1;
+  }
+  if (first < 0xC2 || first > 0xF4) {
+    return 0;
+  }
+  return first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+}
+
+char ansiFromCode(unsigned code) {
+  if (code < 0x80 || (code >= 0xA0 && code < 0x100)) {
+    return static_cast<char>(code);
+  }
+  for (size_t i = 0; i < kUpperControls.size(); ++i) {
+    if (kUpperControls[i] == code) {
+      return static_cast<char>(0x80 + i);
+    }
+  }
+  return '?';
+}
+
 }  // namespace
+
+bool ansiFromUtf8(std::string_view utf8, std::string* ansi) {
+  static constexpr unsigned kFirstMask[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+  static constexpr unsigned kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+  ansi->clear();
+  for (size_t at = 0; at < utf8.size();) {
+    size_t length = characterLength(static_cast<unsigned char>(utf8[at]));
+    bool good = length != 0 && length <= utf8.size() - at;
+    unsigned code = good ? static_cast<unsigned char>(utf8[at]) & kFirstMask[length] : 0;
+    for (size_t i = 1; good && i < length; ++i) {
+      unsigned byte = static_cast<unsigned char>(utf8[at + i]);
+      good = (byte & 0xC0) == 0x80;
+      code = code << 6 | (byte & 0x3F);
+    }
+    if (!good || code < kLeast[length]) {
+      ansi->clear();
+      return false;
+    }
+    *ansi += ansiFromCode(code);
+    at += length;
+  }
+  return true;
+}
 
 std::string utf8FromAnsi(std::string_view ansi) {
   std::string out;
