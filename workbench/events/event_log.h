@@ -1,6 +1,7 @@
 // Where events go: to standard output, and to whoever waits for one (the script).
 #pragma once
 
+#include <deque>
 #include <functional>
 
 #include "workbench/events/event.h"
@@ -13,8 +14,8 @@ class EventLog {
   using Listener = std::function<void(const Event&)>;
 
   // Writes the event as one line, flushed at once, and calls the listener after
-  // it. An event emitted from within the listener is delivered after the
-  // current one.
+  // it. An event emitted from within the listener is written and delivered
+  // after the current one.
   void emit(const Event& event);
   // One listener at a time; an empty function removes it.
   void setListener(Listener listener);
@@ -24,6 +25,8 @@ class EventLog {
  private:
   Listener listener_;
   bool output_ = true;
+  bool delivering_ = false;
+  std::deque<Event> waiting_;  // emitted while another one was being delivered
 };
 
 }  // namespace workbench

@@ -1,0 +1,18 @@
+// Windows-1252 text as UTF-8, and back. Plain functions, any thread.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace workbench {
+
+// The five bytes that Windows-1252 leaves free become the control characters of
+// the same number, as Windows itself converts them.
+std::string utf8FromAnsi(std::string_view ansi);
+// Returns false, with ansi empty, when the text is not UTF-8. A character that
+// Windows-1252 does not have becomes "?".
+bool ansiFromUtf8(std::string_view utf8, std::string* ansi);
+// A JSON string literal, quotes included.
+std::string jsonString(std::string_view ansi);
+
+}  // namespace workbench

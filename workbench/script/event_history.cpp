@@ -1,0 +1,102 @@
+#include "workbench/script/event_history.h"
+
+namespace workbench {
+namespace {
+
+constexpr size_t kKept = 20000;
+
+// "&File\tF10" is "File"; "&&" is a real ampersand.
+std::string plainItemText(std::string_view text) {
+  std::string plain;
+  text = text.substr(0, text.find('\t'));
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '&' && i + 1 < text.size()) {
+      ++i;
+    }
+    plain += text[i];
+  }
+  return plain;
+}
+
+bool anyItem(const Event& event, std::string_view key_pattern, const std::string& value,
+             bool plain_too) {
+  for (const EventField& field : event.itemFields()) {
+    if (wildcardMatch(key_pattern, field.key) &&
+        (wildcardMatch(value, field.text) ||
+         (plain_too && wildcardMatch(value, plainItemText(field.text))))) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool wildcardMatch(std::string_view pattern, std::string_view text) {
+  size_t p = 0, t = 0, star = std::string_view::npos, resume = 0;
+  while (t < text.size()) {
+    if (p < pattern.size() && pattern[p] == '*') {
+      star = p++;
+      resume = t;
+    } else if (p < pattern.size() && pattern[p] == text[t]) {
+      ++p;
+      ++t;
+    } else if (star != std::string_view::npos) {
+      p = star + 1;
+      t = ++resume;
+    } else {
+      return false;
+    }
+  }
+  while (p < pattern.size() && pattern[p] == '*') {
+    ++p;
+  }
+  return p == pattern.size();
+}
+
+bool EventQuery::matches(const Event& event) const {
+  if (event.name() != name) {
+    return false;
+  }
+  if (!key) {
+    return true;
+  }
+  if (const std::string* text = event.find(*key)) {
+    return wildcardMatch(value, *text);
+  }
+  if (*key == "item") {
+    return anyItem(event, "items.*.text", value, true);
+  }
+  if (*key == "count") {
+    const std::string* count = event.find("items");
+    return count != nullptr && wildcardMatch(value, *count);
+  }
+  return key->find('*') != std::string::npos && anyItem(event, *key, value, false);
+}
+
+void EventHistory::add(const Event& event) {
+  events_.push_back(event);
+  if (events_.size() > kKept) {
+    events_.pop_front();
+    ++dropped_;
+  }
+}
+
+const Event* EventHistory::latest(std::string_view name) const {
+  for (auto event = events_.rbegin(); event != events_.rend(); ++event) {
+    if (event->name() == name) {
+      return &*event;
+    }
+  }
+  return nullptr;
+}
+
+size_t EventHistory::find(const EventQuery& query, size_t from) const {
+  size_t position = from < dropped_ ? dropped_ : from;
+  while (position < end() && !query.matches(at(position))) {
+    ++position;
+  }
+  return position;
+}
+
+}  // namespace workbench

@@ -1,0 +1,48 @@
+// What has happened so far, and the questions a script asks about it. Plain
+// values, no window.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "workbench/events/event.h"
+
+namespace workbench {
+
+// "*" in the pattern stands for any text, also none.
+bool wildcardMatch(std::string_view pattern, std::string_view text);
+
+// "EVENT" or "EVENT KEY VALUE". The value may hold wildcards. A key is the name
+// of a field; "items.2.text" is a field of a list's item, "items.*.text" that of
+// any item. In short, "item" is the text of any item, with or without its "&"
+// and what follows a tab, and "count" the number of items.
+struct EventQuery {
+  std::string name;
+  std::optional<std::string> key;
+  std::string value;
+
+  bool matches(const Event& event) const;
+};
+
+// Positions count events from the start of the run and stay valid when the
+// oldest events are let go (the last 20000 are kept).
+class EventHistory {
+ public:
+  void add(const Event& event);
+  // The position that the next event will get.
+  size_t end() const { return dropped_ + events_.size(); }
+  // The most recent event of that name, or null.
+  const Event* latest(std::string_view name) const;
+  // The position of the first match at or after one, or end().
+  size_t find(const EventQuery& query, size_t from) const;
+  const Event& at(size_t position) const { return events_[position - dropped_]; }
+
+ private:
+  std::deque<Event> events_;
+  size_t dropped_ = 0;
+};
+
+}  // namespace workbench

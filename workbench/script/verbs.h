@@ -1,0 +1,68 @@
+// The verbs of a script: names, how many arguments each takes, and what may be
+// open on the screen when its step runs. Plain values.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace workbench {
+
+enum class Verb {
+  kActivate,
+  kAnswer,
+  kCaret,
+  kCheck,
+  kChoose,
+  kClickAt,
+  kClickCaption,
+  kClickTitle,
+  kClose,
+  kCommand,
+  kDeactivate,
+  kDump,
+  kEcho,
+  kEdit,
+  kExpect,
+  kExpectNot,
+  kExpectRegistry,
+  kHandles,
+  kKey,
+  kMark,
+  kMinimize,
+  kOpen,
+  kPress,
+  kQuit,
+  kRegistryDelete,
+  kRegistrySet,
+  kRestore,
+  kRightClickTitle,
+  kSave,
+  kScreenshot,
+  kSelect,
+  kSelectItem,
+  kSet,
+  kTick,
+  kType,
+  kWait,
+};
+inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWait) + 1;
+
+// Whether a step waits while a message box that nobody has answered is open.
+enum class Readiness {
+  kBesideBoxes,  // runs at any time
+  kWithoutBox,   // waits for the box to go
+};
+
+struct VerbInfo {
+  Verb verb;
+  std::string_view name;
+  size_t min_args;
+  size_t max_args;
+  Readiness readiness;
+  std::string_view usage;
+};
+
+// Returns null for a name that is no verb.
+const VerbInfo* findVerb(std::string_view name);
+
+}  // namespace workbench
