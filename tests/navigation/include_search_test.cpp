@@ -40,7 +40,8 @@ class FakeDisk : public DirectoryLister {
 
 std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
   String found("untouched");
-  CHECK(findInclude(disk, path, name, found) == !(found == "untouched"));
+  const bool success = findInclude(disk, path, name, found);
+  CHECK(success == !(found == "untouched"));
   return found.text();
 }
 

@@ -15,8 +15,12 @@ std::string shown(const MenuPlan& plan) {
   for (const MenuPlanItem& item : plan) {
     all += item.column_break ? "|" : "";
     all += item.text;
-    all += item.submenu.empty() ? "=" + std::to_string(item.id)
-                                : "{" + shown(item.submenu) + "}" + std::to_string(item.id);
+    if (!item.submenu.empty()) {
+      all.append("{").append(shown(item.submenu)).append("}");
+    } else {
+      all += '=';
+    }
+    all += std::to_string(item.id);
     all += ' ';
   }
   return all;
