@@ -124,9 +124,11 @@ void String::append(const char* source, std::size_t size) {
   }
   const bool own = source >= text_ && source <= text_ + length_;
   const std::size_t offset = own ? static_cast<std::size_t>(source - text_) : 0;
-  const std::size_t old_length = length_;
-  resize(old_length + size);
-  memmove(text_ + old_length, own ? text_ + offset : source, size);
+  // A caller may have shortened the text by writing a terminator into it.
+  const std::size_t end = strlen(text_);
+  resize(length_ + size);
+  memmove(text_ + end, own ? text_ + offset : source, size);
+  memset(text_ + end + size, 0, length_ - end - size);
 }
 
 int String::fWrite(FILE* file) const {

@@ -54,7 +54,8 @@ class String : public Basic {
   const char* text() const { return text_; }
   int length() const { return length_; }
   bool empty() const { return text_[0] == '\0'; }
-  std::string_view view() const { return {text_, length_}; }
+  // Up to the first zero byte, as every other user of the text sees it.
+  std::string_view view() const { return text_; }
 
   // The character at index, the terminator included. Any other index shows an
   // "Erreur" box and yields a shared empty string, emptied anew at each such call.

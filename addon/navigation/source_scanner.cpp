@@ -1,5 +1,7 @@
 #include "addon/navigation/source_scanner.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -8,6 +10,10 @@ namespace kesto {
 namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
+
+std::string_view upToZero(std::string_view text) {
+  return text.substr(0, text.find('\0'));
+}
 
 bool endsLine(char c) {
   return c == '\n' || c == '\r' || c == '\0';
@@ -36,13 +42,21 @@ const char* findLineEnd(const char* at, const char* end) {
   return at;
 }
 
-// What follows the line that ends at line_end.
-const char* nextLine(const char* line_end, const char* end) {
-  if (line_end == end || *line_end == '\0') {
-    return end;
+// Lines that end in [from, to). The byte at to is the text's as well.
+int countLineEnds(const char* from, const char* to) {
+  // Sums of a byte each let the compiler count many bytes at once.
+  constexpr std::ptrdiff_t kByteSum = 240;
+  int count = 0;
+  while (from != to) {
+    const char* const stop = to - from > kByteSum ? from + kByteSum : to;
+    std::uint8_t sum = 0;
+    for (; from != stop; ++from) {
+      const bool lone_cr = (from[0] == '\r') & (from[1] != '\n');
+      sum = static_cast<std::uint8_t>(sum + ((from[0] == '\n') | lone_cr));
+    }
+    count += sum;
   }
-  const bool pair = *line_end == '\r' && end - line_end > 1 && line_end[1] == '\n';
-  return line_end + (pair ? 2 : 1);
+  return count;
 }
 
 bool isVisible(char c) {
@@ -68,41 +82,110 @@ std::size_t wordStart(std::string_view head, std::size_t last) {
   return last;
 }
 
-bool mayStartDefinition(const char* line, const char* end) {
-  switch (*line) {
+// line holds one character at least, and that is visible and below 128.
+bool mayStartDefinition(std::string_view line) {
+  switch (line.front()) {
     case '#':
     case '/':
       return false;
     case ':':
-      return end - line > 1 && line[1] == ':';
+      return line.starts_with("::");
     default:
-      return static_cast<signed char>(*line) >= 33;
+      return true;
   }
 }
 
-void scanLine(std::string_view line, int number, Tableau<Fnc>& functions) {
-  if (memchr(line.data(), ';', line.size()) != nullptr) {
-    return;
+// What stands before the first "(" of a line that may hold a definition, else empty.
+std::string_view definitionHead(std::string_view line) {
+  if (!mayStartDefinition(line) || line.find(';') != kNone) {
+    return {};
   }
   const std::size_t parenthesis = line.find('(');
-  if (parenthesis == kNone || parenthesis == 0) {
-    return;
-  }
-  const std::string_view head = line.substr(0, parenthesis);
-  const std::size_t scope = head.find("::");
+  return parenthesis == kNone ? std::string_view() : line.substr(0, parenthesis);
+}
+
+struct DefinitionName {
   std::string_view class_name;
   std::string_view name;
-  if (scope != kNone && scope > 0) {
-    const std::size_t start = wordStart(head, scope - 1);
-    class_name = withoutMarks(head.substr(start, scope - start));
-    name = withoutMarks(head.substr(scope + 2));
-  } else {
-    name = withoutMarks(head.substr(wordStart(head, head.size() - 1)));
+};
+
+// head is not empty.
+DefinitionName splitHead(std::string_view head) {
+  const std::size_t scope = head.find("::");
+  if (scope == kNone || scope == 0) {
+    return {{}, withoutMarks(head.substr(wordStart(head, head.size() - 1)))};
   }
-  if (!name.empty()) {
-    functions.append(new Fnc(name, class_name, number));
-  }
+  const std::size_t start = wordStart(head, scope - 1);
+  return {withoutMarks(head.substr(start, scope - start)), withoutMarks(head.substr(scope + 2))};
 }
+
+// Goes through the lines that start with a visible character in column one.
+class FunctionScan {
+ public:
+  FunctionScan(std::string_view text, Tableau<Fnc>& functions)
+      : counted_(text.data()), end_(text.data() + text.size()), functions_(functions) {}
+
+  void run() {
+    const char* at = counted_;
+    if (at == end_) {
+      return;
+    }
+    if (static_cast<signed char>(*at) > 32) {
+      scanLine(at);
+    }
+    for (++at; at != end_; at += marked_) {
+      markLineStarts(at);
+      scanMarked(at);
+    }
+  }
+
+ private:
+  // A piece of the text is marked in one go and then looked through word by word:
+  // most bytes, and most lines, cost no decision of their own.
+  static constexpr std::ptrdiff_t kPiece = 4096;
+
+  // Marks the bytes from at on that are visible and follow a line end.
+  void markLineStarts(const char* at) {
+    marked_ = std::min(kPiece, end_ - at);
+    for (std::ptrdiff_t i = 0; i < marked_; ++i) {
+      const char before = at[i - 1];
+      marks_[i] = static_cast<std::uint8_t>(((before == '\n') | (before == '\r')) &
+                                            (static_cast<signed char>(at[i]) > 32));
+    }
+    std::fill(marks_ + marked_, marks_ + (marked_ + 7) / 8 * 8, std::uint8_t{0});
+  }
+
+  void scanMarked(const char* at) {
+    for (std::ptrdiff_t i = 0; i < marked_; i += 8) {
+      std::uint64_t word = 0;
+      memcpy(&word, marks_ + i, sizeof word);
+      for (; word != 0; word &= word - 1) {
+        scanLine(at + i + std::countr_zero(word) / 8);
+      }
+    }
+  }
+
+  void scanLine(const char* line) {
+    const char* const line_end = findLineEnd(line, end_);
+    const std::string_view head = definitionHead({line, static_cast<std::size_t>(line_end - line)});
+    if (head.empty()) {
+      return;
+    }
+    const DefinitionName found = splitHead(head);
+    if (!found.name.empty()) {
+      line_number_ += countLineEnds(counted_, line);
+      counted_ = line;
+      functions_.append(new Fnc(found.name, found.class_name, line_number_));
+    }
+  }
+
+  const char* counted_;  // a line's start, line_number_ its number
+  const char* const end_;
+  Tableau<Fnc>& functions_;
+  int line_number_ = 1;
+  std::ptrdiff_t marked_ = 0;
+  std::uint8_t marks_[kPiece];
+};
 
 int compareFunctions(const Fnc& left, const Fnc& right) {
   const int classes = strcmp(left.className(), right.className());
@@ -132,15 +215,7 @@ std::string_view includeName(std::string_view line) {
 
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
   functions.clear();
-  const char* line = text.data();
-  const char* const end = line + text.size();
-  for (int number = 1; line != end; ++number) {
-    const char* const line_end = findLineEnd(line, end);
-    if (line_end != line && mayStartDefinition(line, line_end)) {
-      scanLine({line, static_cast<std::size_t>(line_end - line)}, number, functions);
-    }
-    line = nextLine(line_end, end);
-  }
+  FunctionScan(upToZero(text), functions).run();
 }
 
 void sortFunctions(Tableau<Fnc>& functions) {
@@ -150,7 +225,7 @@ void sortFunctions(Tableau<Fnc>& functions) {
 void scanIncludes(std::string_view text, Tableau<String>& includes) {
   constexpr std::string_view kDirective = "#include";
   includes.clear();
-  text = text.substr(0, text.find('\0'));
+  text = upToZero(text);
   const char* const end = text.data() + text.size();
   std::size_t from = 0;
   for (;;) {
