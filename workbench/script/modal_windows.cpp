@@ -35,7 +35,10 @@ std::string buttonWords(HWND box) {
        child = GetWindow(child, GW_HWNDNEXT)) {
     for (const Button& button : kButtons) {
       if (GetDlgCtrlID(child) == button.id && windowClass(child) == "Button") {
-        words += (words.empty() ? "" : ",") + std::string(button.word);
+        if (!words.empty()) {
+          words += ',';
+        }
+        words += button.word;
       }
     }
   }

@@ -1,0 +1,15 @@
+// Plain text on the clipboard. User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace workbench {
+
+// Line ends go out as CR LF. Returns false when the clipboard cannot be had.
+bool putOnClipboard(HWND owner, const std::string& text);
+// False when there is no text.
+bool takeFromClipboard(HWND owner, std::string* text);
+
+}  // namespace workbench

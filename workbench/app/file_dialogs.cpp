@@ -1,0 +1,78 @@
+#include "workbench/app/file_dialogs.h"
+
+#include <commdlg.h>
+#include <shlobj.h>
+
+#include <cstring>
+
+#include "workbench/project/path_text.h"
+
+namespace workbench {
+namespace {
+
+constexpr char kFilter[] =
+    "C++ sources (*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh)\0*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh\0"
+    "Resource scripts (*.rc;*.rh)\0*.rc;*.rh\0"
+    "All files (*.*)\0*.*\0";
+
+struct NameDialog {
+  OPENFILENAMEA info = {};
+  char path[MAX_PATH] = {};
+  std::string folder;
+
+  NameDialog(HWND owner, const std::string& start_folder, DWORD flags) : folder(start_folder) {
+    info.lStructSize = sizeof info;
+    info.hwndOwner = owner;
+    info.lpstrFilter = kFilter;
+    info.lpstrFile = path;
+    info.nMaxFile = sizeof path;
+    info.lpstrInitialDir = folder.c_str();
+    info.Flags = flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
+  }
+};
+
+}  // namespace
+
+bool askOpenName(HWND owner, const std::string& folder, std::string* path) {
+  NameDialog dialog(owner, folder, OFN_FILEMUSTEXIST);
+  dialog.info.lpstrTitle = "Open a file";
+  if (GetOpenFileNameA(&dialog.info) == 0) {
+    return false;
+  }
+  *path = dialog.path;
+  return true;
+}
+
+bool askSaveName(HWND owner, std::string* path) {
+  NameDialog dialog(owner, std::string(folderOf(*path)), OFN_OVERWRITEPROMPT);
+  dialog.info.lpstrTitle = "Save file as";
+  dialog.info.lpstrDefExt = "cpp";
+  const std::string name(fileName(*path));
+  std::memcpy(dialog.path, name.c_str(), name.size() < MAX_PATH ? name.size() + 1 : 0);
+  if (GetSaveFileNameA(&dialog.info) == 0) {
+    return false;
+  }
+  *path = dialog.path;
+  return true;
+}
+
+bool askFolder(HWND owner, std::string* path) {
+  char name[MAX_PATH] = {};
+  BROWSEINFOA info = {};
+  info.hwndOwner = owner;
+  info.pszDisplayName = name;
+  info.lpszTitle = "Open a folder of sources as a project";
+  info.ulFlags = BIF_RETURNONLYFSDIRS;
+  LPITEMIDLIST list = SHBrowseForFolderA(&info);
+  if (list == nullptr) {
+    return false;
+  }
+  const bool done = SHGetPathFromIDListA(list, name) != 0;
+  CoTaskMemFree(list);
+  if (done) {
+    *path = name;
+  }
+  return done;
+}
+
+}  // namespace workbench

@@ -1,0 +1,156 @@
+#include "workbench/app/frame.h"
+
+#include <algorithm>
+
+#include "ideapi/ide_identifiers.h"
+#include "workbench/app/command_ids.h"
+#include "workbench/app/names.h"
+
+namespace workbench {
+namespace {
+
+constexpr UINT kCheckDisk = WM_APP + 1;
+// The Window menu, to which the system appends the list of children.
+constexpr int kWindowMenuPosition = 4;
+
+}  // namespace
+
+bool Frame::create(HINSTANCE instance) {
+  instance_ = instance;
+  WNDCLASSA info = {};
+  info.lpfnWndProc = windowProc;
+  info.cbWndExtra = sizeof(LONG);
+  info.hInstance = instance;
+  info.hIcon = LoadIconA(nullptr, reinterpret_cast<LPCSTR>(IDI_APPLICATION));
+  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_APPWORKSPACE + 1);
+  info.lpszClassName = ideapi::kFrameClass;
+  accelerators_.reset(LoadAcceleratorsA(instance, MAKEINTRESOURCEA(IDA_FRAME)));
+  OwnedMenu menu(LoadMenuA(instance, MAKEINTRESOURCEA(IDM_FRAME)));
+  if (RegisterClassA(&info) == 0 || !StatusBar::registerClass(instance)) {
+    return false;
+  }
+  RECT area = {};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+  // An add-on may lay a bar of a menu's height over the screen's top edge.
+  area.top += GetSystemMetrics(SM_CYMENU) + 2 * GetSystemMetrics(SM_CYEDGE);
+  return CreateWindowExA(0, ideapi::kFrameClass, kFrameTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                         area.left, area.top, area.right - area.left, area.bottom - area.top,
+                         nullptr, menu.release(), instance, this) != nullptr;
+}
+
+bool Frame::createClient() {
+  CLIENTCREATESTRUCT info = {GetSubMenu(GetMenu(window_), kWindowMenuPosition), CM_FIRST_CHILD};
+  mdi_client_ = CreateWindowExA(WS_EX_CLIENTEDGE, ideapi::kMdiClientClass, nullptr,
+                                WS_CHILD | WS_CLIPCHILDREN | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL,
+                                0, 0, 0, 0, window_, nullptr, instance_, &info);
+  return mdi_client_ != nullptr && status_.create(window_, instance_);
+}
+
+LRESULT CALLBACK Frame::windowProc(HWND window, UINT message, WPARAM w, LPARAM l) {
+  auto* self = reinterpret_cast<Frame*>(GetWindowLongA(window, 0));
+  if (message == WM_NCCREATE) {
+    self = static_cast<Frame*>(reinterpret_cast<CREATESTRUCTA*>(l)->lpCreateParams);
+    self->window_ = window;
+    SetWindowLongA(window, 0, reinterpret_cast<LONG>(self));
+  }
+  return self != nullptr ? self->handleMessage(message, w, l)
+                         : DefFrameProcA(window, nullptr, message, w, l);
+}
+
+LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
+  switch (message) {
+    case WM_CREATE:
+      return createClient() ? 0 : -1;
+    case WM_SIZE:
+      layOut();
+      return 0;
+    case WM_COMMAND:
+      if (LOWORD(w) < CM_FIRST_CHILD && l == 0 && (HIWORD(w) == 0 || HIWORD(w) == 1)) {
+        handler_.frameCommand(LOWORD(w));
+      }
+      break;
+    case WM_INITMENUPOPUP:
+      if (HIWORD(l) == 0) {
+        enableItems(reinterpret_cast<HMENU>(w));
+      }
+      break;
+    case WM_ACTIVATEAPP:
+      if (w != 0) {
+        // Asking from within the activation would fight over the focus.
+        PostMessageA(window_, kCheckDisk, 0, 0);
+      }
+      break;
+    case kCheckDisk:
+      if (!closing_ && IsWindowEnabled(window_) != 0) {
+        handler_.programActivated();
+      }
+      return 0;
+    case WM_QUERYENDSESSION:
+      return handler_.mayCloseFrame() ? TRUE : FALSE;
+    case WM_CLOSE:
+      close();
+      return 0;
+    case WM_DESTROY:
+      PostQuitMessage(0);
+      return 0;
+    case WM_NCDESTROY: {
+      const HWND client = mdi_client_;
+      const HWND window = window_;
+      SetWindowLongA(window_, 0, 0);
+      window_ = mdi_client_ = nullptr;
+      return DefFrameProcA(window, client, message, w, l);
+    }
+    default:
+      break;
+  }
+  return DefFrameProcA(window_, mdi_client_, message, w, l);
+}
+
+void Frame::close() {
+  if (closing_ || !handler_.mayCloseFrame()) {
+    return;
+  }
+  closing_ = true;
+  handler_.frameClosing();
+  DestroyWindow(window_);
+}
+
+void Frame::layOut() {
+  RECT area = {};
+  GetClientRect(window_, &area);
+  const int bar = std::min(static_cast<int>(area.bottom), status_.height());
+  MoveWindow(mdi_client_, 0, 0, area.right, area.bottom - bar, TRUE);
+  MoveWindow(status_.window(), 0, area.bottom - bar, area.right, bar, TRUE);
+}
+
+void Frame::enableItems(HMENU menu) {
+  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+    const UINT id = GetMenuItemID(menu, i);
+    if (id != static_cast<UINT>(-1) && id != 0 && id < CM_FIRST_CHILD) {
+      EnableMenuItem(
+          menu, id,
+          MF_BYCOMMAND | (handler_.commandEnabled(static_cast<int>(id)) ? MF_ENABLED : MF_GRAYED));
+    }
+  }
+}
+
+void Frame::setTitle(const std::string& title) {
+  SetWindowTextA(window_, title.c_str());
+}
+
+int Frame::run() {
+  MSG message = {};
+  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    if (mdi_client_ != nullptr &&
+        (TranslateMDISysAccel(mdi_client_, &message) != 0 ||
+         TranslateAcceleratorA(window_, accelerators_.get(), &message) != 0)) {
+      continue;
+    }
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+}  // namespace workbench

@@ -1,0 +1,60 @@
+// The frame window ("CPPFRAME") with its menu, the MDI client and the status
+// line. It knows windows and nothing of files; the handler must outlive it.
+// User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "workbench/app/handles.h"
+#include "workbench/app/status_bar.h"
+
+namespace workbench {
+
+class FrameHandler {
+ public:
+  virtual void frameCommand(int id) = 0;
+  // Whether the command can be given now.
+  virtual bool commandEnabled(int id) = 0;
+  // False keeps the frame open.
+  virtual bool mayCloseFrame() = 0;
+  // The editors are gone, the frame's windows still stand.
+  virtual void frameClosing() = 0;
+  virtual void programActivated() = 0;
+
+ protected:
+  ~FrameHandler() = default;
+};
+
+class Frame {
+ public:
+  explicit Frame(FrameHandler& handler) : handler_(handler) {}
+
+  // Returns false when the window cannot be made.
+  bool create(HINSTANCE instance);
+  HWND window() const { return window_; }
+  HWND mdiClient() const { return mdi_client_; }
+  StatusBar& statusBar() { return status_; }
+  void setTitle(const std::string& title);
+  // Runs the message loop until the program ends; returns its exit code.
+  int run();
+
+ private:
+  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
+  LRESULT handleMessage(UINT message, WPARAM w, LPARAM l);
+  bool createClient();
+  void layOut();
+  void enableItems(HMENU menu);
+  void close();
+
+  FrameHandler& handler_;
+  HINSTANCE instance_ = nullptr;
+  HWND window_ = nullptr;
+  HWND mdi_client_ = nullptr;
+  StatusBar status_;
+  OwnedAccelerators accelerators_;
+  bool closing_ = false;
+};
+
+}  // namespace workbench

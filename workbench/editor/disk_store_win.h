@@ -1,0 +1,17 @@
+// The file store on the disk.
+#pragma once
+
+#include "workbench/editor/file_store.h"
+
+namespace workbench {
+
+class DiskStore final : public FileStore {
+ public:
+  FileStamp stamp(const std::string& path) override;
+  FileFault read(const std::string& path, std::uint64_t limit, std::string* bytes) override;
+  FileFault write(const std::string& path, const std::string& bytes) override;
+  FileFault replace(const std::string& from, const std::string& to) override;
+  void remove(const std::string& path) override;
+};
+
+}  // namespace workbench

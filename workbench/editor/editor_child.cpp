@@ -1,0 +1,146 @@
+#include "workbench/editor/editor_child.h"
+
+#include <utility>
+
+#include "ideapi/ide_identifiers.h"
+
+namespace workbench {
+
+bool EditorChild::registerClass(HINSTANCE instance) {
+  WNDCLASSA info = {};
+  info.lpfnWndProc = windowProc;
+  info.cbWndExtra = sizeof(LONG);
+  info.hInstance = instance;
+  info.hIcon = LoadIconA(nullptr, reinterpret_cast<LPCSTR>(IDI_APPLICATION));
+  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+  info.lpszClassName = ideapi::kEditorClass;
+  return RegisterClassA(&info) != 0;
+}
+
+EditorChild::EditorChild(std::shared_ptr<OpenFile> file, const EditorSettings& settings,
+                         EditorChildHost& host)
+    : file_(std::move(file)), host_(host), text_(file_->document, settings, *this) {
+  file_->document.addListener(this);
+}
+
+EditorChild::~EditorChild() {
+  file_->document.removeListener(this);
+}
+
+bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
+  instance_ = instance;
+  const std::string caption = title();
+  MDICREATESTRUCTA info = {};
+  info.szClass = ideapi::kEditorClass;
+  info.szTitle = caption.c_str();
+  info.hOwner = instance;
+  info.x = info.y = info.cx = info.cy = CW_USEDEFAULT;
+  info.lParam = reinterpret_cast<LPARAM>(this);
+  return SendMessageA(mdi_client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&info)) != 0;
+}
+
+LRESULT CALLBACK EditorChild::windowProc(HWND window, UINT message, WPARAM w, LPARAM l) {
+  auto* self = reinterpret_cast<EditorChild*>(GetWindowLongA(window, 0));
+  if (message == WM_NCCREATE) {
+    const auto* create = reinterpret_cast<CREATESTRUCTA*>(l);
+    const auto* mdi = static_cast<MDICREATESTRUCTA*>(create->lpCreateParams);
+    self = reinterpret_cast<EditorChild*>(mdi->lParam);
+    self->window_ = window;
+    SetWindowLongA(window, 0, reinterpret_cast<LONG>(self));
+  }
+  if (self == nullptr) {
+    return DefMDIChildProcA(window, message, w, l);
+  }
+  if (message == WM_NCDESTROY) {
+    SetWindowLongA(window, 0, 0);
+    const LRESULT result = DefMDIChildProcA(window, message, w, l);
+    self->window_ = nullptr;
+    self->host_.childGone(*self);
+    return result;
+  }
+  return self->handleMessage(message, w, l);
+}
+
+LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
+  switch (message) {
+    case WM_CREATE:
+      return text_.create(window_, instance_) != nullptr ? 0 : -1;
+    case WM_SIZE:
+      if (w != SIZE_MINIMIZED) {
+        MoveWindow(text_.window(), 0, 0, LOWORD(l), HIWORD(l), TRUE);
+      }
+      break;
+    case WM_SETFOCUS:
+      SetFocus(text_.window());
+      return 0;
+    case WM_MDIACTIVATE:
+      if (reinterpret_cast<HWND>(l) == window_) {
+        host_.childActivated(*this);
+      }
+      break;
+    case WM_CLOSE:
+      if (!host_.mayClose(*this)) {
+        return 0;
+      }
+      break;
+    default:
+      break;
+  }
+  return DefMDIChildProcA(window_, message, w, l);
+}
+
+std::string EditorChild::title() const {
+  std::string result = file_->path;
+  if (number_ > 0) {
+    result += ':';
+    result += std::to_string(number_);
+  }
+  if (file_->document.modified()) {
+    result += " *";
+  }
+  return result;
+}
+
+void EditorChild::setViewNumber(int number) {
+  number_ = number;
+  updateTitle();
+}
+
+void EditorChild::updateTitle() {
+  if (window_ != nullptr) {
+    SetWindowTextA(window_, title().c_str());
+  }
+}
+
+void EditorChild::caret(int* line, int* column) {
+  *line = text_.caret().line + 1;
+  *column = text_.caret().column + 1;
+}
+
+void EditorChild::setCaret(int line, int column) {
+  text_.setCaret({line - 1, column - 1});
+}
+
+void EditorChild::select(int line1, int column1, int line2, int column2) {
+  text_.select({line1 - 1, column1 - 1}, {line2 - 1, column2 - 1});
+}
+
+void EditorChild::type(const std::string& text) {
+  text_.type(text);
+}
+
+void EditorChild::textCaretMoved() {
+  host_.childChanged(*this);
+}
+
+void EditorChild::textFocused() {
+  host_.childChanged(*this);
+}
+
+void EditorChild::documentStateChanged() {
+  updateTitle();
+  host_.childChanged(*this);
+}
+
+}  // namespace workbench

@@ -1,0 +1,80 @@
+// All open editors: opening, finding, saving and closing them without ever
+// losing an edit unasked. User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "workbench/editor/editor_child.h"
+
+namespace workbench {
+
+class EditorSet final : public EditorChildHost {
+ public:
+  EditorSet(FileStore& store, EditorSettings& settings) : store_(store), settings_(settings) {}
+
+  // Both windows must outlive the editors.
+  void attach(HWND frame, HWND mdi_client, HINSTANCE instance);
+  // Called when the active editor, its caret or its state changes.
+  void setChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
+
+  // The topmost editor of the file, or null.
+  EditorChild* find(const std::string& path) const;
+  // Null for a handle whose editor is gone.
+  EditorChild* byHandle(unsigned int handle) const;
+  EditorChild* active() const;
+  // Brings the file's editor forward or opens one; null when it cannot be read
+  // (the reason has been shown).
+  EditorChild* open(const std::string& path);
+  // A new unnamed text; its proposed path lies in the folder.
+  EditorChild* create(const std::string& folder);
+  EditorChild* newView(EditorChild& child);
+  void bringForward(EditorChild& child);
+
+  // False when the file could not be written or the user chose not to.
+  bool save(OpenFile& file);
+  bool saveAs(OpenFile& file);
+  // Saves every modified file; false when one could not be. Names are appended.
+  bool saveAll(std::vector<std::string>* names);
+  // Asks about every modified file; false when the user cancelled or a save failed.
+  bool askToSaveAll();
+  // Asks, then closes every editor.
+  bool closeAll();
+  // Offers to read again what other programs changed.
+  void checkDisk();
+  void settingsChanged();
+  const std::vector<std::unique_ptr<EditorChild>>& all() const { return children_; }
+
+  bool mayClose(EditorChild& child) override;
+  bool saveChild(EditorChild& child) override { return save(child.openFile()); }
+  void childGone(EditorChild& child) override;
+  void childActivated(EditorChild& child) override;
+  void childChanged(EditorChild& child) override;
+  bool mayEdit(EditorChild& child) override;
+
+ private:
+  EditorChild* show(std::shared_ptr<OpenFile> file);
+  std::vector<std::shared_ptr<OpenFile>> files() const;
+  std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
+  void renumber(const OpenFile& file);
+  bool askToSave(OpenFile& file);
+  bool write(OpenFile& file, const std::string& path);
+  void checkOnDisk(OpenFile& file);
+  int ask(const std::string& text, UINT buttons);
+
+  FileStore& store_;
+  EditorSettings& settings_;
+  std::function<void()> changed_;
+  HWND frame_ = nullptr;
+  HWND mdi_client_ = nullptr;
+  HINSTANCE instance_ = nullptr;
+  std::vector<std::unique_ptr<EditorChild>> children_;
+  unsigned int last_handle_ = 0;
+  bool checking_ = false;
+};
+
+}  // namespace workbench

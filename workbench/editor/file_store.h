@@ -1,0 +1,55 @@
+// Reading and writing whole files without ever losing what a file held. The
+// store is the seam to the disk: tests hand in one that fails. One thread.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace workbench {
+
+enum class FileFault {
+  kNone,
+  kMissing,
+  kIsFolder,
+  kDenied,
+  kTooLarge,
+  kReadOnly,
+  kDiskFull,
+  kOther,
+};
+
+// What is known of a file on disk; two differing stamps mean that it changed.
+struct FileStamp {
+  bool exists = false;
+  bool read_only = false;
+  std::uint64_t size = 0;
+  std::uint64_t time = 0;
+  bool sameContent(const FileStamp& other) const {
+    return exists == other.exists && size == other.size && time == other.time;
+  }
+};
+
+class FileStore {
+ public:
+  virtual ~FileStore() = default;
+  virtual FileStamp stamp(const std::string& path) = 0;
+  // Reads the whole file unless it is larger than the limit, in bytes.
+  virtual FileFault read(const std::string& path, std::uint64_t limit, std::string* bytes) = 0;
+  // Creates the file or empties it, and writes all the bytes through to the disk.
+  virtual FileFault write(const std::string& path, const std::string& bytes) = 0;
+  // Puts one file in the place of another, which may be missing, in one step.
+  virtual FileFault replace(const std::string& from, const std::string& to) = 0;
+  virtual void remove(const std::string& path) = 0;
+};
+
+// The largest file an editor takes, in bytes.
+inline constexpr std::uint64_t kLargestText = 64u << 20;
+
+// Writes a temporary file beside the path and puts it in its place. After a
+// failure the path holds what it held, and no temporary file stays.
+FileFault saveFile(FileStore& store, const std::string& path, const std::string& bytes);
+
+// A sentence for the user, with the path.
+std::string describeFault(FileFault fault, const std::string& path);
+
+}  // namespace workbench

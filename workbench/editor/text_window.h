@@ -1,0 +1,133 @@
+// The text of an editor on screen: the "EditWindClass" window with its caret,
+// selection, scroll bars and keys. It shows a document that several may share;
+// document, settings and owner must outlive it. The object goes with its window.
+// User-interface thread only. Places are 0-based.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "workbench/app/handles.h"
+#include "workbench/editor/document.h"
+#include "workbench/editor/editor_settings.h"
+#include "workbench/editor/highlight.h"
+
+namespace workbench {
+
+class TextWindowOwner {
+ public:
+  // The caret, the selection or the insert mode changed.
+  virtual void textCaretMoved() = 0;
+  virtual void textFocused() = 0;
+  // False when the text may not be edited; the owner has said why.
+  virtual bool allowEdit() = 0;
+
+ protected:
+  ~TextWindowOwner() = default;
+};
+
+class TextWindow final : public DocumentListener {
+ public:
+  static bool registerClass(HINSTANCE instance);
+
+  TextWindow(Document& document, const EditorSettings& settings, TextWindowOwner& owner);
+  ~TextWindow();
+  TextWindow(const TextWindow&) = delete;
+  TextWindow& operator=(const TextWindow&) = delete;
+
+  // Returns 0 when the window cannot be made.
+  HWND create(HWND parent, HINSTANCE instance);
+  HWND window() const { return window_; }
+
+  Place caret() const { return caret_; }
+  bool insertMode() const { return insert_mode_; }
+  // A column past the end of its line stays there; typing fills the gap with blanks.
+  void setCaret(Place place, bool extend = false);
+  void select(Place from, Place to);
+  bool hasSelection() const { return !(anchor_ == caret_); }
+  std::string selection() const;
+  // Scrolls the least that shows the line, without moving the caret.
+  void showLine(int line);
+
+  // Replaces the selection as typing does.
+  void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
+  // Inserts at the caret, leaving it before the new text; the selection is given up.
+  void insertBefore(std::string_view text);
+  void undo();
+  void redo();
+  void copy();
+  void cut();
+  void paste();
+  void clear();
+  void selectAll();
+  // Selects the next place of the text from the caret, going round at the end.
+  bool findText(std::string_view what, bool match_case, bool backward);
+
+  void settingsChanged();
+  // While held, nothing is repainted; calls nest.
+  void holdPainting(bool hold);
+
+  void documentChanged(const DocumentChange& change) override;
+  void documentStateChanged() override {}
+
+ private:
+  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
+  LRESULT handle(UINT message, WPARAM w, LPARAM l);
+  LRESULT handleMouse(UINT message, WPARAM w, LPARAM l);
+  // text_keys.cpp
+  bool keyDown(WPARAM key);
+  bool controlKey(WPARAM key, bool shift);
+  bool motionKey(WPARAM key, bool shift, bool control);
+  void character(char c);
+  void breakLine();
+  void eraseBack(bool word);
+  void eraseForward(bool word);
+  void tabKey(bool shift);
+  void moveVertically(int lines, bool extend);
+  Place leftOf(Place place, bool word) const;
+  Place rightOf(Place place, bool word) const;
+  void eraseSelection();
+  // text_paint.cpp
+  void paint();
+  void paintLine(HDC dc, int line, const RECT& area);
+  void paintText(HDC dc, int line, const RECT& area);
+  void paintMargin(HDC dc, int line, const RECT& area);
+  int marginWidth() const;
+
+  void makeFont();
+  void updateScrollBars();
+  void scroll(int bar, WPARAM w);
+  void scrollTo(int top, int left);
+  void wheel(int delta);
+  void revealCaret();
+  void placeCaret();
+  void afterMove();
+  Place placeAt(int x, int y) const;
+  int visibleLines() const;
+  int visibleCells() const;
+  void trackWidth(int first, int last);
+
+  Document& document_;
+  const EditorSettings& settings_;
+  TextWindowOwner& owner_;
+  HWND window_ = nullptr;
+  OwnedFont font_;
+  int cell_width_ = 8;
+  int line_height_ = 16;
+  Highlighter highlighter_;
+  Place caret_;
+  Place anchor_;
+  int wanted_cell_ = -1;  // of vertical moves; -1 takes the caret's
+  int top_ = 0;           // first line shown
+  int left_ = 0;          // first cell shown
+  int widest_ = 0;        // cells; never shrinks before the text is read again
+  int wheel_rest_ = 0;
+  int painting_held_ = 0;
+  bool insert_mode_ = true;
+  bool dragging_ = false;
+  bool focused_ = false;
+};
+
+}  // namespace workbench
