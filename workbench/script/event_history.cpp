@@ -5,19 +5,6 @@ namespace {
 
 constexpr size_t kKept = 20000;
 
-// "&File\tF10" is "File"; "&&" is a real ampersand.
-std::string plainItemText(std::string_view text) {
-  std::string plain;
-  text = text.substr(0, text.find('\t'));
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '&' && i + 1 < text.size()) {
-      ++i;
-    }
-    plain += text[i];
-  }
-  return plain;
-}
-
 bool anyItem(const Event& event, std::string_view key_pattern, const std::string& value,
              bool plain_too) {
   for (const EventField& field : event.itemFields()) {
@@ -31,6 +18,18 @@ bool anyItem(const Event& event, std::string_view key_pattern, const std::string
 }
 
 }  // namespace
+
+std::string plainItemText(std::string_view text) {
+  std::string plain;
+  text = text.substr(0, text.find('\t'));
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '&' && i + 1 < text.size()) {
+      ++i;
+    }
+    plain += text[i];
+  }
+  return plain;
+}
 
 bool wildcardMatch(std::string_view pattern, std::string_view text) {
   size_t p = 0, t = 0, star = std::string_view::npos, resume = 0;

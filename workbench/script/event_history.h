@@ -14,6 +14,8 @@ namespace workbench {
 
 // "*" in the pattern stands for any text, also none.
 bool wildcardMatch(std::string_view pattern, std::string_view text);
+// A menu text as it reads: "&File\tF10" is "File", "&&" is a real ampersand.
+std::string plainItemText(std::string_view text);
 
 // "EVENT" or "EVENT KEY VALUE". The value may hold wildcards. A key is the name
 // of a field; "items.2.text" is a field of a list's item, "items.*.text" that of

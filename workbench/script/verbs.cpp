@@ -14,7 +14,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kChoose, "choose", 1, 1, kWithout, "choose \"MENU|ENTRY\", choose ID or choose #N"},
     {Verb::kClickAt, "click-at", 2, 2, kBeside, "click-at X Y"},
     {Verb::kClickCaption, "click-caption", 3, 3, kWithout, "click-caption FILE X Y"},
-    {Verb::kClickTitle, "click-title", 2, 2, kWithout, "click-title FILE 0|1|2"},
+    {Verb::kClickTitle, "click-title", 2, 3, kWithout, "click-title FILE 0|1|2 [left|right]"},
     {Verb::kClose, "close", 0, 0, kWithout, "close"},
     {Verb::kCommand, "command", 1, 1, kWithout, "command ID"},
     {Verb::kDeactivate, "deactivate", 0, 0, kBeside, "deactivate"},

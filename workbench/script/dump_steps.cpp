@@ -1,0 +1,148 @@
+#include "ideapi/ide_identifiers.h"
+#include "workbench/app/workbench.h"
+#include "workbench/events/event_log.h"
+#include "workbench/script/menu_reader.h"
+#include "workbench/script/steps.h"
+#include "workbench/script/window_text.h"
+
+namespace workbench {
+namespace {
+
+void addPlace(Event& event, HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  event.number("x", place.left)
+      .number("y", place.top)
+      .number("width", place.right - place.left)
+      .number("height", place.bottom - place.top);
+}
+
+StepResult dumpMenuOf(StepTry& step, HMENU menu, const char* what) {
+  if (menu == nullptr) {
+    return step.again(std::string("there is no ") + what, 2000);
+  }
+  step.stage.log.emit(menuEvent(menu));
+  return StepResult::kDone;
+}
+
+StepResult dumpMenu(StepTry& step) {
+  const MenuLoop* loop = step.stage.observer.menu();
+  HMENU menu = loop != nullptr ? loop->root : GetMenu(step.stage.workbench.frame());
+  return dumpMenuOf(step, menu, "menu");
+}
+
+StepResult dumpBar(StepTry& step) {
+  HWND bar = step.stage.workbench.addonBar();
+  return dumpMenuOf(step, bar != nullptr ? GetMenu(bar) : nullptr, "menu in the add-on's bar");
+}
+
+// From the topmost down.
+StepResult dumpEditors(StepTry& step) {
+  Workbench& workbench = step.stage.workbench;
+  EditorWindow* active = workbench.activeEditor();
+  std::vector<Event> items;
+  for (HWND window = GetWindow(workbench.mdiClient(), GW_CHILD); window != nullptr;
+       window = GetWindow(window, GW_HWNDNEXT)) {
+    if (windowClass(window) != ideapi::kEditorClass) {
+      continue;
+    }
+    Event item("");
+    item.text("title", windowText(window))
+        .flag("active", active != nullptr && active->window() == window)
+        .flag("iconic", IsIconic(window) != 0);
+    addPlace(item, window);
+    items.push_back(item);
+  }
+  step.stage.log.emit(Event("editors").list("items", items));
+  return StepResult::kDone;
+}
+
+BOOL CALLBACK addWindow(HWND window, LPARAM data) {
+  Event item("");
+  item.text("class", windowClass(window))
+      .text("title", windowText(window))
+      .flag("visible", IsWindowVisible(window) != 0)
+      .flag("enabled", IsWindowEnabled(window) != 0)
+      .flag("iconic", IsIconic(window) != 0)
+      .flag("topmost", (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0)
+      .flag("active", GetActiveWindow() == window);
+  addPlace(item, window);
+  reinterpret_cast<std::vector<Event>*>(data)->push_back(item);
+  return TRUE;
+}
+
+StepResult dumpWindows(StepTry& step) {
+  std::vector<Event> items;
+  EnumThreadWindows(GetCurrentThreadId(), addWindow, reinterpret_cast<LPARAM>(&items));
+  step.stage.log.emit(Event("windows").list("items", items));
+  return StepResult::kDone;
+}
+
+BOOL CALLBACK addControl(HWND control, LPARAM data) {
+  bool is_button = lstrcmpiA(windowClass(control).c_str(), "Button") == 0;
+  Event item("");
+  item.number("id", GetDlgCtrlID(control))
+      .text("class", windowClass(control))
+      .text("text", windowText(control))
+      .flag("checked", is_button && SendMessageA(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
+      .flag("enabled", IsWindowEnabled(control) != 0)
+      .flag("visible", IsWindowVisible(control) != 0);
+  reinterpret_cast<std::vector<Event>*>(data)->push_back(item);
+  return TRUE;
+}
+
+StepResult dumpDialog(StepTry& step) {
+  HWND dialog = step.stage.observer.windows().dialog();
+  if (dialog == nullptr) {
+    return step.again("no dialog is in front");
+  }
+  std::vector<Event> items;
+  EnumChildWindows(dialog, addControl, reinterpret_cast<LPARAM>(&items));
+  step.stage.log.emit(Event("controls").text("caption", windowText(dialog)).list("items", items));
+  return StepResult::kDone;
+}
+
+StepResult dumpText(StepTry& step) {
+  EditorWindow* editor = step.stage.workbench.activeEditor();
+  if (editor == nullptr) {
+    return step.again("no editor is open", 2000);
+  }
+  int line = 0, column = 0;
+  editor->caret(&line, &column);
+  step.stage.log.emit(Event("text")
+                          .text("file", editor->file())
+                          .number("line", line)
+                          .number("column", column)
+                          .flag("modified", editor->modified())
+                          .text("selection", editor->selection())
+                          .text("text", editor->text()));
+  return StepResult::kDone;
+}
+
+StepResult dumpProject(StepTry& step) {
+  Workbench& workbench = step.stage.workbench;
+  if (!workbench.hasProject()) {
+    return step.fail("no project is open");
+  }
+  step.stage.log.emit(Event("project-tree").text("directory", workbench.projectDirectory()));
+  return StepResult::kDone;
+}
+
+}  // namespace
+
+StepResult stepDump(StepTry& step) {
+  const struct {
+    const char* name;
+    Step dump;
+  } kinds[] = {{"menu", dumpMenu},       {"bar", dumpBar},       {"editors", dumpEditors},
+               {"windows", dumpWindows}, {"dialog", dumpDialog}, {"text", dumpText},
+               {"project", dumpProject}};
+  for (const auto& kind : kinds) {
+    if (step.arg(0) == kind.name) {
+      return kind.dump(step);
+    }
+  }
+  return step.fail("nothing to dump is called " + step.arg(0));
+}
+
+}  // namespace workbench

@@ -1,0 +1,82 @@
+#include "workbench/events/event_log.h"
+#include "workbench/script/steps.h"
+
+namespace workbench {
+namespace {
+
+constexpr unsigned kWaitMs = 20000;
+constexpr unsigned kExpectMs = 5000;
+
+EventQuery queryOf(const StepTry& step) {
+  EventQuery query{step.arg(0), std::nullopt, {}};
+  if (step.argCount() == 3) {
+    query.key = step.arg(1);
+    query.value = step.arg(2);
+  }
+  return query;
+}
+
+std::string wording(const EventQuery& query) {
+  return query.name + (query.key ? " " + *query.key + " \"" + query.value + "\"" : "");
+}
+
+// The latest event of the name, for the reason of a failure.
+std::string seen(const StepTry& step) {
+  const Event* latest = step.stage.history.latest(step.arg(0));
+  return latest == nullptr ? "no " + step.arg(0) + " has come"
+                           : "the latest was " + latest->toJson();
+}
+
+}  // namespace
+
+StepResult stepWait(StepTry& step) {
+  if (step.argCount() == 2) {
+    return step.fail("usage: wait EVENT [KEY VALUE]");
+  }
+  Stage& stage = step.stage;
+  EventQuery query = queryOf(step);
+  size_t found = stage.history.find(query, stage.wait_from);
+  if (found == stage.history.end()) {
+    return step.again("waited for " + wording(query) + ": " + seen(step), kWaitMs);
+  }
+  stage.wait_from = found + 1;
+  return StepResult::kDone;
+}
+
+StepResult stepExpect(StepTry& step) {
+  EventQuery query = queryOf(step);
+  const Event* latest = step.stage.history.latest(query.name);
+  if (latest != nullptr && query.matches(*latest)) {
+    return StepResult::kDone;
+  }
+  return step.again("expected " + wording(query) + ": " + seen(step), kExpectMs);
+}
+
+StepResult stepExpectNot(StepTry& step) {
+  if (step.argCount() == 2) {
+    return step.fail("usage: expect-not EVENT [KEY VALUE]");
+  }
+  const EventHistory& history = step.stage.history;
+  size_t found = history.find(queryOf(step), step.stage.wait_from);
+  if (found == history.end()) {
+    return StepResult::kDone;
+  }
+  return step.fail("did not expect " + history.at(found).toJson());
+}
+
+StepResult stepMark(StepTry& step) {
+  step.stage.wait_from = step.stage.history.end();
+  return StepResult::kDone;
+}
+
+StepResult stepEcho(StepTry& step) {
+  step.stage.log.emit(Event("echo").text("text", step.arg(0)));
+  return StepResult::kDone;
+}
+
+StepResult stepQuit(StepTry& step) {
+  step.stage.quit = true;
+  return StepResult::kDone;
+}
+
+}  // namespace workbench

@@ -1,0 +1,45 @@
+#include "workbench/script/input.h"
+
+namespace workbench {
+namespace {
+
+bool isExtended(int key) {
+  return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE ||
+         key == VK_APPS;
+}
+
+void sendKey(int key, bool down) {
+  DWORD flags = (down ? 0 : KEYEVENTF_KEYUP) | (isExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0);
+  keybd_event(static_cast<BYTE>(key), static_cast<BYTE>(MapVirtualKeyA(static_cast<UINT>(key), 0)),
+              flags, 0);
+}
+
+void sendModifiers(const KeyStroke& stroke, bool down) {
+  const struct {
+    bool wanted;
+    int key;
+  } modifiers[] = {{stroke.ctrl, VK_CONTROL}, {stroke.alt, VK_MENU}, {stroke.shift, VK_SHIFT}};
+  for (const auto& modifier : modifiers) {
+    if (modifier.wanted) {
+      sendKey(modifier.key, down);
+    }
+  }
+}
+
+}  // namespace
+
+void pressKey(const KeyStroke& stroke) {
+  sendModifiers(stroke, true);
+  sendKey(stroke.key, true);
+  sendKey(stroke.key, false);
+  sendModifiers(stroke, false);
+}
+
+void clickMouse(POINT screen, MouseButton button) {
+  bool left = button == MouseButton::kLeft;
+  SetCursorPos(screen.x, screen.y);
+  mouse_event(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN, 0, 0, 0, 0);
+  mouse_event(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
+}
+
+}  // namespace workbench

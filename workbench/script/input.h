@@ -1,0 +1,18 @@
+// Real keyboard and mouse input, which passes through the thread's hooks.
+// User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include "workbench/script/key_name.h"
+
+namespace workbench {
+
+enum class MouseButton { kLeft, kRight };
+
+// Modifiers down, key down and up, modifiers up.
+void pressKey(const KeyStroke& stroke);
+// Moves the pointer there, then presses and releases.
+void clickMouse(POINT screen, MouseButton button);
+
+}  // namespace workbench

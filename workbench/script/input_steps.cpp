@@ -1,0 +1,115 @@
+#include "workbench/app/workbench.h"
+#include "workbench/script/input.h"
+#include "workbench/script/steps.h"
+#include "workbench/script/title_bar.h"
+#include "workbench/script/window_text.h"
+
+namespace workbench {
+namespace {
+
+// Input goes to the foreground: the thread must have it.
+void takeForeground(const StepTry& step) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(GetForegroundWindow(), &process);
+  if (process != GetCurrentProcessId()) {
+    SetForegroundWindow(step.stage.workbench.frame());
+  }
+}
+
+// The editor of a file, brought forward, or null with the step failed.
+HWND editorToClick(StepTry& step, const std::string& file) {
+  Workbench& workbench = step.stage.workbench;
+  std::string path = workbench.resolve(file);
+  EditorWindow* editor = workbench.findEditor(path);
+  if (editor == nullptr) {
+    step.fail("no editor shows " + path);
+    return nullptr;
+  }
+  HWND window = editor->window();
+  if (workbench.activeEditor() == nullptr || workbench.activeEditor()->window() != window) {
+    workbench.editFile(path, 0);
+  }
+  return window;
+}
+
+StepResult clickEditor(StepTry& step, HWND editor, POINT screen, MouseButton button) {
+  takeForeground(step);
+  HWND under = WindowFromPoint(screen);
+  if (under != editor && !IsChild(editor, under)) {
+    return step.again("the place to click, " + std::to_string(screen.x) + " " +
+                          std::to_string(screen.y) + ", is covered by a " + windowClass(under),
+                      2000);
+  }
+  clickMouse(screen, button);
+  return StepResult::kDone;
+}
+
+}  // namespace
+
+StepResult stepKey(StepTry& step) {
+  KeyStroke stroke;
+  if (!parseKey(step.arg(0), &stroke)) {
+    return step.fail("no such key: " + step.arg(0));
+  }
+  takeForeground(step);
+  pressKey(stroke);
+  return StepResult::kDone;
+}
+
+StepResult stepClickTitle(StepTry& step) {
+  long button = 0;
+  if (!step.number(1, 0, 2, &button)) {
+    return StepResult::kFailed;
+  }
+  TitleSide side = storedTitleSide();
+  if (step.argCount() == 3) {
+    if (step.arg(2) != "left" && step.arg(2) != "right") {
+      return step.fail("a side is left or right");
+    }
+    side = step.arg(2) == "left" ? TitleSide::kLeft : TitleSide::kRight;
+  }
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  POINT place = titleButtonCenter(editor, static_cast<int>(button), side);
+  return clickEditor(step, editor, place, MouseButton::kLeft);
+}
+
+StepResult stepRightClickTitle(StepTry& step) {
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  RECT place{};
+  GetWindowRect(editor, &place);
+  // Between the icon and the buttons at the far end, whichever side the add-on's are on.
+  POINT middle{(place.left + place.right) / 2, place.top + GetSystemMetrics(SM_CYCAPTION) / 2 + 2};
+  return clickEditor(step, editor, middle, MouseButton::kRight);
+}
+
+StepResult stepClickAt(StepTry& step) {
+  long x = 0, y = 0;
+  if (!step.number(0, 0, 32767, &x) || !step.number(1, 0, 32767, &y)) {
+    return StepResult::kFailed;
+  }
+  takeForeground(step);
+  clickMouse({x, y}, MouseButton::kLeft);
+  return StepResult::kDone;
+}
+
+StepResult stepClickCaption(StepTry& step) {
+  long x = 0, y = 0;
+  if (!step.number(1, -32768, 32767, &x) || !step.number(2, -32768, 32767, &y)) {
+    return StepResult::kFailed;
+  }
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  RECT place{};
+  GetWindowRect(editor, &place);
+  return clickEditor(step, editor, {place.left + x, place.top + y}, MouseButton::kLeft);
+}
+
+}  // namespace workbench

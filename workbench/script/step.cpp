@@ -1,0 +1,100 @@
+#include "workbench/script/step.h"
+
+#include <charconv>
+
+#include "workbench/script/steps.h"
+
+namespace workbench {
+
+bool StepTry::number(size_t index, long least, long most, long* value) {
+  const std::string& text = arg(index);
+  long read = 0;
+  auto [stop, fault] = std::from_chars(text.data(), text.data() + text.size(), read);
+  if (fault != std::errc() || stop != text.data() + text.size() || read < least || read > most) {
+    reason_ = "\"" + text + "\" is no number from " + std::to_string(least) + " to " +
+              std::to_string(most);
+    return false;
+  }
+  *value = read;
+  return true;
+}
+
+Step stepOf(Verb verb) {
+  switch (verb) {
+    case Verb::kActivate:
+      return stepActivate;
+    case Verb::kAnswer:
+      return stepAnswer;
+    case Verb::kCaret:
+      return stepCaret;
+    case Verb::kCheck:
+      return stepCheck;
+    case Verb::kChoose:
+      return stepChoose;
+    case Verb::kClickAt:
+      return stepClickAt;
+    case Verb::kClickCaption:
+      return stepClickCaption;
+    case Verb::kClickTitle:
+      return stepClickTitle;
+    case Verb::kClose:
+      return stepClose;
+    case Verb::kCommand:
+      return stepCommand;
+    case Verb::kDeactivate:
+      return stepDeactivate;
+    case Verb::kDump:
+      return stepDump;
+    case Verb::kEcho:
+      return stepEcho;
+    case Verb::kEdit:
+      return stepEdit;
+    case Verb::kExpect:
+      return stepExpect;
+    case Verb::kExpectNot:
+      return stepExpectNot;
+    case Verb::kExpectRegistry:
+      return stepExpectRegistry;
+    case Verb::kHandles:
+      return stepHandles;
+    case Verb::kKey:
+      return stepKey;
+    case Verb::kMark:
+      return stepMark;
+    case Verb::kMinimize:
+      return stepMinimize;
+    case Verb::kOpen:
+      return stepOpen;
+    case Verb::kPress:
+      return stepPress;
+    case Verb::kQuit:
+      return stepQuit;
+    case Verb::kRegistryDelete:
+      return stepRegistryDelete;
+    case Verb::kRegistrySet:
+      return stepRegistrySet;
+    case Verb::kRestore:
+      return stepRestore;
+    case Verb::kRightClickTitle:
+      return stepRightClickTitle;
+    case Verb::kSave:
+      return stepSave;
+    case Verb::kScreenshot:
+      return stepScreenshot;
+    case Verb::kSelect:
+      return stepSelect;
+    case Verb::kSelectItem:
+      return stepSelectItem;
+    case Verb::kSet:
+      return stepSet;
+    case Verb::kTick:
+      return stepTick;
+    case Verb::kType:
+      return stepType;
+    case Verb::kWait:
+      return stepWait;
+  }
+  return nullptr;
+}
+
+}  // namespace workbench

@@ -1,0 +1,71 @@
+// One step of a script: what its verb does, and what it may ask. A step is tried
+// on timer ticks, whenever the interface has come to rest, until it is done,
+// fails, or has waited longer than its deadline. User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "workbench/script/event_history.h"
+#include "workbench/script/observer.h"
+#include "workbench/script/script_line.h"
+#include "workbench/script/verbs.h"
+
+namespace workbench {
+
+class Workbench;
+
+// What all steps of a run share.
+struct Stage {
+  Workbench& workbench;
+  EventLog& log;
+  Observer& observer;
+  EventHistory& history;
+  size_t wait_from = 0;      // where the next "wait" starts to look
+  unsigned chosen_in = 0;    // serial of the menu whose entry was chosen, 0 before
+  bool bar_opened = false;   // a menu bar was asked to open for this step
+  bool quit = false;         // the script has asked to end
+  HWND elsewhere = nullptr;  // the window that takes the activation away
+};
+
+enum class StepResult { kDone, kAgain, kFailed };
+
+// One try of a step.
+class StepTry {
+ public:
+  StepTry(Stage& the_stage, const ScriptLine& the_line, unsigned waited, int tries)
+      : stage(the_stage), line(the_line), waited_ms(waited), attempt(tries) {}
+
+  const std::string& arg(size_t index) const { return line.args[index]; }
+  size_t argCount() const { return line.args.size(); }
+
+  StepResult fail(const std::string& text) {
+    reason_ = text;
+    return StepResult::kFailed;
+  }
+  // Not yet: try again on a later tick, and fail with this text after the deadline.
+  StepResult again(const std::string& text, unsigned deadline_ms = 10000) {
+    reason_ = text;
+    return waited_ms < deadline_ms ? StepResult::kAgain : StepResult::kFailed;
+  }
+  const std::string& reason() const { return reason_; }
+
+  // Numbers of an argument; false with the reason set when it is none.
+  bool number(size_t index, long least, long most, long* value);
+
+  Stage& stage;
+  const ScriptLine& line;
+  const unsigned waited_ms;
+  const int attempt;  // 0 on the first try
+
+ private:
+  std::string reason_;
+};
+
+using Step = StepResult (*)(StepTry& step);
+
+// The handler of a verb.
+Step stepOf(Verb verb);
+
+}  // namespace workbench

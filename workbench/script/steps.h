@@ -1,0 +1,58 @@
+// The handlers of the verbs, by the file that holds them.
+#pragma once
+
+#include "workbench/script/step.h"
+
+namespace workbench {
+
+// frame_steps.cpp: files and the frame
+StepResult stepOpen(StepTry& step);
+StepResult stepClose(StepTry& step);
+StepResult stepEdit(StepTry& step);
+StepResult stepSave(StepTry& step);
+StepResult stepType(StepTry& step);
+StepResult stepCaret(StepTry& step);
+StepResult stepSelect(StepTry& step);
+StepResult stepMinimize(StepTry& step);
+StepResult stepRestore(StepTry& step);
+StepResult stepActivate(StepTry& step);
+StepResult stepDeactivate(StepTry& step);
+
+// input_steps.cpp: real keys and clicks
+StepResult stepKey(StepTry& step);
+StepResult stepClickTitle(StepTry& step);
+StepResult stepRightClickTitle(StepTry& step);
+StepResult stepClickAt(StepTry& step);
+StepResult stepClickCaption(StepTry& step);
+
+// menu_steps.cpp: menus and the add-on's bar
+StepResult stepChoose(StepTry& step);
+StepResult stepCommand(StepTry& step);
+StepResult stepTick(StepTry& step);
+
+// dialog_steps.cpp: boxes and dialogs
+StepResult stepAnswer(StepTry& step);
+StepResult stepSet(StepTry& step);
+StepResult stepCheck(StepTry& step);
+StepResult stepSelectItem(StepTry& step);
+StepResult stepPress(StepTry& step);
+
+// event_steps.cpp: what has happened
+StepResult stepWait(StepTry& step);
+StepResult stepExpect(StepTry& step);
+StepResult stepExpectNot(StepTry& step);
+StepResult stepMark(StepTry& step);
+StepResult stepEcho(StepTry& step);
+StepResult stepQuit(StepTry& step);
+
+// dump_steps.cpp: what is there now
+StepResult stepDump(StepTry& step);
+
+// system_steps.cpp: settings, pictures, handles
+StepResult stepRegistrySet(StepTry& step);
+StepResult stepRegistryDelete(StepTry& step);
+StepResult stepExpectRegistry(StepTry& step);
+StepResult stepScreenshot(StepTry& step);
+StepResult stepHandles(StepTry& step);
+
+}  // namespace workbench

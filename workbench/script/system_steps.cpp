@@ -1,0 +1,47 @@
+#include "workbench/app/workbench.h"
+#include "workbench/events/event_log.h"
+#include "workbench/script/handle_count.h"
+#include "workbench/script/screenshot.h"
+#include "workbench/script/settings.h"
+#include "workbench/script/steps.h"
+
+namespace workbench {
+
+StepResult stepRegistrySet(StepTry& step) {
+  bool written = writeSetting(step.arg(0), step.arg(1), step.arg(2));
+  return written ? StepResult::kDone : step.fail("the setting cannot be written");
+}
+
+StepResult stepRegistryDelete(StepTry& step) {
+  bool gone =
+      step.argCount() == 2 ? deleteSetting(step.arg(0), step.arg(1)) : deleteSection(step.arg(0));
+  return gone ? StepResult::kDone : step.fail("the setting cannot be deleted");
+}
+
+StepResult stepExpectRegistry(StepTry& step) {
+  std::string text;
+  bool there = readSetting(step.arg(0), step.arg(1), &text);
+  if (there && wildcardMatch(step.arg(2), text)) {
+    return StepResult::kDone;
+  }
+  std::string what = "expected " + step.arg(0) + " " + step.arg(1) + " \"" + step.arg(2) + "\": ";
+  return step.again(what + (there ? "it is \"" + text + "\"" : "there is no such setting"), 5000);
+}
+
+StepResult stepScreenshot(StepTry& step) {
+  std::string path = step.stage.workbench.resolve(step.arg(0));
+  return saveScreenshot(path) ? StepResult::kDone
+                              : step.fail("no screenshot could be put in " + path);
+}
+
+StepResult stepHandles(StepTry& step) {
+  HandleCount count = countHandles();
+  step.stage.log.emit(Event("handles")
+                          .number("user", count.user)
+                          .number("gdi", count.gdi)
+                          .number("windows", count.windows)
+                          .number("menus", count.menus));
+  return StepResult::kDone;
+}
+
+}  // namespace workbench
