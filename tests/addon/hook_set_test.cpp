@@ -37,23 +37,30 @@ class Host : public kesto::HookHost {
   void resetAutoSave() override { ++auto_save_resets; }
 };
 
+// Keys that a capturing window was sent.
+std::vector<WPARAM> captured;
+
 struct Hooked {
   WindowFixture windows;
   Host host;
   kesto::HookSet hooks{windows.bar, host};
 
-  // Real input, so that the hooks of mouse and keyboard see it. Returns once the
-  // thread has taken it all.
+  // Commands posted by real input, which the hooks of mouse and keyboard see.
+  // Input keeps its order: once the key that ends it is through, all of it is.
   std::vector<int> afterInput() {
+    press({kEndOfInput});
     std::vector<int> ids;
-    const auto collect = [&] {
-      const std::vector<int> more = windows.commands();
-      ids.insert(ids.end(), more.begin(), more.end());
-    };
-    while (MsgWaitForMultipleObjects(0, nullptr, FALSE, 300, QS_ALLINPUT) == WAIT_OBJECT_0) {
-      collect();
+    const DWORD deadline = GetTickCount() + 10000;
+    while (!end_seen_ && GetTickCount() < deadline) {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 1000, QS_ALLINPUT);
+      for (const int id : windows.commands()) {
+        ids.push_back(id);
+      }
+      end_seen_ = windows.saw_key_up == kEndOfInput || takeCapturedEnd();
     }
-    collect();
+    REQUIRE(end_seen_);
+    end_seen_ = false;
+    windows.saw_key_up = 0;
     return ids;
   }
   void press(std::initializer_list<BYTE> keys) {
@@ -67,20 +74,38 @@ struct Hooked {
     }
   }
   // Each click lies apart from the one before, so that no two make a double click.
+  // The button goes down once the pointer was seen to arrive: the display tells of
+  // its own moves late.
   void click(HWND window, DWORD down, DWORD up) {
     RECT frame = {};
     GetWindowRect(window, &frame);
-    SetCursorPos(frame.left + 100 + 20 * (clicks_++ % 6), frame.top + 8);
+    const POINT place = {frame.left + 100 + 20 * (clicks_++ % 6), frame.top + 8};
+    const LPARAM wanted = MAKELPARAM(place.x, place.y);
+    const DWORD deadline = GetTickCount() + 10000;
+    windows.last_title_move = 0;
+    SetCursorPos(place.x, place.y);
+    while (windows.last_title_move != wanted && GetTickCount() < deadline) {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 1000, QS_ALLINPUT);
+      windows.drain();
+    }
     mouse_event(down, 0, 0, 0, 0);
     mouse_event(up, 0, 0, 0, 0);
   }
 
  private:
-  int clicks_ = 0;
-};
+  static constexpr BYTE kEndOfInput = VK_F13;
 
-// Keys that a capturing window was sent.
-std::vector<WPARAM> captured;
+  static bool takeCapturedEnd() {
+    const bool taken = !captured.empty() && captured.back() == kEndOfInput;
+    if (taken) {
+      captured.pop_back();
+    }
+    return taken;
+  }
+
+  int clicks_ = 0;
+  bool end_seen_ = false;
+};
 
 LRESULT CALLBACK captureProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kesto::kCapturedKeyMessage) {
@@ -95,7 +120,6 @@ LRESULT CALLBACK captureProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 TEST_CASE("clicks on an editor's title become commands and never reach the IDE") {
   Hooked hooked;
   const HWND editor = hooked.windows.editor("C:\\SRC\\A.CPP:2 *");
-  SetForegroundWindow(hooked.windows.frame);
   hooked.afterInput();
 
   SUBCASE("a button") {
@@ -137,8 +161,6 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
 
 TEST_CASE("keys become commands when their whole code fits") {
   Hooked hooked;
-  SetForegroundWindow(hooked.windows.frame);
-  SetFocus(hooked.windows.frame);
   hooked.host.completion = 222;
   hooked.host.searches[0] = 5116;  // Ctrl+Shift+F5
   hooked.host.searches[3] = 2116;  // Alt+F5
@@ -168,8 +190,6 @@ TEST_CASE("a capturing window gets every key but the modifiers") {
   Hooked hooked;
   const HWND capture = hooked.windows.create("KestoTestBar", "", WS_POPUP, nullptr);
   SetWindowLongA(capture, GWL_WNDPROC, reinterpret_cast<LONG>(captureProcedure));
-  SetForegroundWindow(hooked.windows.frame);
-  SetFocus(hooked.windows.frame);
   hooked.host.completion = 222;
   hooked.afterInput();
   captured.clear();

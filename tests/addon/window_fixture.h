@@ -23,6 +23,9 @@ class WindowFixture {
     bar = create("KestoTestBar", "", WS_POPUP | WS_VISIBLE, nullptr);
     // Out of the frame's way, for clicks to reach it.
     SetWindowPos(bar, nullptr, 500, 500, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SetForegroundWindow(frame);
+    SetFocus(frame);
+    drain();
   }
   ~WindowFixture() {
     DestroyWindow(bar);
@@ -51,6 +54,10 @@ class WindowFixture {
       if (message.hwnd == bar && message.message == WM_COMMAND) {
         ids.push_back(static_cast<int>(message.wParam));
         last_lparam = message.lParam;
+      } else if (message.message == WM_KEYUP) {
+        saw_key_up = message.wParam;
+      } else if (message.message == WM_NCMOUSEMOVE) {
+        last_title_move = message.lParam;
       }
       DispatchMessageA(&message);
     }
@@ -62,4 +69,6 @@ class WindowFixture {
   HWND client;
   HWND bar;
   LPARAM last_lparam = 0;
+  WPARAM saw_key_up = 0;
+  LPARAM last_title_move = 0;
 };
