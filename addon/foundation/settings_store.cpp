@@ -89,8 +89,9 @@ bool SettingsStore::writeString(const char* section, const char* name, const cha
   if (!key.open(path) && !key.create(path)) {
     return false;
   }
-  return RegSetValueExA(key.get(), name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text),
-                        static_cast<DWORD>(strlen(text) + 1)) == ERROR_SUCCESS;
+  const DWORD size = static_cast<DWORD>(strlen(text)) + 1;
+  return RegSetValueExA(key.get(), name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size) ==
+         ERROR_SUCCESS;
 }
 
 bool SettingsStore::writeInteger(const char* section, const char* name, int value) {

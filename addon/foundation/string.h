@@ -23,7 +23,7 @@ class String : public Basic {
 
   String();
   // A null text counts as empty.
-  String(const char* text);  // NOLINT(google-explicit-constructor)
+  String(const char* text);
   explicit String(std::string_view text);
   explicit String(long int number);
   explicit String(int number) : String(static_cast<long int>(number)) {}

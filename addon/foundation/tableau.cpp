@@ -10,6 +10,8 @@ namespace kesto {
 
 namespace {
 
+constexpr std::size_t kSlotSize = sizeof(void*);
+
 const Basic& element(const void* slot) {
   return **static_cast<Basic* const*>(slot);
 }
@@ -32,8 +34,7 @@ BasicTableau::~BasicTableau() {
 
 void BasicTableau::setCapacity(int capacity) {
   capacity_ = capacity;
-  items_ =
-      static_cast<Basic**>(realloc(items_, static_cast<std::size_t>(capacity) * sizeof(Basic*)));
+  items_ = static_cast<Basic**>(realloc(items_, static_cast<std::size_t>(capacity) * kSlotSize));
 }
 
 void BasicTableau::release() {
@@ -125,7 +126,7 @@ void BasicTableau::sort(Comparison comparison, int from, int n) {
     return;
   }
   const int range = n <= 0 || n > count_ - from ? count_ - from : n;
-  qsort(items_ + from, static_cast<std::size_t>(range), sizeof(Basic*), comparison);
+  qsort(items_ + from, static_cast<std::size_t>(range), kSlotSize, comparison);
 }
 
 void BasicTableau::sortByText(int from, int n) {

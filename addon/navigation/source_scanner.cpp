@@ -19,21 +19,21 @@ bool endsLine(char c) {
   return c == '\n' || c == '\r' || c == '\0';
 }
 
-// The next CR, LF or zero byte, or end. Eight bytes at a time: a word without a
-// byte below 14 holds none of the three.
+// The next CR, LF or zero byte, or end. A machine word at a time: a word without a
+// byte below 14 holds none of the three. The lowest byte that the test finds is such
+// a one; those above it may be wrong, and tabs are not meant.
 const char* findLineEnd(const char* at, const char* end) {
-  constexpr std::uint64_t kOnes = 0x0101010101010101U;
-  while (end - at >= 8) {
-    std::uint64_t word = 0;
+  constexpr std::size_t kOnes = ~std::size_t{0} / 0xFF;
+  constexpr std::ptrdiff_t kWord = sizeof(std::size_t);
+  for (; end - at >= kWord; at += kWord) {
+    std::size_t word = 0;
     memcpy(&word, at, sizeof word);
-    if (((word - kOnes * 14) & ~word & (kOnes * 0x80)) != 0) {
-      for (const char* stop = at + 8; at != stop; ++at) {
-        if (endsLine(*at)) {
-          return at;
-        }
+    std::size_t found = (word - kOnes * 14) & ~word & (kOnes * 0x80);
+    for (; found != 0; found &= found - 1) {
+      const char* const candidate = at + std::countr_zero(found) / 8;
+      if (endsLine(*candidate)) {
+        return candidate;
       }
-    } else {
-      at += 8;
     }
   }
   while (at != end && !endsLine(*at)) {
@@ -42,21 +42,13 @@ const char* findLineEnd(const char* at, const char* end) {
   return at;
 }
 
-// Lines that end in [from, to). The byte at to is the text's as well.
-int countLineEnds(const char* from, const char* to) {
-  // Sums of a byte each let the compiler count many bytes at once.
-  constexpr std::ptrdiff_t kByteSum = 240;
-  int count = 0;
-  while (from != to) {
-    const char* const stop = to - from > kByteSum ? from + kByteSum : to;
-    std::uint8_t sum = 0;
-    for (; from != stop; ++from) {
-      const bool lone_cr = (from[0] == '\r') & (from[1] != '\n');
-      sum = static_cast<std::uint8_t>(sum + ((from[0] == '\n') | lone_cr));
-    }
-    count += sum;
+// What follows the line that ends at line_end.
+const char* nextLine(const char* line_end, const char* end) {
+  if (line_end == end || *line_end == '\0') {
+    return end;
   }
-  return count;
+  const bool pair = *line_end == '\r' && end - line_end > 1 && line_end[1] == '\n';
+  return line_end + (pair ? 2 : 1);
 }
 
 bool isVisible(char c) {
@@ -82,14 +74,17 @@ std::size_t wordStart(std::string_view head, std::size_t last) {
   return last;
 }
 
-// line holds one character at least, and that is visible and below 128.
 bool mayStartDefinition(std::string_view line) {
+  // The shortest definition is a letter and a parenthesis.
+  if (line.size() < 2 || static_cast<signed char>(line.front()) < 33) {
+    return false;
+  }
   switch (line.front()) {
     case '#':
     case '/':
       return false;
     case ':':
-      return line.starts_with("::");
+      return line[1] == ':';
     default:
       return true;
   }
@@ -97,7 +92,7 @@ bool mayStartDefinition(std::string_view line) {
 
 // What stands before the first "(" of a line that may hold a definition, else empty.
 std::string_view definitionHead(std::string_view line) {
-  if (!mayStartDefinition(line) || line.find(';') != kNone) {
+  if (line.find(';') != kNone) {
     return {};
   }
   const std::size_t parenthesis = line.find('(');
@@ -118,74 +113,6 @@ DefinitionName splitHead(std::string_view head) {
   const std::size_t start = wordStart(head, scope - 1);
   return {withoutMarks(head.substr(start, scope - start)), withoutMarks(head.substr(scope + 2))};
 }
-
-// Goes through the lines that start with a visible character in column one.
-class FunctionScan {
- public:
-  FunctionScan(std::string_view text, Tableau<Fnc>& functions)
-      : counted_(text.data()), end_(text.data() + text.size()), functions_(functions) {}
-
-  void run() {
-    const char* at = counted_;
-    if (at == end_) {
-      return;
-    }
-    if (static_cast<signed char>(*at) > 32) {
-      scanLine(at);
-    }
-    for (++at; at != end_; at += marked_) {
-      markLineStarts(at);
-      scanMarked(at);
-    }
-  }
-
- private:
-  // A piece of the text is marked in one go and then looked through word by word:
-  // most bytes, and most lines, cost no decision of their own.
-  static constexpr std::ptrdiff_t kPiece = 4096;
-
-  // Marks the bytes from at on that are visible and follow a line end.
-  void markLineStarts(const char* at) {
-    marked_ = std::min(kPiece, end_ - at);
-    for (std::ptrdiff_t i = 0; i < marked_; ++i) {
-      const char before = at[i - 1];
-      marks_[i] = static_cast<std::uint8_t>(((before == '\n') | (before == '\r')) &
-                                            (static_cast<signed char>(at[i]) > 32));
-    }
-    std::fill(marks_ + marked_, marks_ + (marked_ + 7) / 8 * 8, std::uint8_t{0});
-  }
-
-  void scanMarked(const char* at) {
-    for (std::ptrdiff_t i = 0; i < marked_; i += 8) {
-      std::uint64_t word = 0;
-      memcpy(&word, marks_ + i, sizeof word);
-      for (; word != 0; word &= word - 1) {
-        scanLine(at + i + std::countr_zero(word) / 8);
-      }
-    }
-  }
-
-  void scanLine(const char* line) {
-    const char* const line_end = findLineEnd(line, end_);
-    const std::string_view head = definitionHead({line, static_cast<std::size_t>(line_end - line)});
-    if (head.empty()) {
-      return;
-    }
-    const DefinitionName found = splitHead(head);
-    if (!found.name.empty()) {
-      line_number_ += countLineEnds(counted_, line);
-      counted_ = line;
-      functions_.append(new Fnc(found.name, found.class_name, line_number_));
-    }
-  }
-
-  const char* counted_;  // a line's start, line_number_ its number
-  const char* const end_;
-  Tableau<Fnc>& functions_;
-  int line_number_ = 1;
-  std::ptrdiff_t marked_ = 0;
-  std::uint8_t marks_[kPiece];
-};
 
 int compareFunctions(const Fnc& left, const Fnc& right) {
   const int classes = strcmp(left.className(), right.className());
@@ -215,7 +142,24 @@ std::string_view includeName(std::string_view line) {
 
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
   functions.clear();
-  FunctionScan(upToZero(text), functions).run();
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  for (int number = 1; at != end; ++number) {
+    const char* const line_end = findLineEnd(at, end);
+    const std::string_view line(at, static_cast<std::size_t>(line_end - at));
+    at = nextLine(line_end, end);
+    if (!mayStartDefinition(line)) {
+      continue;
+    }
+    const std::string_view head = definitionHead(line);
+    if (head.empty()) {
+      continue;
+    }
+    const DefinitionName found = splitHead(head);
+    if (!found.name.empty()) {
+      functions.append(new Fnc(found.name, found.class_name, number));
+    }
+  }
 }
 
 void sortFunctions(Tableau<Fnc>& functions) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstring>
 #include <string>
 
 #include "doctest.h"
@@ -61,7 +62,8 @@ struct Store {
     if (!settings().readString(section, name, output.data(), size, default_text)) {
       return output.substr(0, 1) + "missing";
     }
-    return output.c_str();
+    output.resize(strlen(output.c_str()));
+    return output;
   }
 };
 

@@ -213,7 +213,7 @@ TEST_CASE("a count that the file cannot hold opens no slots") {
     CHECK(read.count() == c.count);
   }
   Tableau<String> large;
-  CHECK(large.fRead(ByteFile("\0\0\1\0"s + std::string(65536 * 3, '\0')).get()) == 1);
+  CHECK(large.fRead(ByteFile("\0\0\1\0"s + std::string(196608, '\0')).get()) == 1);
   CHECK(large.count() == 65536);
 }
 
