@@ -74,8 +74,8 @@ struct Hooked {
     }
   }
   // Each click lies apart from the one before, so that no two make a double click.
-  // The button goes down once the pointer was seen to arrive: the display tells of
-  // its own moves late.
+  // The display echoes a move late and would put the pointer back to an earlier
+  // place: the click waits for the pointer to arrive, and sets it once more.
   void click(HWND window, DWORD down, DWORD up) {
     RECT frame = {};
     GetWindowRect(window, &frame);
@@ -88,6 +88,7 @@ struct Hooked {
       MsgWaitForMultipleObjects(0, nullptr, FALSE, 1000, QS_ALLINPUT);
       windows.drain();
     }
+    SetCursorPos(place.x, place.y);
     mouse_event(down, 0, 0, 0, 0);
     mouse_event(up, 0, 0, 0, 0);
   }
