@@ -152,6 +152,7 @@ void ScriptDriver::State::tryStep() {
 
 void ScriptDriver::State::nextLine() {
   attempt = 0;
+  stage->chosen_in = 0;
   waiting_since = GetTickCount();
   Watchdog::instance().progress(lineNumber());
 }
@@ -191,7 +192,9 @@ void ScriptDriver::State::frameGone() {
   if (phase == Phase::kEnded) {
     return;
   }
-  bool all_done = stage->quit || next >= lines.size() || lines[next].verb == "quit";
+  // An entry such as "Exit" closes the frame before its step can see it done.
+  size_t left = stage->chosen_in != 0 ? next + 1 : next;
+  bool all_done = stage->quit || left >= lines.size() || lines[left].verb == "quit";
   if (!all_done) {
     fail("the frame has closed before this step");
   } else if (observer->windows().unusedAnswers() != 0) {
