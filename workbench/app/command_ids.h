@@ -37,6 +37,10 @@
 
 #define CM_HELP_ABOUT 13601
 
+/* Tools of add-ons: this plus the tool's handle. */
+#define CM_FIRST_TOOL 14000
+#define CM_LAST_TOOL 14999
+
 /* Windows of the MDI menu number from here. */
 #define CM_FIRST_CHILD 20000
 
@@ -58,6 +62,8 @@
 #define IDC_OPTIONS_TOPICS 308
 #define IDC_OPTIONS_PLACE 309
 #define IDC_OPTIONS_TITLE 310
+#define IDC_OPTIONS_HELP_TEXT 311
+#define IDC_LINE_RANGE 312
 
 #define IDD_PAGE_EDITOR 211
 #define IDC_TAB_WIDTH 321

@@ -4,121 +4,270 @@
 
 #include "workbench/app/application.h"
 #include "workbench/app/command_ids.h"
+#include "workbench/app/edit_dialogs.h"
+#include "workbench/app/editor_page.h"
 #include "workbench/app/file_dialogs.h"
 #include "workbench/app/names.h"
+#include "workbench/app/options_dialog.h"
+#include "workbench/app/settings_store.h"
 
 namespace workbench {
 
 void Application::frameCommand(int id) {
-  fileCommand(id);
-  editCommand(id);
-  windowCommand(id);
-}
-
-bool Application::commandEnabled(int) {
-  return true;
-}
-
-void Application::fileCommand(int id) {
   EditorChild* child = editors_.active();
+  if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id)) {
+    return;
+  }
+  if (child != nullptr) {
+    editCommand(id, child);
+  }
+}
+
+bool Application::commandEnabled(int id) {
+  EditorChild* child = editors_.active();
+  switch (id) {
+    case CM_FILE_SAVE:
+    case CM_FILE_SAVE_AS:
+    case CM_FILE_CLOSE:
+    case CM_EDIT_PASTE:
+    case CM_EDIT_SELECT_ALL:
+    case CM_EDIT_FIND:
+    case CM_EDIT_FIND_NEXT:
+    case CM_EDIT_FIND_PREVIOUS:
+    case CM_EDIT_GO_TO_LINE:
+    case CM_WINDOW_CASCADE:
+    case CM_WINDOW_TILE:
+    case CM_WINDOW_ARRANGE:
+    case CM_WINDOW_NEXT:
+    case CM_WINDOW_CLOSE_ALL:
+    case CM_WINDOW_NEW_VIEW:
+      return child != nullptr;
+    case CM_EDIT_UNDO:
+      return child != nullptr && child->openFile().document.canUndo();
+    case CM_EDIT_REDO:
+      return child != nullptr && child->openFile().document.canRedo();
+    case CM_EDIT_CUT:
+    case CM_EDIT_COPY:
+    case CM_EDIT_DELETE:
+      return child != nullptr && child->textView().hasSelection();
+    case CM_PROJECT_OPEN_FILE:
+    case CM_PROJECT_CLOSE:
+      return hasProject();
+    default:
+      return true;
+  }
+}
+
+bool Application::fileCommand(int id, EditorChild* child) {
   std::string path;
   switch (id) {
     case CM_FILE_NEW:
       editors_.create(projectDirectory());
-      break;
+      return true;
     case CM_FILE_OPEN:
       if (askOpenName(frame_.window(), projectDirectory(), &path)) {
         editFile(path, 0);
       }
-      break;
+      return true;
+    case CM_FILE_OPEN_FOLDER:
+      if (askFolder(frame_.window(), &path) && openPath(path)) {
+        showFirstSource();
+      }
+      return true;
     case CM_FILE_SAVE:
-      if (child != nullptr) {
-        child->save();
+      if (child != nullptr && child->save()) {
+        setStatus("Saved " + child->file());
       }
-      break;
+      return true;
     case CM_FILE_SAVE_AS:
-      if (child != nullptr) {
-        editors_.saveAs(child->openFile());
+      if (child != nullptr && editors_.saveAs(child->openFile())) {
+        setStatus("Saved " + child->file());
       }
-      break;
-    case CM_FILE_SAVE_ALL: {
-      std::vector<std::string> names;
-      editors_.saveAll(&names);
-      break;
-    }
+      return true;
+    case CM_FILE_SAVE_ALL:
+      saveAll();
+      return true;
     case CM_FILE_CLOSE:
       if (child != nullptr) {
         SendMessageA(child->window(), WM_CLOSE, 0, 0);
       }
-      break;
+      return true;
     case CM_FILE_EXIT:
       PostMessageA(frame_.window(), WM_CLOSE, 0, 0);
-      break;
+      return true;
     default:
-      break;
+      return false;
   }
 }
 
-void Application::editCommand(int id) {
-  EditorChild* child = editors_.active();
-  if (child == nullptr) {
-    return;
+void Application::saveAll() {
+  std::vector<std::string> names;
+  editors_.saveAll(&names);
+  root_.projectSave().clients().each([](IProjectSaveClient* client) { client->ProjectSaving(); });
+  if (!names.empty()) {
+    const std::string count = std::to_string(names.size());
+    setStatus(names.size() == 1 ? "Saved " + names[0] : "Saved " + count + " files");
   }
+}
+
+bool Application::editCommand(int id, EditorChild* child) {
   TextWindow& text = child->textView();
   switch (id) {
     case CM_EDIT_UNDO:
       text.undo();
-      break;
+      return true;
     case CM_EDIT_REDO:
       text.redo();
-      break;
+      return true;
     case CM_EDIT_CUT:
       text.cut();
-      break;
+      return true;
     case CM_EDIT_COPY:
       text.copy();
-      break;
+      return true;
     case CM_EDIT_PASTE:
       text.paste();
-      break;
+      return true;
     case CM_EDIT_DELETE:
       text.clear();
-      break;
+      return true;
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
-      break;
+      return true;
+    case CM_EDIT_FIND: {
+      const std::string selected = text.selection();
+      if (!selected.empty() && selected.size() < 256 &&
+          selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
+        find_.text = selected;
+      }
+      if (askFind(frame_.window(), &find_)) {
+        findNext(find_.backward);
+      }
+      return true;
+    }
+    case CM_EDIT_FIND_NEXT:
+      findNext(find_.backward);
+      return true;
+    case CM_EDIT_FIND_PREVIOUS:
+      findNext(!find_.backward);
+      return true;
+    case CM_EDIT_GO_TO_LINE:
+      goToLine(*child);
+      return true;
     default:
-      break;
+      return false;
   }
 }
 
-void Application::windowCommand(int id) {
-  HWND client = frame_.mdiClient();
+void Application::findNext(bool backward) {
   EditorChild* child = editors_.active();
+  if (child == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
+    return;
+  }
+  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
+    setStatus("\"" + find_.text + "\" was not found");
+    MessageBeep(MB_ICONWARNING);
+  }
+}
+
+void Application::goToLine(EditorChild& child) {
+  int line = child.textView().caret().line + 1;
+  if (askLine(frame_.window(), child.openFile().document.lineCount(), &line)) {
+    child.setCaret(line, 1);
+  }
+}
+
+bool Application::windowCommand(int id, EditorChild* child) {
+  HWND client = frame_.mdiClient();
   switch (id) {
     case CM_WINDOW_CASCADE:
       SendMessageA(client, WM_MDICASCADE, 0, 0);
-      break;
+      return true;
     case CM_WINDOW_TILE:
       SendMessageA(client, WM_MDITILE, MDITILE_HORIZONTAL, 0);
-      break;
+      return true;
     case CM_WINDOW_ARRANGE:
       SendMessageA(client, WM_MDIICONARRANGE, 0, 0);
-      break;
+      return true;
     case CM_WINDOW_NEXT:
       SendMessageA(client, WM_MDINEXT, 0, 0);
-      break;
+      return true;
     case CM_WINDOW_CLOSE_ALL:
       editors_.closeAll();
-      break;
+      return true;
     case CM_WINDOW_NEW_VIEW:
       if (child != nullptr) {
         editors_.newView(*child);
       }
-      break;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Application::projectCommand(int id) {
+  switch (id) {
+    case CM_PROJECT_OPEN_FILE:
+      openProjectFile();
+      return true;
+    case CM_PROJECT_CLOSE:
+      closeProject();
+      return true;
+    case CM_OPTIONS_ENVIRONMENT:
+      editOptions();
+      return true;
+    case CM_HELP_ABOUT:
+      showAbout();
+      return true;
     default:
       break;
   }
+  if (id > CM_FIRST_TOOL && id <= CM_LAST_TOOL) {
+    root_.tools().runFromMenu(static_cast<ToolHandle>(id - CM_FIRST_TOOL));
+    return true;
+  }
+  return false;
+}
+
+void Application::openProjectFile() {
+  std::vector<std::string> files;
+  for (const NodeInfo* node : project_.nodes()) {
+    if (!node->type.empty() && node->type[0] == '.') {
+      files.push_back(node->name);
+    }
+  }
+  std::string path;
+  if (hasProject() && askProjectFile(frame_.window(), project_.folder(), files, &path)) {
+    editFile(path, 0);
+  }
+}
+
+void Application::editOptions() {
+  std::vector<OptionsTopic> topics = {{new EditorPage(live_, settings_), false}};
+  const ClientList<IMpdChapter>& chapters = root_.options().chapters();
+  for (std::size_t i = 0; i < chapters.size(); ++i) {
+    for (int position = 0; position < chapters[i]->GetPageCount(); ++position) {
+      if (IMpdPage* page = chapters[i]->GetPage(position)) {
+        topics.push_back({page, position > 0});
+      }
+    }
+  }
+  if (editOptionPages(frame_.window(), topics)) {
+    editors_.settingsChanged();
+    if (keep_settings_) {
+      saveSettings(settings_);
+    }
+  }
+  for (const OptionsTopic& topic : topics) {
+    topic.page->Release();
+  }
+}
+
+void Application::showAbout() {
+  MessageBoxA(frame_.window(),
+              "Kesto Workbench\n\nA small development environment that stands in for the Borland "
+              "C++ 5.0 IDE: it offers the same windows and interfaces to add-ons.",
+              "About", MB_OK | MB_ICONINFORMATION);
 }
 
 }  // namespace workbench

@@ -40,7 +40,8 @@ bool Frame::create(HINSTANCE instance) {
 }
 
 bool Frame::createClient() {
-  CLIENTCREATESTRUCT info = {GetSubMenu(GetMenu(window_), kWindowMenuPosition), CM_FIRST_CHILD};
+  window_menu_ = GetSubMenu(GetMenu(window_), kWindowMenuPosition);
+  CLIENTCREATESTRUCT info = {window_menu_, CM_FIRST_CHILD};
   mdi_client_ = CreateWindowExA(WS_EX_CLIENTEDGE, ideapi::kMdiClientClass, nullptr,
                                 WS_CHILD | WS_CLIPCHILDREN | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL,
                                 0, 0, 0, 0, window_, nullptr, instance_, &info);
@@ -66,8 +67,9 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
       layOut();
       return 0;
     case WM_COMMAND:
-      if (LOWORD(w) < CM_FIRST_CHILD && l == 0 && (HIWORD(w) == 0 || HIWORD(w) == 1)) {
+      if (LOWORD(w) < CM_FIRST_CHILD) {
         handler_.frameCommand(LOWORD(w));
+        return 0;
       }
       break;
     case WM_INITMENUPOPUP:
@@ -88,6 +90,12 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
       return 0;
     case WM_QUERYENDSESSION:
       return handler_.mayCloseFrame() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+      if (w != 0 && !closing_) {
+        closing_ = true;
+        handler_.frameClosing();
+      }
+      return 0;
     case WM_CLOSE:
       close();
       return 0;
@@ -133,6 +141,31 @@ void Frame::enableItems(HMENU menu) {
           MF_BYCOMMAND | (handler_.commandEnabled(static_cast<int>(id)) ? MF_ENABLED : MF_GRAYED));
     }
   }
+}
+
+void Frame::setTools(const std::vector<ToolItem>& items) {
+  HMENU bar = GetMenu(window_);
+  // A maximized child puts its own menu first, so positions are looked up.
+  int window_position = 0;
+  for (int i = 0; i < GetMenuItemCount(bar); ++i) {
+    const HMENU popup = GetSubMenu(bar, i);
+    if (popup == tool_menu_ && popup != nullptr) {
+      DeleteMenu(bar, static_cast<UINT>(i), MF_BYPOSITION);
+      tool_menu_ = nullptr;
+      --i;
+    } else if (popup == window_menu_) {
+      window_position = i;
+    }
+  }
+  if (!items.empty()) {
+    tool_menu_ = CreatePopupMenu();
+    for (const ToolItem& item : items) {
+      AppendMenuA(tool_menu_, MF_STRING, static_cast<UINT_PTR>(item.id), item.text.c_str());
+    }
+    InsertMenuA(bar, static_cast<UINT>(window_position), MF_BYPOSITION | MF_POPUP,
+                reinterpret_cast<UINT_PTR>(tool_menu_), "&Tool");
+  }
+  DrawMenuBar(window_);
 }
 
 void Frame::setTitle(const std::string& title) {

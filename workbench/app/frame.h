@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "workbench/app/handles.h"
 #include "workbench/app/status_bar.h"
@@ -27,6 +28,11 @@ class FrameHandler {
   ~FrameHandler() = default;
 };
 
+struct ToolItem {
+  int id;  // CM_FIRST_TOOL and up
+  std::string text;
+};
+
 class Frame {
  public:
   explicit Frame(FrameHandler& handler) : handler_(handler) {}
@@ -37,6 +43,8 @@ class Frame {
   HWND mdiClient() const { return mdi_client_; }
   StatusBar& statusBar() { return status_; }
   void setTitle(const std::string& title);
+  // The items of the Tool menu, which is there while it has any.
+  void setTools(const std::vector<ToolItem>& items);
   // Runs the message loop until the program ends; returns its exit code.
   int run();
 
@@ -52,6 +60,8 @@ class Frame {
   HINSTANCE instance_ = nullptr;
   HWND window_ = nullptr;
   HWND mdi_client_ = nullptr;
+  HMENU window_menu_ = nullptr;  // the menu bar's
+  HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
   OwnedAccelerators accelerators_;
   bool closing_ = false;

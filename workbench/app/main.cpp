@@ -2,40 +2,66 @@
 
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "workbench/app/application.h"
+#include "workbench/app/command_line.h"
+#include "workbench/app/names.h"
 #include "workbench/script/driver.h"
 
-using workbench::Application;
-using workbench::ScriptDriver;
+namespace workbench {
+namespace {
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
+// A script has no one to press OK, so it only gets an event.
+void reportStartFailure(Application& application, bool scripted, const std::string& reason) {
+  application.events().emit(Event("error").number("line", 0).text("text", reason));
+  if (!scripted) {
+    MessageBoxA(nullptr, reason.c_str(), kProgramCaption, MB_OK | MB_ICONERROR);
+  }
+}
+
+int runProgram(HINSTANCE instance, const std::vector<std::string>& arguments, int show) {
   Application application;
-  std::string path;
-  std::string script;
-  for (int i = 1; i < __argc; ++i) {
-    const std::string argument = __argv[i];
-    if (argument == "--script" && i + 1 < __argc) {
-      script = __argv[++i];
-    } else if (argument == "--addon" && i + 1 < __argc) {
-      ++i;
-    } else {
-      path = argument;
+  CommandLine line;
+  std::string reason;
+  if (!parseCommandLine(arguments, &line, &reason)) {
+    reportStartFailure(application, !line.script.empty(), reason);
+    return 1;
+  }
+  const bool scripted = !line.script.empty();
+  if (!line.addon.empty() && !application.startAddon(line.addon, &reason)) {
+    reportStartFailure(application, scripted, reason);
+    if (scripted) {
+      return 1;
     }
   }
-  if (!application.createFrame(instance)) {
+  if (!application.createFrame(instance, !scripted)) {
+    reportStartFailure(application, scripted, "The program's windows cannot be created.");
+    return 1;
+  }
+  ScriptDriver driver(application);
+  if (scripted && !driver.load(line.script)) {
+    reportStartFailure(application, scripted, "The script " + line.script + " cannot be read.");
     return 1;
   }
   ShowWindow(application.frame(), show);
-  if (!path.empty()) {
-    application.openPath(path);
-  }
-  ScriptDriver driver(application);
-  if (!script.empty()) {
-    if (!driver.load(script)) {
-      return 1;
-    }
+  UpdateWindow(application.frame());
+  if (scripted) {
     driver.start();
   }
-  return application.frameWindow().run();
+  if (!line.path.empty()) {
+    application.openPath(line.path);
+    if (!scripted && application.activeEditor() == nullptr) {
+      application.showFirstSource();
+    }
+  }
+  return application.run();
+}
+
+}  // namespace
+}  // namespace workbench
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
+  const std::vector<std::string> arguments(__argv + 1, __argv + __argc);
+  return workbench::runProgram(instance, arguments, show);
 }

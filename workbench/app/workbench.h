@@ -6,11 +6,19 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace workbench {
 
 class EventLog;
 class EditorWindow;
+
+// A node of the project's tree, for those who list it.
+struct ProjectEntry {
+  int depth = 0;  // 0 at the top
+  std::string name;
+  std::string type;
+};
 
 class Workbench {
  public:
@@ -32,6 +40,15 @@ class Workbench {
   virtual std::string projectDirectory() = 0;
   // A full path from one that may be relative to projectDirectory().
   virtual std::string resolve(const std::string& path) = 0;
+
+  // The project's nodes in tree order.
+  virtual std::vector<ProjectEntry> projectEntries() = 0;
+  // The bytes that the project keeps under a name. False when there are none, or
+  // no project (write: no project).
+  virtual bool readOption(const std::string& name, std::string* bytes) = 0;
+  virtual bool writeOption(const std::string& name, const std::string& bytes) = 0;
+  // Tells the make clients that a make started and ended with this MakeResult.
+  virtual void make(int result) = 0;
 
   // Brings an editor of the file forward or opens one; a line above 0 puts the
   // caret there. Returns null when the file cannot be shown (the reason has been

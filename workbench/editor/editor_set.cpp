@@ -219,6 +219,11 @@ bool EditorSet::closeAll() {
   if (!askToSaveAll()) {
     return false;
   }
+  destroyAll();
+  return true;
+}
+
+void EditorSet::destroyAll() {
   std::vector<HWND> windows;
   for (const auto& child : children_) {
     windows.push_back(child->window());
@@ -226,7 +231,6 @@ bool EditorSet::closeAll() {
   for (HWND window : windows) {
     SendMessageA(mdi_client_, WM_MDIDESTROY, reinterpret_cast<WPARAM>(window), 0);
   }
-  return true;
 }
 
 bool EditorSet::mayClose(EditorChild& child) {

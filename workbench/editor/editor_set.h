@@ -44,6 +44,8 @@ class EditorSet final : public EditorChildHost {
   bool askToSaveAll();
   // Asks, then closes every editor.
   bool closeAll();
+  // Closes every editor as it is.
+  void destroyAll();
   // Offers to read again what other programs changed.
   void checkDisk();
   void settingsChanged();

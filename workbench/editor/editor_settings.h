@@ -3,9 +3,14 @@
 
 namespace workbench {
 
+inline constexpr int kLeastTabWidth = 1;
+inline constexpr int kMostTabWidth = 16;
+inline constexpr int kLeastFontPoints = 6;
+inline constexpr int kMostFontPoints = 36;
+
 struct EditorSettings {
-  int tab_width = 4;         // cells, 1 to 16
-  int font_points = 10;      // 6 to 36
+  int tab_width = 4;  // cells
+  int font_points = 10;
   bool line_numbers = true;  // in a margin left of the text
   bool colours = true;       // by the words of C++
 };

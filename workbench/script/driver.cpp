@@ -125,7 +125,9 @@ void ScriptDriver::State::tryStep() {
   const ScriptLine& line = lines[next];
   const VerbInfo* verb = findVerb(line.verb);
   std::string box;
-  if (verb->readiness == Readiness::kWithoutBox && observer->windows().boxWaits(&box)) {
+  // Later tries may well stand beside the box that the step itself brought about.
+  if (attempt == 0 && verb->readiness == Readiness::kWithoutBox &&
+      observer->windows().boxWaits(&box)) {
     if (waited() > kBoxMs) {
       fail("a message box waits for an answer: " + box);
     }
@@ -152,6 +154,7 @@ void ScriptDriver::State::tryStep() {
 
 void ScriptDriver::State::nextLine() {
   attempt = 0;
+  stage->chosen_in = 0;
   waiting_since = GetTickCount();
   Watchdog::instance().progress(lineNumber());
 }
@@ -191,7 +194,9 @@ void ScriptDriver::State::frameGone() {
   if (phase == Phase::kEnded) {
     return;
   }
-  bool all_done = stage->quit || next >= lines.size() || lines[next].verb == "quit";
+  // An entry such as "Exit" closes the frame before its step can see it done.
+  size_t left = stage->chosen_in != 0 ? next + 1 : next;
+  bool all_done = stage->quit || left >= lines.size() || lines[left].verb == "quit";
   if (!all_done) {
     fail("the frame has closed before this step");
   } else if (observer->windows().unusedAnswers() != 0) {

@@ -20,8 +20,11 @@ class ScriptDriver {
   // Reads the script from a file, or from standard input for "-". Returns false
   // when it cannot be read.
   bool load(const std::string& path);
-  // Starts stepping; call it once the frame is shown. The driver ends the program's
-  // message loop with PostQuitMessage(exit code) when the script ends.
+  // Starts stepping; call it once the frame is shown, and before the file or folder
+  // of the command line is opened, so that boxes it shows are the script's to
+  // answer. The driver ends the program's message loop with PostQuitMessage(exit
+  // code) when the script ends; a line that cannot be read, a failed step and a
+  // frame closed too early give 1, a run that hangs 3.
   void start();
 
  private:

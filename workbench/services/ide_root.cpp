@@ -1,0 +1,61 @@
+#include "workbench/services/ide_root.h"
+
+#include "workbench/app/workbench.h"
+#include "workbench/events/event_log.h"
+#include "workbench/services/file_stream.h"
+#include "workbench/services/ide_string.h"
+
+namespace workbench {
+
+IdeRoot::IdeRoot(const ServiceContext& context)
+    : Service(context.live, "ide", ideapi::kUnknown),
+      context_(context),
+      editor_(context),
+      status_(context),
+      options_(context),
+      make_(context),
+      tools_(context),
+      project_(context, tools_),
+      project_save_(context) {}
+
+HRESULT STDMETHODCALLTYPE IdeRoot::QueryInterface(REFIID id, void** result) {
+  IUnknown* const services[] = {this,   &editor_,  &status_, &options_,
+                                &make_, &project_, &tools_,  &project_save_};
+  const GUID* const ids[] = {&ideapi::kUnknown,           &ideapi::kEditorService,
+                             &ideapi::kStatusLineService, &ideapi::kOptionsService,
+                             &ideapi::kMakeService,       &ideapi::kProjectService,
+                             &ideapi::kToolService,       &ideapi::kProjectSaveService};
+  *result = nullptr;
+  for (int i = 0; i < 8; ++i) {
+    if (IsEqualGUID(id, *ids[i])) {
+      services[i]->AddRef();
+      *result = services[i];
+      return S_OK;
+    }
+  }
+  return E_NOINTERFACE;
+}
+
+IIdeString* STDMETHODCALLTYPE IdeRoot::CreateIdeString() {
+  return handOut(context_.live, "");
+}
+
+IFileStream* STDMETHODCALLTYPE IdeRoot::CreateFileStream() {
+  return new FileStream(context_);
+}
+
+void IdeRoot::reportLeaks() {
+  std::map<std::string, long> counts = context_.live.counts();
+  counts["chapter"] = static_cast<long>(options_.chapters().size());
+  counts["make client"] = static_cast<long>(make_.clients().size());
+  counts["project client"] = static_cast<long>(project_.clients().size());
+  counts["project save client"] = static_cast<long>(project_save_.clients().size());
+  counts["tool"] = static_cast<long>(tools_.implementors());
+  for (const auto& [kind, count] : counts) {
+    if (count != 0) {
+      context_.workbench.events().emit(Event("leak").text("kind", kind).number("count", count));
+    }
+  }
+}
+
+}  // namespace workbench

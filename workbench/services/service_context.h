@@ -1,0 +1,18 @@
+// What the services work on; all of it outlives them.
+#pragma once
+
+namespace workbench {
+
+class EditorSet;
+class LiveObjects;
+class Project;
+class Workbench;
+
+struct ServiceContext {
+  Workbench& workbench;
+  EditorSet& editors;
+  Project& project;
+  LiveObjects& live;
+};
+
+}  // namespace workbench

@@ -1,0 +1,54 @@
+#include "workbench/services/small_services.h"
+
+#include "workbench/app/workbench.h"
+#include "workbench/project/project.h"
+#include "workbench/services/ide_string.h"
+
+namespace workbench {
+
+StatusLineService::StatusLineService(const ServiceContext& context)
+    : Service(context.live, "status line service", ideapi::kStatusLineService), context_(context) {}
+
+void STDMETHODCALLTYPE StatusLineService::SetText(IIdeString* text) {
+  context_.workbench.setStatus(textOf(text));
+}
+
+OptionsService::OptionsService(const ServiceContext& context)
+    : Service(context.live, "options service", ideapi::kOptionsService), context_(context) {}
+
+IIdeString* STDMETHODCALLTYPE OptionsService::GetNodeOption(ProjectNode node, int kind) {
+  const std::string* text = context_.project.nodeOption(node, kind);
+  return text != nullptr ? handOut(context_.live, *text) : nullptr;
+}
+
+int STDMETHODCALLTYPE OptionsService::AddChapter(IMpdChapter* chapter) {
+  return chapters_.add(chapter) ? 1 : 0;
+}
+
+int STDMETHODCALLTYPE OptionsService::RemoveChapter(IMpdChapter* chapter) {
+  return chapters_.remove(chapter) ? 1 : 0;
+}
+
+MakeService::MakeService(const ServiceContext& context)
+    : Service(context.live, "make service", ideapi::kMakeService) {}
+
+void STDMETHODCALLTYPE MakeService::AddClient(IMakeClient* client) {
+  clients_.add(client);
+}
+
+void STDMETHODCALLTYPE MakeService::RemoveClient(IMakeClient* client) {
+  clients_.remove(client);
+}
+
+ProjectSaveService::ProjectSaveService(const ServiceContext& context)
+    : Service(context.live, "project save service", ideapi::kProjectSaveService) {}
+
+void STDMETHODCALLTYPE ProjectSaveService::AddClient(IProjectSaveClient* client) {
+  clients_.add(client);
+}
+
+void STDMETHODCALLTYPE ProjectSaveService::RemoveClient(IProjectSaveClient* client) {
+  clients_.remove(client);
+}
+
+}  // namespace workbench

@@ -1,0 +1,135 @@
+#include "workbench/services/tool_service.h"
+
+#include <shellapi.h>
+
+#include <algorithm>
+
+#include "workbench/app/workbench.h"
+#include "workbench/events/event_log.h"
+#include "workbench/project/path_text.h"
+#include "workbench/services/client_list.h"
+#include "workbench/services/ide_string.h"
+
+namespace workbench {
+
+ToolService::ToolService(const ServiceContext& context)
+    : Service(context.live, "tool service", ideapi::kToolService), context_(context) {
+  for (const char* name : {"EditText", "Project", "RunExecutable"}) {
+    tools_.push_back({++last_handle_, name, "", nullptr});
+  }
+}
+
+const ToolService::Tool* ToolService::find(const std::string& name) const {
+  const auto found = std::find_if(tools_.begin(), tools_.end(),
+                                  [&name](const Tool& tool) { return tool.name == name; });
+  return found == tools_.end() ? nullptr : &*found;
+}
+
+const ToolService::Tool* ToolService::find(ToolHandle handle) const {
+  const auto found = std::find_if(tools_.begin(), tools_.end(),
+                                  [handle](const Tool& tool) { return tool.handle == handle; });
+  return found == tools_.end() ? nullptr : &*found;
+}
+
+ToolHandle STDMETHODCALLTYPE ToolService::FindTool(IIdeString* name) {
+  const Tool* tool = find(textOf(name));
+  return tool != nullptr ? tool->handle : 0;
+}
+
+int STDMETHODCALLTYPE ToolService::RunTool(ToolHandle handle, IIdeString* file) {
+  return runTool(find(handle), file);
+}
+
+int ToolService::run(const std::string& name, const std::string& file) {
+  IIdeString* text = handOut(context_.live, file);
+  const int result = runTool(find(name), text);
+  text->Release();
+  return result;
+}
+
+int ToolService::runFromMenu(ToolHandle handle) {
+  return runTool(find(handle), nullptr);
+}
+
+int ToolService::runTool(const Tool* tool, IIdeString* file) {
+  if (tool == nullptr) {
+    return kToolNotHandled;
+  }
+  // The tool may be removed while it runs.
+  const std::string name = tool->name;
+  const std::string path = textOf(file);
+  int result = kToolNotHandled;
+  if (tool->implementor == nullptr) {
+    result = runOwn(name, path);
+  } else {
+    const Held<IToolImplementor> implementor(tool->implementor);
+    result = implementor->Run(file);
+  }
+  context_.workbench.events().emit(
+      Event("tool").text("name", name).text("file", path).number("result", result));
+  return result;
+}
+
+int ToolService::runOwn(const std::string& name, const std::string& file) {
+  if (file.empty()) {
+    return kToolNotHandled;
+  }
+  if (name == "EditText") {
+    return context_.workbench.editFile(file, 0) != nullptr ? kToolDone : kToolErrors;
+  }
+  if (name == "Project") {
+    return context_.workbench.openPath(file) ? kToolDone : kToolErrors;
+  }
+  return runExecutable(context_.workbench.resolve(file));
+}
+
+int ToolService::runExecutable(const std::string& file) {
+  const std::string folder(folderOf(file));
+  const HINSTANCE result = ShellExecuteA(context_.workbench.frame(), "open", file.c_str(), nullptr,
+                                         folder.c_str(), SW_SHOWNORMAL);
+  // Values up to 32 are errors.
+  return reinterpret_cast<INT_PTR>(result) > 32 ? kToolDone : kToolErrors;
+}
+
+ToolHandle STDMETHODCALLTYPE ToolService::AddTool(IIdeString* name, IIdeString* menuText,
+                                                  IToolImplementor* implementor) {
+  const std::string tool_name = textOf(name);
+  if (tool_name.empty() || implementor == nullptr || find(tool_name) != nullptr) {
+    return 0;
+  }
+  implementor->AddRef();
+  tools_.push_back({++last_handle_, tool_name, textOf(menuText), implementor});
+  if (menu_changed_) {
+    menu_changed_();
+  }
+  return last_handle_;
+}
+
+void STDMETHODCALLTYPE ToolService::RemoveTool(ToolHandle handle) {
+  const Tool* tool = find(handle);
+  if (tool == nullptr || tool->implementor == nullptr) {
+    return;
+  }
+  IToolImplementor* implementor = tool->implementor;
+  std::erase_if(tools_, [handle](const Tool& each) { return each.handle == handle; });
+  implementor->Release();
+  if (menu_changed_) {
+    menu_changed_();
+  }
+}
+
+std::vector<ToolService::MenuTool> ToolService::menuTools() const {
+  std::vector<MenuTool> result;
+  for (const Tool& tool : tools_) {
+    if (tool.implementor != nullptr) {
+      result.push_back({tool.handle, tool.menu_text.empty() ? tool.name : tool.menu_text});
+    }
+  }
+  return result;
+}
+
+std::size_t ToolService::implementors() const {
+  return menuTools().size();
+}
+
+}  // namespace workbench
