@@ -124,7 +124,13 @@ StepResult dumpProject(StepTry& step) {
   if (!workbench.hasProject()) {
     return step.fail("no project is open");
   }
-  step.stage.log.emit(Event("project-tree").text("directory", workbench.projectDirectory()));
+  std::vector<Event> items;
+  for (const ProjectEntry& entry : workbench.projectEntries()) {
+    items.push_back(
+        Event("").number("depth", entry.depth).text("name", entry.name).text("type", entry.type));
+  }
+  step.stage.log.emit(
+      Event("project-tree").text("directory", workbench.projectDirectory()).list("items", items));
   return StepResult::kDone;
 }
 

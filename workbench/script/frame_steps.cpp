@@ -1,3 +1,4 @@
+#include "ideapi/ide_interfaces.h"
 #include "workbench/app/workbench.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/window_text.h"
@@ -40,6 +41,15 @@ StepResult stepEdit(StepTry& step) {
   std::string path = workbench.resolve(step.arg(0));
   bool shown = workbench.editFile(path, static_cast<int>(line)) != nullptr;
   return shown ? StepResult::kDone : step.fail("could not edit " + path);
+}
+
+StepResult stepMake(StepTry& step) {
+  bool failed = step.argCount() == 1 && step.arg(0) == "fail";
+  if (!failed && step.argCount() == 1 && step.arg(0) != "ok") {
+    return step.fail("a make ends with ok or fail");
+  }
+  step.stage.workbench.make(failed ? kMakeFailed : kMakeSucceeded);
+  return StepResult::kDone;
 }
 
 StepResult stepSave(StepTry& step) {

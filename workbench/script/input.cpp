@@ -26,6 +26,13 @@ void sendModifiers(const KeyStroke& stroke, bool down) {
   }
 }
 
+// The screen is 65536 units wide and high; rounded up, so that the way back ends
+// at the same pixel.
+DWORD absolute(LONG pixel, int metric) {
+  LONGLONG size = GetSystemMetrics(metric);
+  return static_cast<DWORD>((pixel * 65536LL + size - 1) / size);
+}
+
 }  // namespace
 
 void pressKey(const KeyStroke& stroke) {
@@ -35,11 +42,22 @@ void pressKey(const KeyStroke& stroke) {
   sendModifiers(stroke, false);
 }
 
+bool pointerRests(POINT screen) {
+  POINT now{};
+  GetCursorPos(&now);
+  if (now.x == screen.x && now.y == screen.y) {
+    return true;
+  }
+  SetCursorPos(screen.x, screen.y);
+  return false;
+}
+
 void clickMouse(POINT screen, MouseButton button) {
   bool left = button == MouseButton::kLeft;
-  SetCursorPos(screen.x, screen.y);
-  mouse_event(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN, 0, 0, 0, 0);
-  mouse_event(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
+  DWORD x = absolute(screen.x, SM_CXSCREEN), y = absolute(screen.y, SM_CYSCREEN);
+  DWORD place = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
+  mouse_event(place | (left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN), x, y, 0, 0);
+  mouse_event(place | (left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP), x, y, 0, 0);
 }
 
 }  // namespace workbench

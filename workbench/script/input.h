@@ -12,7 +12,10 @@ enum class MouseButton { kLeft, kRight };
 
 // Modifiers down, key down and up, modifiers up.
 void pressKey(const KeyStroke& stroke);
-// Moves the pointer there, then presses and releases.
+// Moves the pointer. Returns whether it was there already: motion that is still
+// under way could carry a click elsewhere.
+bool pointerRests(POINT screen);
+// Presses and releases there.
 void clickMouse(POINT screen, MouseButton button);
 
 }  // namespace workbench

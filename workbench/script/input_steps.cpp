@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include "workbench/app/workbench.h"
 #include "workbench/script/input.h"
 #include "workbench/script/steps.h"
@@ -32,6 +34,28 @@ HWND editorToClick(StepTry& step, const std::string& file) {
   return window;
 }
 
+// Whether a click would make a double click of the one before.
+bool wouldDouble(const Stage& stage, POINT screen) {
+  LONG dx = screen.x - stage.last_click.x, dy = screen.y - stage.last_click.y;
+  return std::abs(dx) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+         std::abs(dy) <= GetSystemMetrics(SM_CYDOUBLECLK) &&
+         GetTickCount() - stage.last_click_ms <= GetDoubleClickTime();
+}
+
+// Moves the pointer on the first try and clicks once it has come to rest.
+StepResult click(StepTry& step, POINT screen, MouseButton button) {
+  if (wouldDouble(step.stage, screen)) {
+    return step.again("the last click was just now");
+  }
+  if (!pointerRests(screen)) {
+    return step.again("the pointer does not get to its place");
+  }
+  step.stage.last_click = screen;
+  step.stage.last_click_ms = GetTickCount();
+  clickMouse(screen, button);
+  return StepResult::kDone;
+}
+
 StepResult clickEditor(StepTry& step, HWND editor, POINT screen, MouseButton button) {
   takeForeground(step);
   HWND under = WindowFromPoint(screen);
@@ -40,8 +64,7 @@ StepResult clickEditor(StepTry& step, HWND editor, POINT screen, MouseButton but
                           std::to_string(screen.y) + ", is covered by a " + windowClass(under),
                       2000);
   }
-  clickMouse(screen, button);
-  return StepResult::kDone;
+  return click(step, screen, button);
 }
 
 }  // namespace
@@ -94,8 +117,7 @@ StepResult stepClickAt(StepTry& step) {
     return StepResult::kFailed;
   }
   takeForeground(step);
-  clickMouse({x, y}, MouseButton::kLeft);
-  return StepResult::kDone;
+  return click(step, {x, y}, MouseButton::kLeft);
 }
 
 StepResult stepClickCaption(StepTry& step) {

@@ -68,6 +68,26 @@ const char* iconWord(HWND box) {
   return "none";
 }
 
+// A system message box holds one text, perhaps an icon, and answer buttons. Other
+// dialogs may have unnumbered texts, which have the same id, but more besides.
+bool isMessageBox(HWND window) {
+  int texts = 0;
+  for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    int id = GetDlgCtrlID(child);
+    std::string name = windowClass(child);
+    bool icon = name == "Static" && (GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+    bool text = name == "Static" && !icon && LOWORD(id) == kBoxTextId;
+    if (text) {
+      ++texts;
+    }
+    if (!text && !icon && !(name == "Button" && id >= IDOK && id <= IDHELP)) {
+      return false;
+    }
+  }
+  return texts == 1;
+}
+
 BOOL CALLBACK collectDialog(HWND window, LPARAM data) {
   if (IsWindowVisible(window) && windowClass(window) == kDialogClass) {
     reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
@@ -87,7 +107,7 @@ void ModalWindows::noticeOpen(HWND window) {
       return;
     }
   }
-  Open open{window, GetDlgItem(window, kBoxTextId) != nullptr, false, windowText(window), {}};
+  Open open{window, isMessageBox(window), false, windowText(window), {}};
   if (open.is_box && !answers_.empty()) {
     open.answer = answers_.front();
     answers_.pop_front();

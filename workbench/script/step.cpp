@@ -59,6 +59,8 @@ Step stepOf(Verb verb) {
       return stepHandles;
     case Verb::kKey:
       return stepKey;
+    case Verb::kMake:
+      return stepMake;
     case Verb::kMark:
       return stepMark;
     case Verb::kMinimize:

@@ -9,6 +9,7 @@ namespace workbench {
 StepResult stepOpen(StepTry& step);
 StepResult stepClose(StepTry& step);
 StepResult stepEdit(StepTry& step);
+StepResult stepMake(StepTry& step);
 StepResult stepSave(StepTry& step);
 StepResult stepType(StepTry& step);
 StepResult stepCaret(StepTry& step);

@@ -26,6 +26,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kExpectRegistry, "expect-registry", 3, 3, kBeside, "expect-registry SECTION NAME TEXT"},
     {Verb::kHandles, "handles", 0, 0, kBeside, "handles"},
     {Verb::kKey, "key", 1, 1, kBeside, "key [Ctrl+][Alt+][Shift+]KEY"},
+    {Verb::kMake, "make", 0, 1, kWithout, "make [ok|fail]"},
     {Verb::kMark, "mark", 0, 0, kBeside, "mark"},
     {Verb::kMinimize, "minimize", 0, 0, kBeside, "minimize"},
     {Verb::kOpen, "open", 1, 1, kWithout, "open PATH"},

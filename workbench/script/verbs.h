@@ -27,6 +27,7 @@ enum class Verb {
   kExpectRegistry,
   kHandles,
   kKey,
+  kMake,
   kMark,
   kMinimize,
   kOpen,

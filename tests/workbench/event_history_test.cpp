@@ -1,0 +1,101 @@
+#include <string>
+
+#include "doctest.h"
+#include "workbench/script/event_history.h"
+
+using workbench::Event;
+using workbench::EventHistory;
+using workbench::EventQuery;
+using workbench::plainItemText;
+using workbench::wildcardMatch;
+
+TEST_CASE("A star stands for any text") {
+  const struct {
+    const char* pattern;
+    const char* text;
+    bool match;
+  } rows[] = {
+      {"", "", true},          {"", "a", false},        {"*", "", true},
+      {"*", "anything", true}, {"abc", "abc", true},    {"abc", "abcd", false},
+      {"abc", "ABC", false},   {"a*c", "abbc", true},   {"a*c", "abbcd", false},
+      {"*ab", "aab", true},    {"*ab*", "xabab", true}, {"a*b*c", "a-b-b-c", true},
+      {"a*b*c", "acb", false}, {"**", "", true},        {"a**", "a", true},
+      {"a?", "ab", false},     {"[a]", "a", false},     {"*.cpp", "C:\\x\\a.cpp", true},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.pattern));
+    CAPTURE(std::string(row.text));
+    CHECK(wildcardMatch(row.pattern, row.text) == row.match);
+  }
+}
+
+TEST_CASE("A menu text reads without its marks") {
+  const struct {
+    const char* text;
+    const char* plain;
+  } rows[] = {{"&File", "File"},   {"E&xit\tAlt+F4", "Exit"},
+              {"a && b", "a & b"}, {"end&", "end&"},
+              {"\tx", ""},         {"&&&c", "&c"}};
+  for (const auto& row : rows) {
+    CHECK(plainItemText(row.text) == row.plain);
+  }
+}
+
+TEST_CASE("A query compares one field of an event") {
+  Event menu("menu");
+  menu.text("title", "x")
+      .list("items", {Event("").number("id", 7).text("text", "&Open...\tF3"),
+                      Event("").text("text", "Quit")});
+  const struct {
+    EventQuery query;
+    bool match;
+  } rows[] = {
+      {{"menu", std::nullopt, ""}, true},
+      {{"status", std::nullopt, ""}, false},
+      {{"status", "title", "x"}, false},
+      {{"menu", "title", "x"}, true},
+      {{"menu", "title", "y"}, false},
+      {{"menu", "nothing", "*"}, false},
+      {{"menu", "items.0.id", "7"}, true},
+      {{"menu", "items.1.id", "*"}, false},
+      {{"menu", "items.*.id", "7"}, true},
+      {{"menu", "items.*.text", "Quit"}, true},
+      {{"menu", "items.*.text", "Open..."}, false},  // as it stands, with its marks
+      {{"menu", "item", "Open..."}, true},
+      {{"menu", "item", "&Open...\tF3"}, true},
+      {{"menu", "item", "Close"}, false},
+      {{"menu", "count", "2"}, true},
+      {{"menu", "count", "1"}, false},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.query.key.value_or(""));
+    CAPTURE(row.query.value);
+    CHECK(row.query.matches(menu) == row.match);
+  }
+}
+
+TEST_CASE("The history finds events by position") {
+  EventHistory history;
+  CHECK(history.latest("a") == nullptr);
+  CHECK(history.find({"a", std::nullopt, ""}, 0) == history.end());
+  history.add(Event("a").number("n", 1));
+  history.add(Event("b").number("n", 2));
+  history.add(Event("a").number("n", 3));
+  CHECK(*history.latest("a")->find("n") == "3");
+  CHECK(history.find({"a", std::nullopt, ""}, 0) == 0);
+  CHECK(history.find({"a", std::nullopt, ""}, 1) == 2);
+  CHECK(history.find({"a", "n", "1"}, 1) == history.end());
+  CHECK(history.find({"b", "n", "2"}, 0) == 1);
+}
+
+TEST_CASE("Positions stay true when the oldest events are let go") {
+  EventHistory history;
+  for (int i = 0; i < 20010; ++i) {
+    history.add(Event("e").number("n", i));
+  }
+  CHECK(history.end() == 20010);
+  size_t last = history.find({"e", "n", "20009"}, 0);
+  CHECK(last == 20009);
+  CHECK(*history.at(last).find("n") == "20009");
+  CHECK(history.find({"e", "n", "3"}, 0) == history.end());
+}

@@ -1,0 +1,89 @@
+#include <string>
+
+#include "doctest.h"
+#include "workbench/script/script_line.h"
+#include "workbench/script/verbs.h"
+
+using workbench::parseScript;
+using workbench::ScriptError;
+using workbench::ScriptLine;
+
+namespace {
+
+// "1 verb[arg][arg]; 3 verb" for what was read.
+std::string read(std::string_view text) {
+  std::vector<ScriptLine> lines;
+  ScriptError error;
+  if (!parseScript(text, &lines, &error)) {
+    return "line " + std::to_string(error.line) + ": " + error.text;
+  }
+  std::string out;
+  for (const ScriptLine& line : lines) {
+    out += (out.empty() ? "" : "; ") + std::to_string(line.number) + " " + line.verb;
+    for (const std::string& arg : line.args) {
+      out += "[" + arg + "]";
+    }
+  }
+  return out;
+}
+
+}  // namespace
+
+TEST_CASE("Lines of a script become verbs and arguments") {
+  const struct {
+    std::string_view text;
+    const char* read;
+  } rows[] = {
+      {"", ""},
+      {"close", "1 close"},
+      {"\n# words\n  \t\n\t#quit\n \tclose \t\n", "5 close"},
+      {"mark\r\nquit\r\n", "1 mark; 2 quit"},
+      {"edit a.cpp\t12", "1 edit[a.cpp][12]"},
+      {R"(choose "Kesto|Options...")", "1 choose[Kesto|Options...]"},
+      {R"(echo "")", "1 echo[]"},
+      {R"(echo "say ""it"" """)", R"(1 echo[say "it" "])"},
+      {R"(echo a"b)", R"(1 echo[a"b])"},      // a quote within a bare word is a letter
+      {R"(echo C:\a\)", R"(1 echo[C:\a\])"},  // a backslash is a backslash
+      {"echo #1", "1 echo[#1]"},              // comments take whole lines
+      {"echo \"a\tb\"", "1 echo[a\tb]"},      //
+      {"\xEF\xBB\xBF"
+       "echo \xC3\xA9",
+       "1 echo[\xE9]"},               // UTF-8 with its mark
+      {"echo \xE9", "1 echo[\xE9]"},  // Windows-1252
+  };
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.text));
+    CHECK(read(row.text) == row.read);
+  }
+}
+
+TEST_CASE("A script is refused as a whole, with the line of its first fault") {
+  const struct {
+    const char* text;
+    const char* fault;
+  } rows[] = {
+      {"close\n\necho \"a", "line 3: a quote is left open"},
+      {"echo \"a\"\"", "line 1: a quote is left open"},
+      {"echo \"a\"b", "line 1: text follows a closing quote"},
+      {"echo \"a\"#", "line 1: text follows a closing quote"},
+      {"# x\r\nclos\r\n", "line 2: unknown verb: clos"},
+      {"Close", "line 1: unknown verb: Close"},
+      {"close now", "line 1: usage: close"},
+      {"caret 1", "line 1: usage: caret LINE COL"},
+      {"edit", "line 1: usage: edit FILE [LINE]"},
+      {"edit a 1 2", "line 1: usage: edit FILE [LINE]"},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.text));
+    CHECK(read(row.text) == row.fault);
+  }
+}
+
+TEST_CASE("No bytes upset the reader") {
+  const std::string line = "expect menu item \"a \"\"b\"\"\"\xC3\xA9\r\n# \xE9\necho \"\"";
+  for (size_t cut = 0; cut <= line.size(); ++cut) {
+    read(std::string_view(line).substr(0, cut));
+    read(std::string_view(line).substr(cut));
+  }
+  read(std::string_view("\0\0\n\0", 4));
+}
