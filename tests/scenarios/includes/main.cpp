@@ -1,0 +1,5 @@
+#include "deep.h"
+#include <nowhere.h>
+#include "both.h" // see <angle.h>
+#include ""
+// #include "beside.h"
