@@ -210,6 +210,15 @@ bool ModalWindows::boxWaits(std::string* text) const {
   return false;
 }
 
+bool ModalWindows::boxOpen() const {
+  for (const Open& open : open_) {
+    if (open.is_box) {
+      return true;
+    }
+  }
+  return false;
+}
+
 HWND ModalWindows::dialog() const {
   if (open_.empty() || open_.back().is_box) {
     return nullptr;
