@@ -30,6 +30,8 @@ class Application final : public Workbench, public FrameHandler {
   // Loads and starts an add-on; before the frame, as the IDE does. False with a
   // sentence for the user.
   bool startAddon(const std::string& path, std::string* reason);
+  // What add-ons are started with; the caller takes no reference.
+  IIde* ide() { return &root_; }
   // keep_settings: the user's settings are read now and written when they change.
   bool createFrame(HINSTANCE instance, bool keep_settings);
   // Shows the first source of the project, so that there is something to look at.

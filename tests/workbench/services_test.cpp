@@ -1,0 +1,440 @@
+// What an add-on finds behind the root interface, with real windows and files.
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "doctest.h"
+#include "ideapi/ide_identifiers.h"
+#include "ideapi/ide_interfaces.h"
+#include "workbench/app/application.h"
+#include "workbench/project/path_text.h"
+
+using namespace workbench;
+
+namespace {
+
+void writeFile(const std::string& path, const std::string& bytes) {
+  DiskStore store;
+  REQUIRE(store.write(path, bytes) == FileFault::kNone);
+}
+
+// A folder with a file or two, gone at the end.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    char base[MAX_PATH] = {};
+    char name[MAX_PATH] = {};
+    GetTempPathA(sizeof base, base);
+    GetTempFileNameA(base, "wbt", 0, name);
+    DeleteFileA(name);
+    CreateDirectoryA(name, nullptr);
+    char full[MAX_PATH] = {};
+    GetLongPathNameA(name, full, sizeof full);
+    path_ = full;
+    CreateDirectoryA(file("inc").c_str(), nullptr);
+    writeFile(file("a.cpp"), "first\r\nsecond word\r\nthird\r\n");
+    writeFile(file("inc\\b.h"), "int b;\n");
+  }
+  ~ScratchFolder() {
+    for (const char* name : {"a.cpp", "inc\\b.h"}) {
+      SetFileAttributesA(file(name).c_str(), FILE_ATTRIBUTE_NORMAL);
+      DeleteFileA(file(name).c_str());
+    }
+    RemoveDirectoryA(file("inc").c_str());
+    RemoveDirectoryA(path_.c_str());
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  const std::string& path() const { return path_; }
+  std::string file(const std::string& name) const { return joinPath(path_, name); }
+
+ private:
+  std::string path_;
+};
+
+// The program without its message loop, its events kept.
+class Program {
+ public:
+  Program() {
+    application.events().setOutput(false);
+    application.events().setListener([this](const Event& event) { events.push_back(event); });
+    REQUIRE(application.createFrame(GetModuleHandleA(nullptr), false));
+  }
+  ~Program() { close(); }
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  void close() {
+    if (application.frame() != nullptr) {
+      application.frameClosing();
+      DestroyWindow(application.frame());
+      UnregisterClassA(ideapi::kFrameClass, GetModuleHandleA(nullptr));
+      UnregisterClassA(ideapi::kEditorClass, GetModuleHandleA(nullptr));
+      UnregisterClassA(ideapi::kEditorTextClass, GetModuleHandleA(nullptr));
+      UnregisterClassA("WorkbenchStatus", GetModuleHandleA(nullptr));
+    }
+  }
+  IIde* ide() { return application.ide(); }
+  template <typename Interface>
+  Interface* service(const GUID& id) {
+    void* result = nullptr;
+    REQUIRE(ide()->QueryInterface(id, &result) == 0);
+    return static_cast<Interface*>(result);
+  }
+  // A string that the caller releases.
+  IIdeString* text(const std::string& value) {
+    IIdeString* string = ide()->CreateIdeString();
+    string->SetText(value.c_str());
+    return string;
+  }
+  const Event* last(const std::string& name) const {
+    for (auto event = events.rbegin(); event != events.rend(); ++event) {
+      if (event->name() == name) {
+        return &*event;
+      }
+    }
+    return nullptr;
+  }
+
+  Application application;
+  std::vector<Event> events;
+};
+
+std::string take(IIdeString* string) {
+  if (string == nullptr) {
+    return "(null)";
+  }
+  const std::string result = string->GetText();
+  string->Release();
+  return result;
+}
+
+// Counts its references and calls; stays on the stack.
+template <typename Interface>
+class Client : public Interface {
+ public:
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** result) override {
+    *result = nullptr;
+    return E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+  ULONG references = 1;
+  std::string calls;
+};
+
+class MakeClientFake final : public Client<IMakeClient> {
+  void STDMETHODCALLTYPE MakeStarted() override { calls += "started "; }
+  void STDMETHODCALLTYPE MakeEnded(int result) override {
+    calls += "ended" + std::string(1, static_cast<char>('0' + result)) + " ";
+  }
+};
+
+class ProjectClientFake final : public Client<IProjectClient> {
+ public:
+  IProjectService* service = nullptr;
+
+ private:
+  void STDMETHODCALLTYPE ProjectOpened(IProject* project) override {
+    calls += "opened " + take(project->GetFileName()) + " ";
+  }
+  // The project is still there while its closing is told.
+  void STDMETHODCALLTYPE ProjectClosed() override {
+    calls += service->IsProjectLoaded() != 0 ? "closed " : "closed too late ";
+  }
+  void STDMETHODCALLTYPE NodeAdded(ProjectNode) override { calls += "added "; }
+  void STDMETHODCALLTYPE NodeRemoved(ProjectNode node) override {
+    calls += "removed " + take(service->GetNodeName(node)) + " ";
+  }
+  void STDMETHODCALLTYPE NodeOptionsChanged(ProjectNode) override {}
+  void STDMETHODCALLTYPE NodeChanged(ProjectNode) override {}
+  void STDMETHODCALLTYPE TargetChanged(ProjectNode) override {}
+};
+
+class ToolFake final : public Client<IToolImplementor> {
+  int STDMETHODCALLTYPE Run(IIdeString* file) override {
+    calls += file == nullptr ? "(none)" : file->GetText();
+    return kToolWarnings;
+  }
+};
+
+}  // namespace
+
+TEST_CASE("every service answers for itself, and the message window is not there") {
+  Program program;
+  for (const GUID& id : {ideapi::kEditorService, ideapi::kStatusLineService,
+                         ideapi::kOptionsService, ideapi::kMakeService, ideapi::kProjectService,
+                         ideapi::kProjectSaveService, ideapi::kToolService, ideapi::kUnknown}) {
+    void* first = nullptr;
+    void* second = nullptr;
+    CHECK(program.ide()->QueryInterface(id, &first) == 0);
+    REQUIRE(first != nullptr);
+    CHECK(static_cast<IUnknown*>(first)->QueryInterface(id, &second) == 0);
+    CHECK(first == second);
+    CHECK(static_cast<IUnknown*>(first)->Release() == 1);
+    CHECK(static_cast<IUnknown*>(second)->Release() == 0);
+  }
+  void* message = &program;
+  CHECK(program.ide()->QueryInterface(ideapi::kMessageService, &message) == E_NOINTERFACE);
+  CHECK(message == nullptr);
+}
+
+TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {
+  Program program;
+  IIdeString* kept = program.text("kept");
+  program.text("released")->Release();
+  IFileStream* stream = program.ide()->CreateFileStream();
+  stream->AddRef();
+  MakeClientFake client;
+  auto* make = program.service<IMakeService>(ideapi::kMakeService);
+  make->AddClient(&client);
+  make->Release();
+  program.close();
+  std::string leaks;
+  for (const Event& event : program.events) {
+    if (event.name() == "leak") {
+      leaks += *event.find("kind") + "=" + *event.find("count") + " ";
+    }
+  }
+  CHECK(leaks == "file stream=2 make client=1 string=1 ");
+  kept->Release();
+  stream->Release();
+  stream->Release();
+}
+
+TEST_CASE("an editor is found, moved, read and changed in one step of undo") {
+  ScratchFolder folder;
+  Program program;
+  REQUIRE(program.application.openPath(folder.path()));
+  auto* editor = program.service<IEditorService>(ideapi::kEditorService);
+  IIdeString* name = program.text(foldCase(folder.file("a.cpp")));
+  CHECK(editor->FindView(name) == 0);
+  REQUIRE(program.application.editFile("a.cpp", 3) != nullptr);
+  const EditorView view = editor->FindView(name);
+  REQUIRE(view != 0);
+
+  int column = 7;
+  int line = 7;
+  CHECK(editor->MakeCurrent(view) == 1);
+  editor->GetCursor(&column, &line);  // outside a transaction there is no current buffer
+  CHECK(column + line == 0);
+  CHECK(editor->MakeCurrent(view + 1) == 0);
+
+  editor->BeginTransaction();
+  editor->BeginTransaction();
+  CHECK(editor->MakeCurrent(view) == 1);
+  editor->GetCursor(&column, &line);
+  CHECK(column == 1);
+  CHECK(line == 3);
+  CHECK(take(editor->GetLine(2)) == "second word");
+  CHECK(editor->GetLine(5) == nullptr);
+  CHECK(editor->GetLine(0) == nullptr);
+  editor->SetCursor(8, 2);
+  IIdeString* insertion = program.text("new ");
+  editor->InsertText(insertion);
+  editor->EndTransaction();
+  editor->GetCursor(&column, &line);  // before the new text
+  CHECK(column == 8);
+  CHECK(line == 2);
+  CHECK(take(editor->GetLine(2)) == "second new word");
+  editor->SetCursor(40, 1);
+  editor->GetCursor(&column, &line);  // past the end of its line
+  CHECK(column == 40);
+  editor->SetCursor(1, 99);
+  editor->InsertText(insertion);
+  editor->SetCursor(1, -5);
+  editor->GetCursor(&column, &line);
+  CHECK(line == 1);
+  editor->ShowLine(2);
+  editor->EndTransaction();
+  CHECK(*program.last("editor")->find("line") == "1");
+
+  EditorWindow* window = program.application.findEditor("a.cpp");
+  CHECK(window->text() == "first\r\nsecond new word\r\nthird\r\nnew ");
+  CHECK(window->modified());
+  SendMessageA(window->textWindow(), WM_UNDO, 0, 0);
+  CHECK(window->text() == "first\r\nsecond word\r\nthird\r\n");
+  CHECK_FALSE(window->modified());
+
+  window->setCaret(1, 6);
+  window->type("!\n");
+  char title[300] = {};
+  GetWindowTextA(window->window(), title, sizeof title);
+  CHECK(title == folder.file("a.cpp") + " *");
+  IIdeString* names = nullptr;
+  CHECK(editor->SaveModified(&names) == 1);
+  CHECK(take(names) == folder.file("a.cpp"));
+  CHECK(editor->SaveModified(&names) == 0);
+  CHECK(names == nullptr);
+  std::string bytes;
+  DiskStore store;
+  CHECK(store.read(folder.file("a.cpp"), kLargestText, &bytes) == FileFault::kNone);
+  CHECK(bytes == "first!\r\n\r\nsecond word\r\nthird\r\n");
+  insertion->Release();
+  name->Release();
+  editor->Release();
+}
+
+TEST_CASE("a stream reads the editor's text before the file's") {
+  ScratchFolder folder;
+  Program program;
+  REQUIRE(program.application.openPath(folder.path()));
+  IFileStream* stream = program.ide()->CreateFileStream();
+  IIdeString* name = program.text(folder.file("a.cpp"));
+  char buffer[64] = {};
+  CHECK(stream->Read(buffer, 1) < 0);
+  CHECK(stream->Seek(0, kStreamFromStart) == -1);
+  CHECK(stream->Open(name, kStreamBuffer) == 0);
+  CHECK(stream->GetState() == 0);
+  CHECK(stream->Open(name, kStreamBufferOrFile) == 1);
+  CHECK(stream->Read(buffer, 5) == 5);
+  CHECK(std::string(buffer, 5) == "first");
+  CHECK(stream->Seek(-4, kStreamFromEnd) == 23);
+  CHECK(stream->Read(buffer, 64) == 4);
+  CHECK(stream->Read(buffer, 64) == 0);
+  CHECK(stream->Seek(-28, kStreamFromHere) == -1);
+  CHECK(stream->Seek(1000, kStreamFromStart) == 1000);
+  CHECK(stream->Read(buffer, 64) == 0);
+
+  program.application.editFile("a.cpp", 1)->type("unsaved ");
+  for (const int mode : {kStreamBuffer, kStreamBufferOrFile, kStreamFile}) {
+    CHECK(stream->Open(name, mode) == 1);
+    CHECK(stream->GetState() != 0);
+    CHECK(stream->Read(buffer, 5) == 5);
+    CHECK(std::string(buffer, 5) == (mode == kStreamFile ? "first" : "unsav"));
+  }
+  stream->Close();
+  CHECK(stream->Read(buffer, 1) < 0);
+  for (const std::string& wrong : {folder.path(), folder.file("none.cpp"), std::string()}) {
+    name->SetText(wrong.c_str());
+    CHECK(stream->Open(name, kStreamBufferOrFile) == 0);
+    CHECK(stream->GetState() == 0);
+  }
+  name->Release();
+  stream->Release();
+}
+
+TEST_CASE("clients hear of projects and makes until they are removed") {
+  ScratchFolder folder;
+  Program program;
+  ProjectClientFake client;
+  MakeClientFake maker;
+  auto* service = program.service<IProjectService>(ideapi::kProjectService);
+  auto* make = program.service<IMakeService>(ideapi::kMakeService);
+  client.service = service;
+  service->AddClient(&client);
+  service->AddClient(&client);
+  make->AddClient(&maker);
+  CHECK(client.references == 2);
+  CHECK(service->GetProjectFile() == nullptr);
+  REQUIRE(program.application.openPath(folder.path()));
+  const std::string file = take(service->GetProjectFile());
+  CHECK(client.calls == "opened " + file + " ");
+  CHECK(fileName(file) == std::string(fileName(folder.path())) + ".ide");
+
+  IIdeString* name = program.text("C:\\NEW.CPP");
+  IIdeString* type = program.text(".cpp");
+  const ProjectNode node = service->AddNode(service->GetTopNode(), name, type);
+  CHECK(service->FindNode(name) == node);
+  CHECK(service->RemoveNode(node) == 1);
+  CHECK(service->RemoveNode(node) == 0);
+  CHECK(service->GetNodeName(node) == nullptr);
+  program.application.make(kMakeFailed);
+  CHECK(maker.calls == "started ended1 ");
+  make->RemoveClient(&maker);
+  program.application.make(kMakeSucceeded);
+  CHECK(maker.calls == "started ended1 ");
+  CHECK(maker.references == 1);
+
+  name->SetText("Option");
+  const void* data = nullptr;
+  CHECK(service->GetOption(name, &data) == 0);
+  service->CommitOption(service->SetOption(name, "a\0b", 3));
+  CHECK(service->GetOption(name, &data) == 3);
+  CHECK(std::string(static_cast<const char*>(data), 3) == std::string("a\0b", 3));
+
+  auto* options = program.service<IOptionsService>(ideapi::kOptionsService);
+  CHECK(take(options->GetNodeOption(service->GetTopNode(), kOptionIncludePath)) ==
+        folder.file("inc"));
+  CHECK(options->GetNodeOption(service->GetTopNode(), kOptionSourcePath) == nullptr);
+  options->Release();
+
+  program.application.closeProject();
+  CHECK(client.calls == "opened " + file + " added removed C:\\NEW.CPP closed ");
+  service->RemoveClient(&client);
+  CHECK(client.references == 1);
+  REQUIRE(program.application.openPath(folder.path()));
+  ProjectClientFake late;
+  late.service = service;
+  service->AddClient(&late);
+  CHECK(late.calls == "opened " + file + " ");
+  service->RemoveClient(&late);
+  name->Release();
+  type->Release();
+  make->Release();
+  service->Release();
+}
+
+TEST_CASE("tools") {
+  ScratchFolder folder;
+  Program program;
+  REQUIRE(program.application.openPath(folder.path()));
+  auto* tools = program.service<IToolService>(ideapi::kToolService);
+  IIdeString* name = program.text("EditText");
+  IIdeString* file = program.text(folder.file("inc\\b.h"));
+  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  CHECK(program.application.findEditor("inc\\b.h") != nullptr);
+  CHECK(*program.last("tool")->find("name") == "EditText");
+  CHECK(*program.last("tool")->find("result") == "0");
+  CHECK(tools->RunTool(tools->FindTool(name), nullptr) == kToolNotHandled);
+
+  ToolFake tool;
+  CHECK(tools->AddTool(name, name, &tool) == 0);
+  name->SetText("Deliver");
+  const ToolHandle handle = tools->AddTool(name, name, &tool);
+  CHECK(tools->FindTool(name) == handle);
+  CHECK(tool.references == 2);
+  CHECK(tools->RunTool(handle, file) == kToolWarnings);
+  SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
+  CHECK(tool.calls == folder.file("inc\\b.h") + "(none)");
+  tools->RemoveTool(handle);
+  CHECK(tool.references == 1);
+  CHECK(tools->RunTool(handle, file) == kToolNotHandled);
+
+  // A project's file stands for its folder.
+  name->SetText("Project");
+  file->SetText(folder.file("whatever.ide").c_str());
+  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  CHECK(program.application.findEditor(folder.file("inc\\b.h")) == nullptr);
+  file->Release();
+  name->Release();
+  tools->Release();
+}
+
+TEST_CASE("views of one file share it and are numbered while there are several") {
+  ScratchFolder folder;
+  Program program;
+  REQUIRE(program.application.openPath(folder.path()));
+  EditorWindow* first = program.application.editFile("a.cpp", 1);
+  SendMessageA(program.application.frame(), WM_COMMAND, 13506, 0);
+  EditorWindow* second = program.application.activeEditor();
+  REQUIRE(first != second);
+  first->setCaret(3, 2);
+  second->select(1, 1, 2, 1);
+  second->type("");
+  CHECK(first->text() == "second word\r\nthird\r\n");
+  int line = 0;
+  int column = 0;
+  first->caret(&line, &column);
+  CHECK(line == 2);
+  CHECK(column == 2);
+  char title[300] = {};
+  GetWindowTextA(second->window(), title, sizeof title);
+  CHECK(title == folder.file("a.cpp") + ":2 *");
+  // The last view would ask; this one is not the last.
+  SendMessageA(first->window(), WM_CLOSE, 0, 0);
+  GetWindowTextA(second->window(), title, sizeof title);
+  CHECK(title == folder.file("a.cpp") + " *");
+}
