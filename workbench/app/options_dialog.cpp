@@ -117,6 +117,7 @@ class OptionsDialog final : public Dialog {
     for (const int button : {IDOK, IDCANCEL, IDHELP}) {
       stretch(item(button), dx, dy, 0, 0);
     }
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   }
 
   // Moves a window and changes its size, in pixels.
