@@ -108,7 +108,7 @@ struct IStatusLineService : IUnknown {
 // The message window: groups of messages, each group a tab.
 struct IMessageService : IUnknown {
   // A new group; menuText is its name with the "&" of a menu.
-  virtual MessageGroup STDMETHODCALLTYPE CreateGroup(IIdeString* name, IIdeString* menuText) = 0;
+  virtual MessageGroup STDMETHODCALLTYPE CreateGroup(IIdeString* name, IIdeString* menu_text) = 0;
   // Adds under the parent, at the top level when it is 0. Returns 0 when the
   // group does not exist.
   virtual MessageHandle STDMETHODCALLTYPE AddMessage(MessageGroup group, MessageHandle parent,
@@ -260,7 +260,7 @@ struct IToolService : IUnknown {
   virtual int STDMETHODCALLTYPE RunTool(ToolHandle tool, IIdeString* file) = 0;
   // Adds a tool to the Tool menu; the service keeps a reference of the
   // implementor until the tool is removed. Returns 0 when the name is taken.
-  virtual ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menuText,
+  virtual ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menu_text,
                                                IToolImplementor* implementor) = 0;
   virtual void STDMETHODCALLTYPE RemoveTool(ToolHandle tool) = 0;
 };

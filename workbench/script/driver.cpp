@@ -169,8 +169,10 @@ int ScriptDriver::State::lineNumber() const {
 void ScriptDriver::State::close() {
   std::string box;
   if (phase == Phase::kSteps) {
+    // A dialog that leaves the frame enabled may stay open to the end.
     bool menu = observer->menu() != nullptr;
-    if (menu || observer->windows().anyOpen() || under_way > 0) {
+    bool held = observer->windows().boxOpen() || !IsWindowEnabled(workbench.frame());
+    if (menu || held || under_way > 0) {
       if (waited() > kBoxMs) {
         fail(menu ? "the script ends while a menu is open"
                   : "the script ends while a box or dialog is open");

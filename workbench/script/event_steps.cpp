@@ -1,3 +1,4 @@
+#include "workbench/events/ansi.h"
 #include "workbench/events/event_log.h"
 #include "workbench/script/steps.h"
 
@@ -20,11 +21,17 @@ std::string wording(const EventQuery& query) {
   return query.name + (query.key ? " " + *query.key + " \"" + query.value + "\"" : "");
 }
 
-// The latest event of the name, for the reason of a failure.
+// An event for the reason of a failure; a long one is cut.
+std::string shown(const Event& event) {
+  constexpr size_t kMost = 1000;
+  std::string json;
+  ansiFromUtf8(event.toJson(), &json);
+  return json.size() <= kMost ? json : json.substr(0, kMost) + "...";
+}
+
 std::string seen(const StepTry& step) {
   const Event* latest = step.stage.history.latest(step.arg(0));
-  return latest == nullptr ? "no " + step.arg(0) + " has come"
-                           : "the latest was " + latest->toJson();
+  return latest == nullptr ? "no " + step.arg(0) + " has come" : "the latest was " + shown(*latest);
 }
 
 }  // namespace
@@ -61,7 +68,7 @@ StepResult stepExpectNot(StepTry& step) {
   if (found == history.end()) {
     return StepResult::kDone;
   }
-  return step.fail("did not expect " + history.at(found).toJson());
+  return step.fail("did not expect " + shown(history.at(found)));
 }
 
 StepResult stepMark(StepTry& step) {

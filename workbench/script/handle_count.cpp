@@ -46,7 +46,7 @@ long countGdi() {
   return count;
 }
 
-long countMenus() {
+long menuWords() {
   long count = 0;
   for (ULONG_PTR word = 1; word < 0x10000; ++word) {
     if (IsMenu(static_cast<HMENU>(fromWord(word)))) {
@@ -54,6 +54,15 @@ long countMenus() {
     }
   }
   return count;
+}
+
+// Where handles are spaced two apart, both words are taken for the one menu.
+long countMenus() {
+  long before = menuWords();
+  HMENU one = CreatePopupMenu();
+  long words = menuWords() - before;
+  DestroyMenu(one);
+  return words > 0 ? before / words : before;
 }
 
 }  // namespace

@@ -49,17 +49,17 @@ const char* iconWord(HWND box) {
   const struct {
     LPCSTR icon;
     const char* word;
-  } kIcons[] = {{IDI_HAND, "error"},
-                {IDI_QUESTION, "question"},
-                {IDI_EXCLAMATION, "warning"},
-                {IDI_ASTERISK, "information"}};
+  } icons[] = {{IDI_HAND, "error"},
+               {IDI_QUESTION, "question"},
+               {IDI_EXCLAMATION, "warning"},
+               {IDI_ASTERISK, "information"}};
   for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {
     if (windowClass(child) != "Static") {
       continue;
     }
     LRESULT icon = SendMessageA(child, STM_GETICON, 0, 0);
-    for (const auto& entry : kIcons) {
+    for (const auto& entry : icons) {
       if (icon != 0 && reinterpret_cast<HICON>(icon) == LoadIconA(nullptr, entry.icon)) {
         return entry.word;
       }
@@ -206,6 +206,15 @@ bool ModalWindows::boxWaits(std::string* text) const {
       *text = windowText(GetDlgItem(open_[i].window, kBoxTextId));
     }
     return open_[i].answer.empty();
+  }
+  return false;
+}
+
+bool ModalWindows::boxOpen() const {
+  for (const Open& open : open_) {
+    if (open.is_box) {
+      return true;
+    }
   }
   return false;
 }

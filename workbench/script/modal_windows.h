@@ -34,6 +34,7 @@ class ModalWindows {
   // The foremost open dialog, or null while a box is in front of it.
   HWND dialog() const;
   bool anyOpen() const { return !open_.empty(); }
+  bool boxOpen() const;
   // Takes everything down, for a run that has failed.
   void dismissAll();
 

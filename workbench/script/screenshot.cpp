@@ -21,7 +21,7 @@ bool copyScreen(Picture* picture) {
   header.biHeight = height;
   header.biPlanes = 1;
   header.biBitCount = 24;
-  header.biSizeImage = static_cast<DWORD>((width * 3 + 3) / 4 * 4 * height);
+  header.biSizeImage = static_cast<DWORD>(width * 3 + 3) / 4 * 4 * static_cast<DWORD>(height);
   picture->pixels.resize(header.biSizeImage);
 
   HDC screen = GetDC(nullptr);

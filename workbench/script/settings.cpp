@@ -71,7 +71,7 @@ bool writeSetting(const std::string& section, const std::string& name, const std
   return key.get() != nullptr &&
          RegSetValueExA(key.get(), name.c_str(), 0, REG_SZ,
                         reinterpret_cast<const BYTE*>(text.c_str()),
-                        static_cast<DWORD>(text.size() + 1)) == ERROR_SUCCESS;
+                        static_cast<DWORD>(text.size()) + 1) == ERROR_SUCCESS;
 }
 
 bool deleteSetting(const std::string& section, const std::string& name) {

@@ -1,0 +1,41 @@
+#include "addon/addon_hook_host.h"
+
+#include "addon/completion/completion_settings.h"
+#include "addon/navigation/editor_navigation.h"
+#include "addon/navigation/quick_find.h"
+#include "addon/topbar/top_bar.h"
+
+namespace kesto {
+
+bool AddonHookHost::navigationEnabled() const {
+  return editorNavigation != nullptr && editorNavigation->enabled();
+}
+
+int AddonHookHost::titleButtonAt(HWND editor, POINT& point) const {
+  return editorNavigation != nullptr ? editorNavigation->hitTest(editor, point) : -1;
+}
+
+unsigned AddonHookHost::completionKey() const {
+  return completionSettings != nullptr && completionSettings->enabled()
+             ? completionSettings->keyCode()
+             : 0;
+}
+
+unsigned AddonHookHost::searchKey(int search) const {
+  return quickFind != nullptr ? quickFind->key(static_cast<Search>(search)) : 0;
+}
+
+bool AddonHookHost::barFollowsFrame() const {
+  return topBar != nullptr && topBar->enabled() && topBar->hidesWithIde();
+}
+
+bool AddonHookHost::barWatchesProjectView() const {
+  return topBar != nullptr && topBar->enabled() && topBar->hidesWithView() &&
+         topBar->construction() < BarConstruction::kNoMenu;
+}
+
+bool AddonHookHost::barStaysOnTop() const {
+  return topBar != nullptr && topBar->alwaysOnTop();
+}
+
+}  // namespace kesto

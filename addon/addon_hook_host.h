@@ -1,0 +1,19 @@
+// Answers the hooks' questions from the features and the bar.
+#pragma once
+
+#include "addon/ide/hook_set.h"
+
+namespace kesto {
+
+class AddonHookHost : public HookHost {
+ public:
+  bool navigationEnabled() const override;
+  int titleButtonAt(HWND editor, POINT& point) const override;
+  unsigned completionKey() const override;
+  unsigned searchKey(int search) const override;
+  bool barFollowsFrame() const override;
+  bool barWatchesProjectView() const override;
+  bool barStaysOnTop() const override;
+};
+
+}  // namespace kesto

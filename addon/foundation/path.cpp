@@ -1,0 +1,73 @@
+#include "addon/foundation/path.h"
+
+#include <algorithm>
+
+namespace kesto {
+
+namespace {
+
+constexpr std::size_t kDriveCharacters = 2;
+
+bool sameUpper(std::string_view text, std::string_view upper) {
+  return std::equal(text.begin(), text.end(), upper.begin(), upper.end(),
+                    [](char a, char b) { return upperAscii(a) == b; });
+}
+
+}  // namespace
+
+std::string_view fileNamePart(std::string_view path) {
+  const std::size_t separator = path.find_last_of("\\/");
+  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+std::string_view directoryPart(std::string_view path) {
+  const std::size_t separator = path.find_last_of("\\/");
+  return separator == std::string_view::npos ? path.substr(0, 0) : path.substr(0, separator);
+}
+
+std::string_view fileOfTitle(std::string_view title) {
+  std::string_view file = title.substr(0, kTitleLimit);
+  for (std::size_t i = file.size(); i-- > kDriveCharacters;) {
+    const char c = file[i];
+    if (c == ':' || c == '*' || (c == ' ' && i + 1 == file.size())) {
+      file = file.substr(0, i);
+    }
+  }
+  return file;
+}
+
+std::string_view documentationTitle(std::string_view title) {
+  return title.substr(0, title.find_last_not_of(" *") + 1);
+}
+
+std::string_view fileWithoutLine(std::string_view file) {
+  return file.substr(0, file.find(':', kDriveCharacters));
+}
+
+void upperAscii(char* text) {
+  for (; *text != '\0'; ++text) {
+    *text = upperAscii(*text);
+  }
+}
+
+bool titleMatches(std::string_view title, std::string_view wanted_upper) {
+  for (std::size_t at = 0; at + wanted_upper.size() <= title.size(); ++at) {
+    const bool begins = at == 0 || title[at - 1] == '\\' || title[at - 1] == '/';
+    const std::size_t end = at + wanted_upper.size();
+    const bool ends = end == title.size() || title[end] == ':';
+    if (begins && ends && sameUpper(title.substr(at, wanted_upper.size()), wanted_upper)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool nextListEntry(std::string_view& rest, std::string_view& entry) {
+  const std::size_t separator = rest.find(';');
+  entry = rest.substr(0, separator);
+  rest =
+      separator == std::string_view::npos ? rest.substr(rest.size()) : rest.substr(separator + 1);
+  return !entry.empty();
+}
+
+}  // namespace kesto

@@ -1,0 +1,41 @@
+// Pure helpers for paths, window titles that name files, and ";" lists. Views
+// point into their argument and live as long as it does.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace kesto {
+
+// Characters of an editor's title that are looked at.
+inline constexpr std::size_t kTitleLimit = 178;
+
+// What follows the last "\" or "/"; the whole path when it has none.
+std::string_view fileNamePart(std::string_view path);
+// What precedes the last "\" or "/"; empty when the path has none.
+std::string_view directoryPart(std::string_view path);
+
+// The file that an editor's title names: the IDE's ":n" view number, its "*" and a
+// blank before them are cut, from the end down to the third character, so that a
+// drive's colon survives. Titles beyond kTitleLimit are cut there first.
+std::string_view fileOfTitle(std::string_view title);
+// The title without the blanks and "*" at its end.
+std::string_view documentationTitle(std::string_view title);
+// The file without ":" suffixes, down to the third character.
+std::string_view fileWithoutLine(std::string_view file);
+
+// a to z only; other bytes stay.
+constexpr char upperAscii(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+void upperAscii(char* text);
+
+// Whether the title, in upper case, holds wanted_upper at its start or after a "\"
+// or "/", and followed by the title's end or by ":".
+bool titleMatches(std::string_view title, std::string_view wanted_upper);
+
+// Takes the first entry off a ";" list; false at the list's end, which an empty
+// entry is as well.
+bool nextListEntry(std::string_view& rest, std::string_view& entry);
+
+}  // namespace kesto

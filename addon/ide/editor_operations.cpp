@@ -1,0 +1,134 @@
+#include "addon/ide/editor_operations.h"
+
+#include <cstring>
+#include <string>
+
+#include "addon/foundation/path.h"
+#include "addon/ide/completion_source.h"
+#include "addon/ide/cursor_word.h"
+#include "addon/ide/service_holder.h"
+#include "addon/ide/status_line.h"
+
+namespace kesto {
+
+CompletionSource* completionSource = nullptr;
+
+namespace {
+
+constexpr size_t kLongestCompletedWord = 99;
+
+// An editor transaction on the view of a file; false when there is no such view.
+class EditorTransaction {
+ public:
+  explicit EditorTransaction(const char* file) {
+    IEditorService* service = editorService();
+    const ComPtr<IIdeString> name = makeIdeString(file);
+    if (service == nullptr || !name) {
+      return;
+    }
+    const EditorView view = service->FindView(name.get());
+    if (view == 0) {
+      return;
+    }
+    service->BeginTransaction();
+    service_ = service;
+    aimed_ = service->MakeCurrent(view) != 0;
+  }
+  ~EditorTransaction() {
+    if (service_ != nullptr) {
+      service_->EndTransaction();
+    }
+  }
+  EditorTransaction(const EditorTransaction&) = delete;
+  EditorTransaction& operator=(const EditorTransaction&) = delete;
+
+  explicit operator bool() const { return aimed_; }
+  IEditorService* operator->() const { return service_; }
+
+  std::string line(int number) const {
+    const std::unique_ptr<char[]> text = takeIdeString(service_->GetLine(number));
+    return text != nullptr ? std::string(text.get()) : std::string();
+  }
+
+ private:
+  IEditorService* service_ = nullptr;
+  bool aimed_ = false;
+};
+
+void insertAtCursor(const EditorTransaction& editor, const std::string& text, int column,
+                    int line) {
+  if (const ComPtr<IIdeString> string = makeIdeString(text.c_str())) {
+    editor->InsertText(string.get());
+    editor->SetCursor(column + static_cast<int>(text.size()), line);
+  }
+}
+
+// A second request on a word that cannot be continued shows its description.
+void showAnswerWithoutText(const CompletionAnswer& answer, std::string& shown_description) {
+  if (answer.description != shown_description) {
+    shown_description = answer.description;
+    showStatus(answer.status.c_str());
+    return;
+  }
+  showStatus(answer.description.empty() ? answer.status.c_str() : answer.description.c_str());
+}
+
+}  // namespace
+
+void goToLine(const char* file, int line) {
+  const EditorTransaction editor(file);
+  if (editor) {
+    editor->SetCursor(1, line);
+    editor->ShowLine(line + 1);
+  }
+}
+
+void wordAtCursor(const char* file, char (&output)[kWordBufferSize]) {
+  output[0] = '\0';
+  const EditorTransaction editor(file);
+  if (!editor) {
+    return;
+  }
+  int column = 0;
+  int line = 0;
+  editor->GetCursor(&column, &line);
+  const std::string text = editor.line(line);
+  const std::string_view word = wordAround(text, column);
+  memcpy(output, word.data(), word.size());
+  output[word.size()] = '\0';
+  if (column > 1) {
+    editor->SetCursor(column, line);
+  }
+}
+
+void completeAtCursor(const char* file) {
+  static std::string shown_description;
+  const std::string name(fileWithoutLine(file));
+  const EditorTransaction editor(name.c_str());
+  if (!editor) {
+    return;
+  }
+  int column = 0;
+  int line = 0;
+  editor->GetCursor(&column, &line);
+  const std::string text = editor.line(line);
+  const std::string word(wordBefore(text, column));
+  if (word.empty() || word.size() > kLongestCompletedWord) {
+    return;
+  }
+  const CompletionAnswer answer =
+      completionSource != nullptr ? completionSource->complete(word.c_str()) : CompletionAnswer{};
+  if (answer.result == 0) {
+    showStatus("No available completion");
+    return;
+  }
+  if (answer.text.empty()) {
+    showAnswerWithoutText(answer, shown_description);
+    return;
+  }
+  insertAtCursor(editor, answer.text, column, line);
+  shown_description = answer.description;
+  showStatus(answer.result == 1 ? "Completion done" : answer.status.c_str());
+}
+
+}  // namespace kesto

@@ -1,0 +1,73 @@
+#include "addon/ide/find_window.h"
+
+#include <cstring>
+
+#include "addon/foundation/path.h"
+#include "ideapi/ide_identifiers.h"
+
+namespace kesto {
+namespace {
+
+constexpr int kClassNameSize = 80;
+constexpr int kTitleSize = 280;
+
+struct ChildSearch {
+  const char* class_name;
+  const char* title;
+  HWND found;
+};
+
+BOOL CALLBACK testChild(HWND window, LPARAM parameter) {
+  ChildSearch& search = *reinterpret_cast<ChildSearch*>(parameter);
+  if (search.class_name != nullptr && !isWindowOfClass(window, search.class_name)) {
+    return TRUE;
+  }
+  if (search.title != nullptr) {
+    char title[kTitleSize] = "";
+    GetWindowTextA(window, title, sizeof title);
+    upperAscii(title);
+    if (!titleMatches(title, search.title)) {
+      return TRUE;
+    }
+  }
+  search.found = window;
+  return FALSE;
+}
+
+}  // namespace
+
+bool isWindowOfClass(HWND window, const char* class_name) {
+  char name[kClassNameSize] = "";
+  GetClassNameA(window, name, sizeof name);
+  return strcmp(name, class_name) == 0;
+}
+
+HWND findChildWindow(HWND parent, const char* class_name, const char* title) {
+  ChildSearch search = {class_name, title, nullptr};
+  EnumChildWindows(parent, testChild, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+HWND findFrame() {
+  return FindWindowA(ideapi::kFrameClass, nullptr);
+}
+
+HWND findMdiClient() {
+  // Without a parent the enumeration would walk the desktop.
+  const HWND frame = findFrame();
+  return frame != nullptr ? findChildWindow(frame, ideapi::kMdiClientClass, nullptr) : nullptr;
+}
+
+HWND findActiveEditor() {
+  const HWND client = findMdiClient();
+  const HWND first = client != nullptr ? GetWindow(client, GW_CHILD) : nullptr;
+  return first != nullptr && isWindowOfClass(first, ideapi::kEditorClass) ? first : nullptr;
+}
+
+void activateFrame() {
+  if (const HWND frame = findFrame()) {
+    SetActiveWindow(frame);
+  }
+}
+
+}  // namespace kesto

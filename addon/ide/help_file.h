@@ -1,0 +1,37 @@
+// The module's help file: its own path with the extension "hlp".
+#pragma once
+
+#include <windows.h>
+
+namespace kesto {
+
+class HelpFile {
+ public:
+  // A module path without a three-letter extension ends the whole process,
+  // after a box that says why.
+  HelpFile(HINSTANCE instance, HWND owner);
+  // Closes the help window when a topic was shown.
+  ~HelpFile();
+  HelpFile(const HelpFile&) = delete;
+  HelpFile& operator=(const HelpFile&) = delete;
+
+  void showTopic(DWORD context);
+  const char* path() const { return path_; }
+
+ private:
+  BOOL opened_ = FALSE;
+  HINSTANCE instance_;
+  HWND owner_;
+  char path_[299];
+};
+
+extern HelpFile* helpFile;
+
+// The topic that the bar's help command opens.
+inline constexpr DWORD kHelpContents = 1;
+
+// Replaces the three letters after the final "." by "hlp". Returns false, and
+// leaves the path alone, when it does not end in "." and three characters.
+bool makeHelpPath(char* module_path);
+
+}  // namespace kesto

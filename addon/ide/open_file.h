@@ -1,0 +1,25 @@
+// The add-on's one way to show a file in the IDE.
+#pragma once
+
+#include <windows.h>
+
+namespace kesto {
+
+// Brings an editor that shows the file to the front or, when there is none (or
+// another view is wanted, by the setting below or by the Shift key), runs the IDE's
+// tool "EditText" on it. Returns false when the tool fails; the status line then
+// says how.
+bool openFile(const char* path);
+// Whether a file that is open already gets another view; off at start.
+void setOpenInOtherView(bool on);
+
+// The status text of a tool's result, null for a success.
+const char* toolResultText(int result);
+
+// The editor window whose title is the path, regardless of case and other than
+// the given one (null: any); null when there is none.
+HWND findEditorTitled(const char* path, HWND other_than);
+// Shows the editor in its normal size, in front of the others, without moving it.
+void raiseEditor(HWND editor);
+
+}  // namespace kesto

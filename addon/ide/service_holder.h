@@ -1,0 +1,37 @@
+// A service kept for the whole session: obtained at construction, released at
+// destruction, null when the IDE does not offer it.
+#pragma once
+
+#include "addon/ide/access.h"
+
+namespace kesto {
+
+template <class T>
+class ServiceHolder {
+ public:
+  explicit ServiceHolder(const GUID& id) : service_(getService<T>(id)) {}
+  T* get() const { return service_.get(); }
+
+ private:
+  ComPtr<T> service_;
+};
+
+class EditorServiceHolder : public ServiceHolder<IEditorService> {
+ public:
+  EditorServiceHolder() : ServiceHolder(ideapi::kEditorService) {}
+};
+
+class StatusLineServiceHolder : public ServiceHolder<IStatusLineService> {
+ public:
+  StatusLineServiceHolder() : ServiceHolder(ideapi::kStatusLineService) {}
+};
+
+// The lifecycle fills and clears these slots; null outside a session.
+extern EditorServiceHolder* editorServiceHolder;
+extern StatusLineServiceHolder* statusLineServiceHolder;
+
+// The held service, or null.
+IEditorService* editorService();
+IStatusLineService* statusLineService();
+
+}  // namespace kesto

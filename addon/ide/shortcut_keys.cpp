@@ -1,0 +1,68 @@
+// The keyboard hook's part of the hook set: shortcuts and key capture.
+#include "addon/foundation/key_code.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/hook_set.h"
+#include "ideapi/ide_identifiers.h"
+
+namespace kesto {
+namespace {
+
+constexpr LPARAM kKeyUp = static_cast<LPARAM>(1UL << 31);
+constexpr LPARAM kKeyWasDown = 1L << 30;
+constexpr LPARAM kAltHeld = 1L << 29;
+constexpr int kActiveTitleSize = 300;
+
+unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
+  return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
+                 GetKeyState(VK_SHIFT) < 0);
+}
+
+}  // namespace
+
+bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
+  if (key_capture_ != nullptr) {
+    return onCapturedKey(virtual_key, lParam);
+  }
+  if ((lParam & (kKeyUp | kKeyWasDown)) != 0) {
+    return false;
+  }
+  const unsigned completion = host_.completionKey();
+  if (completion != 0 && virtual_key == virtualKeyOf(completion) &&
+      pressedKeyCode(virtual_key, lParam) == completion) {
+    post(kCommandComplete);
+    return true;
+  }
+  return host_.navigationEnabled() && onSearchKey(pressedKeyCode(virtual_key, lParam));
+}
+
+bool HookSet::onCapturedKey(UINT virtual_key, LPARAM lParam) {
+  const bool modifier = virtual_key >= VK_SHIFT && virtual_key <= VK_MENU;
+  if ((lParam & kKeyUp) == 0 && !modifier) {
+    SendMessageA(key_capture_, kCapturedKeyMessage, virtual_key, lParam);
+  }
+  return true;
+}
+
+bool HookSet::onSearchKey(unsigned code) {
+  for (int search = 0; search < kSearchKeyCount; ++search) {
+    if (host_.searchKey(search) != code) {
+      continue;
+    }
+    const HWND editor = findActiveEditor();
+    if (editor == nullptr) {
+      return false;
+    }
+    char title[kActiveTitleSize] = "";
+    const int length = GetWindowTextA(editor, title, sizeof title);
+    target_.window = editor;
+    lstrcpynA(target_.title, title, sizeof target_.title);
+    if (length == 0) {
+      return false;
+    }
+    post(kCommandFirstSearchKey + search);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace kesto

@@ -1,0 +1,31 @@
+#include "addon/navigation/directory_listing.h"
+
+#include <io.h>
+#include <sys/stat.h>
+
+#include <new>
+#include <string>
+
+namespace kesto {
+
+bool DirectoryListing::isFile(const char* path) {
+  struct _stat status = {};
+  return _stat(path, &status) == 0 && (status.st_mode & _S_IFDIR) == 0;
+}
+
+void DirectoryListing::listDirectories(const char* directory, Tableau<String>& names) {
+  const std::string pattern = std::string(directory) + "\\*";
+  _finddata_t entry = {};
+  const intptr_t search = _findfirst(pattern.c_str(), &entry);
+  if (search == -1) {
+    return;
+  }
+  do {
+    if ((entry.attrib & _A_SUBDIR) != 0) {
+      names.insert(new (std::nothrow) String(entry.name), names.count());
+    }
+  } while (_findnext(search, &entry) == 0);
+  _findclose(search);
+}
+
+}  // namespace kesto

@@ -1,0 +1,55 @@
+#include "addon/navigation/menu_plan.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace kesto {
+
+namespace {
+
+void appendItem(MenuPlan& menu, MenuPlanItem item, int column_size) {
+  const int items = static_cast<int>(menu.size());
+  item.column_break = column_size > 0 && items > 0 && items % column_size == 0;
+  menu.push_back(std::move(item));
+}
+
+MenuPlanItem command(const char* text, int id) {
+  return {text, id, false, {}};
+}
+
+}  // namespace
+
+MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size) {
+  MenuPlan menu;
+  MenuPlan submenu;
+  const char* open_class = "";
+  const auto close_submenu = [&] {
+    if (!submenu.empty()) {
+      appendItem(menu, {open_class, 0, false, std::move(submenu)}, column_size);
+      submenu.clear();
+    }
+  };
+  const int count = std::min(functions.count(), kLastFunctionId - kFirstFunctionId + 1);
+  for (int i = 0; i < count; ++i) {
+    const Fnc& entry = *functions.at(i);
+    if (strcmp(entry.className(), open_class) != 0) {
+      close_submenu();
+      open_class = entry.className();
+    }
+    appendItem(*open_class != '\0' ? submenu : menu, command(entry.name(), kFirstFunctionId + i),
+               column_size);
+  }
+  close_submenu();
+  return menu;
+}
+
+MenuPlan planIncludesMenu(const Tableau<String>& includes) {
+  MenuPlan menu;
+  const int count = std::min(includes.count(), kLastIncludeId - kFirstIncludeId + 1);
+  for (int i = 0; i < count; ++i) {
+    menu.push_back(command(includes.at(i)->text(), kFirstIncludeId + i));
+  }
+  return menu;
+}
+
+}  // namespace kesto

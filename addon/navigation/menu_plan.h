@@ -1,0 +1,35 @@
+// What a title-bar menu shall hold, before it is a menu: the shell turns a plan
+// into popups item by item. Texts belong to the list that the plan was made from
+// and live as long as its entries.
+#pragma once
+
+#include <vector>
+
+#include "addon/foundation/string.h"
+#include "addon/foundation/tableau.h"
+#include "addon/navigation/fnc.h"
+
+namespace kesto {
+
+inline constexpr int kFirstIncludeId = 700;
+inline constexpr int kLastIncludeId = 799;
+inline constexpr int kFirstFunctionId = 1000;
+inline constexpr int kLastFunctionId = 9999;
+
+struct MenuPlanItem {
+  const char* text = "";
+  int id = 0;  // 0 for a submenu
+  bool column_break = false;
+  std::vector<MenuPlanItem> submenu;
+};
+
+using MenuPlan = std::vector<MenuPlanItem>;
+
+// Both plans leave out the entries whose identifiers would be those of other
+// commands: the list may be longer than the menu.
+
+// column_size: items in a column; below 1 there is one endless column.
+MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size);
+MenuPlan planIncludesMenu(const Tableau<String>& includes);
+
+}  // namespace kesto

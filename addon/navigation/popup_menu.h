@@ -1,0 +1,13 @@
+// Turns a menu plan into a popup.
+#pragma once
+
+#include <windows.h>
+
+#include "addon/navigation/menu_plan.h"
+
+namespace kesto {
+
+// The caller destroys the popup, its submenus with it. Null when none could be created.
+HMENU createPopup(const MenuPlan& plan);
+
+}  // namespace kesto

@@ -1,0 +1,131 @@
+#include "addon/navigation/title_commands.h"
+
+#include <string>
+
+#include "addon/foundation/path.h"
+#include "addon/ide/current_project.h"
+#include "addon/ide/editor_operations.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/hook_set.h"
+#include "addon/ide/koptions.h"
+#include "addon/ide/open_file.h"
+#include "addon/ide/status_line.h"
+#include "addon/navigation/directory_listing.h"
+#include "addon/navigation/editor_navigation.h"
+#include "addon/navigation/include_search.h"
+#include "addon/navigation/quick_find.h"
+
+namespace kesto {
+namespace {
+
+constexpr UINT kEditDocumentationItem = 177;
+
+// Tracks the popup where the click was and destroys it.
+bool trackPopup(HWND bar, HMENU popup) {
+  if (popup == nullptr) {
+    return false;
+  }
+  const POINTS place = hookSet->target().click;
+  hookSet->suspend(true);
+  TrackPopupMenu(popup, TPM_LEFTALIGN, place.x, place.y, 0, bar, nullptr);
+  hookSet->suspend(false);
+  DestroyMenu(popup);
+  return true;
+}
+
+void appendSearch(HMENU popup, Search search, const char* text) {
+  std::string item(text);
+  if (quickFind != nullptr && quickFind->key(search) != 0) {
+    item += '\t';
+    item += quickFind->keyText(search).view();
+  }
+  AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
+}
+
+// The include path of the file's node, empty without a project.
+String includePathOf(const char* file) {
+  String path;
+  if (isProjectOpen()) {
+    getOptionText(nodeOfFile(file), kOptionIncludePath, path);
+  }
+  return path;
+}
+
+bool ready() {
+  return hookSet != nullptr && editorNavigation != nullptr;
+}
+
+}  // namespace
+
+bool showFunctionsPopup(HWND bar) {
+  return ready() && trackPopup(bar, editorNavigation->scanFunctions(hookSet->target().title));
+}
+
+bool showIncludesPopup(HWND bar) {
+  return ready() && trackPopup(bar, editorNavigation->scanIncludes(hookSet->target().title));
+}
+
+bool showQuickFindPopup(HWND bar) {
+  if (!ready()) {
+    return false;
+  }
+  const HMENU popup = CreatePopupMenu();
+  appendSearch(popup, Search::kFunction, "Find as function... ");
+  appendSearch(popup, Search::kMethod, "Find as method... ");
+  appendSearch(popup, Search::kClass, "Find as class... ");
+  AppendMenuA(popup, MF_SEPARATOR, 0, nullptr);
+  appendSearch(popup, Search::kCross, "Cross reference... ");
+  return trackPopup(bar, popup);
+}
+
+bool showDocumentationPopup(HWND bar) {
+  if (!ready()) {
+    return false;
+  }
+  const HMENU popup = CreatePopupMenu();
+  AppendMenuA(popup, MF_STRING, kEditDocumentationItem, "Edit Documentation");
+  return trackPopup(bar, popup);
+}
+
+bool chooseFunction(int index) {
+  activateFrame();
+  if (ready()) {
+    if (const Fnc* function = editorNavigation->functionAt(index)) {
+      goToLine(hookSet->target().title, function->line());
+    }
+  }
+  return true;
+}
+
+bool chooseInclude(int index) {
+  activateFrame();
+  if (!ready()) {
+    return true;
+  }
+  const char* name = editorNavigation->includeAt(index);
+  if (name == nullptr) {
+    return true;
+  }
+  DirectoryListing listing;
+  const String path =
+      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
+  String found;
+  if (!findInclude(listing, path.view(), name, found)) {
+    showStatus("Pas trouve");
+    showStatus((std::string("Cannot locate ") + name).c_str());
+    return true;
+  }
+  showStatus(found.text());
+  openFile(found.text());
+  return true;
+}
+
+bool editDocumentation() {
+  activateFrame();
+  if (hookSet != nullptr) {
+    openFile((std::string(hookSet->target().documented) + ".txt").c_str());
+  }
+  return true;
+}
+
+}  // namespace kesto

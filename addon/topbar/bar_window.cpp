@@ -1,0 +1,112 @@
+#include "addon/topbar/bar_window.h"
+
+#include "addon/ide/editor_operations.h"
+#include "addon/ide/hook_set.h"
+#include "addon/ide/open_file.h"
+#include "addon/topbar/command_table.h"
+#include "addon/topbar/placement.h"
+#include "addon/topbar/top_bar.h"
+
+namespace kesto {
+namespace {
+
+constexpr UINT kStartUpItem = 99;
+constexpr char kStartUpText[] = "Kesto Addon for Borland C++ 5.0 initializing...";
+
+bool isTitlePopupOpen() {
+  return hookSet != nullptr && hookSet->suspended();
+}
+
+void collapseBar() {
+  if (topBar != nullptr) {
+    topBar->collapse();
+  }
+}
+
+void onActivation(WPARAM wParam, LPARAM lParam) {
+  if (LOWORD(wParam) == WA_CLICKACTIVE) {
+    // The bar never keeps the keyboard.
+    if (const HWND before = reinterpret_cast<HWND>(lParam)) {
+      SetActiveWindow(before);
+    }
+  } else if (LOWORD(wParam) == WA_INACTIVE) {
+    collapseBar();
+  }
+}
+
+void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
+  if (openFile(reinterpret_cast<const char*>(path))) {
+    PostMessageA(bar, kGoToLineMessage, line, path);
+  }
+}
+
+LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND: {
+      const int id = LOWORD(wParam);
+      if (id != kCommandPaintButtons) {
+        collapseBar();
+      }
+      if (dispatchCommand(bar, id, lParam)) {
+        return 0;
+      }
+      break;
+    }
+    case WM_INITMENU:
+      if (topBar != nullptr && !isTitlePopupOpen()) {
+        topBar->expand();
+      }
+      break;
+    case WM_MENUSELECT:
+      if (!isTitlePopupOpen()) {
+        showCommandStatus(LOWORD(wParam), HIWORD(wParam));
+      }
+      break;
+    case WM_ACTIVATE:
+      onActivation(wParam, lParam);
+      break;
+    case kGoToLineMessage:
+      goToLine(reinterpret_cast<const char*>(lParam), static_cast<int>(wParam));
+      return 0;
+    case kOpenFoundFileMessage:
+      onOpenFoundFile(bar, wParam, lParam);
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcA(bar, message, wParam, lParam);
+}
+
+}  // namespace
+
+bool registerBarClass(HINSTANCE instance) {
+  WNDCLASSA bar_class = {};
+  bar_class.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
+  bar_class.lpfnWndProc = barProcedure;
+  bar_class.hInstance = instance;
+  bar_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+  bar_class.lpszClassName = kBarClass;
+  return RegisterClassA(&bar_class) != 0;
+}
+
+void unregisterBarClass(HINSTANCE instance) {
+  UnregisterClassA(kBarClass, instance);
+}
+
+HWND createBarWindow(HINSTANCE instance, bool new_shell) {
+  const HMENU menu = CreateMenu();
+  AppendMenuA(menu, MF_STRING, kStartUpItem, kStartUpText);
+  const ScreenMetrics metrics = {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
+                                 GetSystemMetrics(SM_CYMENU), GetSystemMetrics(SM_CYCAPTION)};
+  const BarPlacement place = creationPlacement(metrics, new_shell);
+  const HWND bar =
+      CreateWindowExA(new_shell ? WS_EX_TOPMOST | WS_EX_TOOLWINDOW : WS_EX_TOPMOST, kBarClass,
+                      nullptr, new_shell ? WS_POPUP | WS_BORDER : WS_POPUP | WS_CAPTION, place.x,
+                      place.y, place.width, place.height, nullptr, menu, instance, nullptr);
+  if (bar == nullptr) {
+    DestroyMenu(menu);
+  }
+  return bar;
+}
+
+}  // namespace kesto

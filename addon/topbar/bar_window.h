@@ -1,0 +1,22 @@
+// The bar window, class "KADO": a menu bar over the screen's top edge, and the
+// window that owns every popup of the add-on.
+#pragma once
+
+#include <windows.h>
+
+namespace kesto {
+
+inline constexpr char kBarClass[] = "KADO";
+
+// Private messages: wParam is a 1-based line, lParam a zero-terminated path that
+// lives until the message was handled.
+inline constexpr UINT kGoToLineMessage = WM_USER + 7;
+inline constexpr UINT kOpenFoundFileMessage = WM_USER + 8;
+
+bool registerBarClass(HINSTANCE instance);
+void unregisterBarClass(HINSTANCE instance);
+
+// Creates the bar, hidden, with its start-up menu. Null on failure.
+HWND createBarWindow(HINSTANCE instance, bool new_shell);
+
+}  // namespace kesto

@@ -1,0 +1,119 @@
+#include "addon/topbar/command_table.h"
+
+#include "addon/ide/editor_operations.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/help_file.h"
+#include "addon/ide/status_line.h"
+#include "addon/navigation/editor_navigation.h"
+#include "addon/navigation/title_commands.h"
+#include "addon/topbar/caption_window.h"
+#include "ideapi/ide_identifiers.h"
+
+namespace kesto {
+namespace {
+
+struct Command {
+  HWND bar;
+  int position;  // id minus the first of its range
+  LPARAM lParam;
+};
+
+// Returns false to leave the command to the window's default processing.
+using Handler = bool (*)(const Command&);
+
+struct CommandRange {
+  int first;
+  int last;
+  Handler handler;     // null: nothing answers to these ids
+  const char* status;  // text while the item is highlighted, null for a blank line
+};
+
+bool completeWord(const Command&) {
+  if (const HWND editor = findActiveEditor()) {
+    char title[MAX_PATH] = "";
+    GetWindowTextA(editor, title, sizeof title);
+    completeAtCursor(title);
+  }
+  return true;
+}
+
+bool placeCaption(const Command& command) {
+  placeCaptionWindow(reinterpret_cast<HWND>(command.lParam));
+  return true;
+}
+
+bool paintButtons(const Command& command) {
+  if (editorNavigation != nullptr) {
+    editorNavigation->paint(reinterpret_cast<HWND>(command.lParam));
+  }
+  return true;
+}
+
+bool openHelp(const Command&) {
+  if (helpFile != nullptr) {
+    helpFile->showTopic(kHelpContents);
+  }
+  return true;
+}
+
+bool openOptions(const Command&) {
+  const HWND frame = findFrame();
+  if (frame != nullptr && IsWindowEnabled(frame)) {
+    PostMessageA(frame, WM_COMMAND, ideapi::kCommandOptions, 0);
+  }
+  return true;
+}
+
+constexpr CommandRange kCommands[] = {
+    {101, 101, nullptr, nullptr},  // an editor was created
+    {102, 102, completeWord, nullptr},
+    {103, 103, nullptr, nullptr},  // rebuild the bar's menu
+    {104, 104, placeCaption, nullptr},
+    {111, 111, paintButtons, nullptr},
+    {171, 173, nullptr, nullptr},  // tasks
+    {175, 176, nullptr, nullptr},  // groupware get, send
+    {177, 177, [](const Command&) { return editDocumentation(); }, nullptr},
+    {184, 184, nullptr, nullptr},  // results of a method search
+    {187, 187, [](const Command& c) { return showIncludesPopup(c.bar); }, nullptr},
+    {188, 188, [](const Command& c) { return showQuickFindPopup(c.bar); }, nullptr},
+    {189, 189, [](const Command& c) { return showFunctionsPopup(c.bar); }, nullptr},
+    {190, 193, nullptr, nullptr},  // searches and cross reference
+    {194, 195, nullptr, nullptr},  // documentation site
+    {196, 196, openHelp, "Open help window"},
+    {197, 197, [](const Command& c) { return showDocumentationPopup(c.bar); }, nullptr},
+    {199, 199, openOptions, "Open options dialog"},
+    {200, 299, nullptr, nullptr},  // recent projects
+    {300, 399, nullptr, nullptr},  // executables
+    {400, 599, nullptr, nullptr},  // recent headers
+    {700, 799, [](const Command& c) { return chooseInclude(c.position); }, nullptr},
+    {800, 899, nullptr, nullptr},  // search results
+    {1000, 9999, [](const Command& c) { return chooseFunction(c.position); }, nullptr},
+    {10000, 19999, nullptr, nullptr},  // project files
+};
+
+const CommandRange* findRange(int id) {
+  for (const CommandRange& range : kCommands) {
+    if (id >= range.first && id <= range.last) {
+      return &range;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool dispatchCommand(HWND bar, int id, LPARAM lParam) {
+  const CommandRange* range = findRange(id);
+  return range != nullptr && range->handler != nullptr &&
+         range->handler({bar, id - range->first, lParam});
+}
+
+void showCommandStatus(int id, unsigned flags) {
+  if ((flags & (MF_POPUP | MF_SEPARATOR)) != 0) {
+    return;
+  }
+  const CommandRange* range = findRange(id);
+  showStatus(range != nullptr && range->status != nullptr ? range->status : " ");
+}
+
+}  // namespace kesto

@@ -1,0 +1,190 @@
+#include "addon/ide/editor_operations.h"
+
+#include "addon/foundation/message_box.h"
+#include "addon/ide/completion_source.h"
+#include "addon/ide/koptions.h"
+#include "addon/ide/make_registration.h"
+#include "addon/ide/service_holder.h"
+#include "addon/ide/status_line.h"
+#include "addon/ide/unknown_imp.h"
+#include "doctest.h"
+#include "tests/addon/fake_ide.h"
+#include "tests/addon/recorded_boxes.h"
+
+namespace {
+
+class Answering : public kesto::CompletionSource {
+ public:
+  kesto::CompletionAnswer answer;
+  std::string asked;
+  kesto::CompletionAnswer complete(const char* prefix) override {
+    asked = prefix;
+    return answer;
+  }
+};
+
+// A session with services held as the lifecycle holds them. Everything taken from
+// the IDE must be given back at its end.
+class Session {
+ public:
+  Session() : references_before_(fake::live_references) {
+    recorded_boxes.clear();
+    ide.AddRef();
+    kesto::storeIde(&ide);
+  }
+  ~Session() {
+    delete kesto::editorServiceHolder;
+    kesto::editorServiceHolder = nullptr;
+    delete kesto::statusLineServiceHolder;
+    kesto::statusLineServiceHolder = nullptr;
+    kesto::completionSource = nullptr;
+    kesto::releaseIde();
+    CHECK(ide.editor.open_transactions == 0);
+    CHECK(fake::live_references == references_before_);
+  }
+  void hold() {
+    kesto::editorServiceHolder = new kesto::EditorServiceHolder;
+    kesto::statusLineServiceHolder = new kesto::StatusLineServiceHolder;
+  }
+  void edit(const char* line, int column) {
+    ide.editor.file = "C:\\A.CPP";
+    ide.editor.lines = {line};
+    ide.editor.column = column;
+    ide.editor.line = 1;
+  }
+  std::string lastStatus() const {
+    return ide.status_line.texts.empty() ? "" : ide.status_line.texts.back();
+  }
+  fake::Ide ide;
+
+ private:
+  int references_before_;
+};
+
+class Client : public kesto::IUnknownImp<IMakeClient> {
+ public:
+  static int living;
+  Client() { ++living; }
+  void STDMETHODCALLTYPE MakeStarted() override {}
+  void STDMETHODCALLTYPE MakeEnded(int) override {}
+
+ protected:
+  ~Client() override { --living; }
+};
+
+int Client::living = 0;
+
+}  // namespace
+
+TEST_CASE("going to a line puts the caret there and shows the line after it") {
+  Session session;
+  session.hold();
+  session.edit("x", 9);
+  kesto::goToLine("C:\\OTHER.CPP", 40);
+  CHECK(session.ide.editor.transactions == 0);
+  kesto::goToLine("C:\\A.CPP", 40);
+  CHECK(session.ide.editor.column == 1);
+  CHECK(session.ide.editor.line == 40);
+  CHECK(session.ide.editor.shown_line == 41);
+}
+
+TEST_CASE("the word at the caret is read and the caret stays") {
+  Session session;
+  session.hold();
+  session.edit("int count;", 6);
+  char word[kesto::kWordBufferSize] = "old";
+  kesto::wordAtCursor("C:\\A.CPP", word);
+  CHECK(std::string(word) == "count");
+  CHECK(session.ide.editor.column == 6);
+  kesto::wordAtCursor("C:\\OTHER.CPP", word);
+  CHECK(std::string(word).empty());
+}
+
+TEST_CASE("completing without an engine finds nothing, and says so") {
+  Session session;
+  session.hold();
+  session.edit("pri", 4);
+  kesto::completeAtCursor("C:\\A.CPP:120");
+  CHECK(session.lastStatus() == "No available completion");
+  CHECK(session.ide.editor.lines[0] == "pri");
+  session.ide.status_line.texts.clear();
+  session.ide.editor.column = 1;
+  kesto::completeAtCursor("C:\\A.CPP");
+  session.edit(std::string(100, 'w').c_str(), 101);
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(session.ide.status_line.texts.empty());
+}
+
+TEST_CASE("an engine's answer is inserted, and a second strike describes the word") {
+  Session session;
+  session.hold();
+  Answering engine;
+  kesto::completionSource = &engine;
+  session.edit("x = pri;", 8);
+  engine.answer = {2, "nt", "Possible : print, printf", "what print does"};
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(engine.asked == "pri");
+  CHECK(session.ide.editor.lines[0] == "x = print;");
+  CHECK(session.ide.editor.column == 10);
+  CHECK(session.lastStatus() == "Possible : print, printf");
+  engine.answer = {1, "f", "Completion complete", "printf: 100% formatted"};
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(session.ide.editor.lines[0] == "x = printf;");
+  CHECK(session.lastStatus() == "Completion done");
+  engine.answer.text.clear();
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(session.lastStatus() == "printf: 100% formatted");
+  engine.answer.description = "another";
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(session.lastStatus() == "Completion complete");
+}
+
+TEST_CASE("services that are missing leave the operations without effect") {
+  Session session;
+  kesto::showStatus("too early");
+  session.ide.services.clear();
+  session.hold();
+  session.edit("abc", 2);
+  kesto::goToLine("C:\\A.CPP", 3);
+  kesto::completeAtCursor("C:\\A.CPP");
+  kesto::showStatus("nobody");
+  CHECK(session.ide.editor.transactions == 0);
+  CHECK(session.ide.status_line.texts.empty());
+  kesto::OptionsServiceHolder options;
+  REQUIRE(recorded_boxes.size() == 1);
+  CHECK(recorded_boxes[0].caption == "Erreur");
+  CHECK(recorded_boxes[0].text.find("svr!=NULL") != std::string::npos);
+  CHECK(recorded_boxes[0].text.find("koptions") != std::string::npos);
+  kesto::registerMakeClient([]() -> IMakeClient* { return new Client; });
+  REQUIRE(recorded_boxes.size() == 2);
+  CHECK(recorded_boxes[1].text == "Creation SMK impossible");
+  CHECK(recorded_boxes[1].flags == kesto::kMessageOk);
+  CHECK(Client::living == 0);
+}
+
+TEST_CASE("a make client lives from registration to its end") {
+  Session session;
+  kesto::registerMakeClient([]() -> IMakeClient* { return nullptr; });
+  REQUIRE(recorded_boxes.size() == 1);
+  CHECK(recorded_boxes[0].text == "Creation CMK impossible");
+  CHECK(recorded_boxes[0].caption == "Erreur");
+  kesto::registerMakeClient([]() -> IMakeClient* { return new Client; });
+  CHECK(session.ide.make.clients.size() == 1);
+  CHECK(Client::living == 1);
+  kesto::unregisterMakeClient();
+  kesto::unregisterMakeClient();
+  CHECK(session.ide.make.clients.empty());
+  CHECK(Client::living == 0);
+}
+
+TEST_CASE("a node's option text is 1 or 0 by whether the node has it") {
+  Session session;
+  kesto::OptionsServiceHolder holder;
+  kesto::optionsServiceHolder = &holder;
+  kesto::String text("before");
+  CHECK(kesto::getOptionText(2, kOptionIncludePath, text) == 0);
+  CHECK(text == "before");
+  CHECK(kesto::getOptionText(1, kOptionIncludePath, text) == 1);
+  CHECK(text == "C:\\INC");
+  kesto::optionsServiceHolder = nullptr;
+}

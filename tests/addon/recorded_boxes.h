@@ -1,0 +1,13 @@
+// Message boxes of the code under test, kept instead of shown.
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct RecordedBox {
+  std::string text;
+  std::string caption;
+  unsigned flags;
+};
+
+extern std::vector<RecordedBox> recorded_boxes;

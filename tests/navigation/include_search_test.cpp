@@ -1,0 +1,90 @@
+#include "addon/navigation/include_search.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "doctest.h"
+
+namespace kesto {
+
+namespace {
+
+class FakeDisk : public DirectoryLister {
+ public:
+  void file(const std::string& path) { files_.insert(path); }
+  void directory(const std::string& path, std::vector<std::string> names) {
+    directories_[path] = std::move(names);
+  }
+  // Every directory holds two more, for ever.
+  void makeEndless() { endless_ = true; }
+  int listed() const { return listed_; }
+
+  bool isFile(const char* path) override { return files_.count(path) > 0; }
+  void listDirectories(const char* directory, Tableau<String>& names) override {
+    ++listed_;
+    const std::vector<std::string> found =
+        endless_ ? std::vector<std::string>{"loop", "more"} : directories_[directory];
+    for (const std::string& name : found) {
+      names.append(new String(name.c_str()));
+    }
+  }
+
+ private:
+  std::set<std::string> files_;
+  std::map<std::string, std::vector<std::string>> directories_;
+  bool endless_ = false;
+  int listed_ = 0;
+};
+
+std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
+  String found("untouched");
+  const bool success = findInclude(disk, path, name, found);
+  CHECK(success == !(found == "untouched"));
+  return found.text();
+}
+
+}  // namespace
+
+TEST_CASE("a header is sought in each directory, then below it, depth first") {
+  FakeDisk disk;
+  disk.directory("C:\\P", {".git", "b", "a"});
+  disk.directory("C:\\P\\b", {"deep"});
+  disk.file("C:\\P\\b\\deep\\x.h");
+  disk.file("C:\\P\\a\\x.h");
+  disk.file("C:\\P\\a\\y.h");
+  disk.file("C:\\P\\.git\\z.h");
+  disk.file("D:\\inc\\x.h");
+  disk.file("D:\\inc\\z.h");
+  const struct {
+    const char *path, *name, *found;
+  } cases[] = {
+      {"C:\\P;D:\\inc", "x.h", "C:\\P\\b\\deep\\x.h"},
+      {"D:\\inc;C:\\P", "x.h", "D:\\inc\\x.h"},
+      {"C:\\P;D:\\inc", "y.h", "C:\\P\\a\\y.h"},
+      {"C:\\P;;D:\\inc\\", "z.h", "D:\\inc\\z.h"},
+      {"C:\\P", "deep", "untouched"},  // a directory is no answer
+      {"C:\\P", "", "untouched"},
+      {"", "x.h", "untouched"},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(c.path);
+    CAPTURE(c.name);
+    CHECK(find(disk, c.path, c.name) == c.found);
+  }
+}
+
+TEST_CASE("directories without end do not keep the search going") {
+  FakeDisk disk;
+  disk.makeEndless();
+  CHECK(find(disk, "C:\\P", "x.h") == "untouched");
+  CHECK(disk.listed() <= kDirectoryLimit);
+}
+
+TEST_CASE("the search path") {
+  CHECK(includeSearchPath("C:\\P", "D:\\inc;E:\\") == "C:\\P;D:\\inc;E:\\");
+  CHECK(includeSearchPath("C:\\P", "") == "C:\\P");
+}
+
+}  // namespace kesto

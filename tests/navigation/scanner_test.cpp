@@ -1,0 +1,150 @@
+// The scanner on the files of data/: NAME.src is scanned; NAME.functions,
+// NAME.sorted and NAME.includes, as far as they are there, hold what comes of it.
+// Functions are shown as LINE|CLASS|NAME|. A source without CR is scanned with all
+// three kinds of line ends. What differs is left beside the program as NAME.actual.
+#include "addon/navigation/source_scanner.h"
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "doctest.h"
+
+namespace kesto {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::string replaced(std::string text, const std::string& line_end) {
+  for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += line_end.size()) {
+    text.replace(at, 1, line_end);
+  }
+  return text;
+}
+
+std::string shown(const Tableau<Fnc>& functions) {
+  std::string all;
+  for (int i = 0; i < functions.count(); ++i) {
+    const Fnc& f = *functions[i];
+    all += std::to_string(f.line()) + '|' + f.className() + '|' + f.name() + "|\n";
+  }
+  return all;
+}
+
+std::string scanned(const std::string& kind, const std::string& source) {
+  std::string all;
+  if (kind == ".includes") {
+    Tableau<String> includes;
+    scanIncludes(source, includes);
+    for (int i = 0; i < includes.count(); ++i) {
+      all += includes[i]->text();
+      all += '\n';
+    }
+    return all;
+  }
+  Tableau<Fnc> functions;
+  scanFunctions(source, functions);
+  if (kind == ".sorted") {
+    sortFunctions(functions);
+  }
+  return shown(functions);
+}
+
+void checkScan(const fs::path& expected, const std::string& source) {
+  const std::string wanted = contents(expected);
+  const std::string actual = scanned(expected.extension().string(), source);
+  CHECK(actual == wanted);
+  if (actual != wanted) {
+    std::ofstream(expected.filename().string() + ".actual", std::ios::binary) << actual;
+  }
+}
+
+}  // namespace
+
+TEST_CASE("the scanner finds what the expected files list") {
+  int cases = 0;
+  for (const auto& entry : fs::directory_iterator(TEST_DATA_DIR "/navigation/data")) {
+    fs::path path = entry.path();
+    if (path.extension() != ".src") {
+      continue;
+    }
+    const std::string source = contents(path);
+    for (const char* kind : {".functions", ".sorted", ".includes"}) {
+      if (!fs::exists(path.replace_extension(kind))) {
+        continue;
+      }
+      CAPTURE(path.string());
+      ++cases;
+      checkScan(path, source);
+      if (source.find('\r') == std::string::npos) {
+        checkScan(path, replaced(source, "\r\n"));
+        checkScan(path, replaced(source, "\r"));
+      }
+    }
+  }
+  CHECK(cases >= 9);
+}
+
+TEST_CASE("a scan replaces the list of the one before") {
+  Tableau<Fnc> functions;
+  Tableau<String> includes;
+  for (int i = 0; i < 2; ++i) {
+    scanFunctions("int a()", functions);
+    scanIncludes("#include <a>", includes);
+    CHECK(functions.count() == 1);
+    CHECK(includes.count() == 1);
+  }
+}
+
+TEST_CASE("lines of any length, and many of them") {
+  const std::string filler(10000, 'x');
+  Tableau<Fnc> functions;
+  scanFunctions(filler + "\nint " + filler + "(" + filler + ")\n" + filler + "();", functions);
+  REQUIRE(functions.count() == 1);
+  CHECK(functions[0]->line() == 2);
+  CHECK(functions[0]->name() == filler);
+
+  std::string many;
+  for (int i = 1; i <= 100000; ++i) {
+    many += i % 1000 == 0 ? "void C::m()\r\n" : "\tx = y;\r\n";
+  }
+  scanFunctions(many, functions);
+  REQUIRE(functions.count() == 100);
+  CHECK(functions[99]->line() == 100000);
+}
+
+TEST_CASE("an include name is cut at 199 characters") {
+  Tableau<String> includes;
+  scanIncludes(
+      "#include <" + std::string(199, 'a') + ">\n#include \"" + std::string(300, 'b') + '"',
+      includes);
+  REQUIRE(includes.count() == 2);
+  CHECK(includes[0]->text() == std::string(199, 'a'));
+  CHECK(includes[1]->text() == std::string(199, 'b'));
+}
+
+TEST_CASE("a scan reads nothing beyond its text") {
+  // Each piece ends exactly where its block of memory does.
+  const std::string source = contents(TEST_DATA_DIR "/navigation/data/odd.src") +
+                             contents(TEST_DATA_DIR "/navigation/data/includes.src");
+  for (std::size_t size = 0; size <= source.size(); ++size) {
+    const auto block = std::make_unique<char[]>(size);
+    memcpy(block.get(), source.data(), size);
+    Tableau<Fnc> functions;
+    Tableau<String> includes;
+    scanFunctions({block.get(), size}, functions);
+    scanIncludes({block.get(), size}, includes);
+    CHECK(functions.count() <= 11);
+    CHECK(includes.count() <= 10);
+  }
+}
+
+}  // namespace kesto

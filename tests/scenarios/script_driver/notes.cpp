@@ -1,0 +1,4 @@
+// Notes.
+int first() { return 1; }
+
+int second() { return 2; }
