@@ -203,9 +203,15 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
   if (line > 0) {
     child->setCaret(line, 1);
   }
-  events_.emit(Event("editor")
-                   .text("file", child->file())
-                   .number("line", child->textView().caret().line + 1));
+  return announce(child);
+}
+
+EditorChild* Application::announce(EditorChild* child) {
+  if (child != nullptr) {
+    events_.emit(Event("editor")
+                     .text("file", child->file())
+                     .number("line", child->textView().caret().line + 1));
+  }
   return child;
 }
 

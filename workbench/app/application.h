@@ -68,6 +68,8 @@ class Application final : public Workbench, public FrameHandler {
   bool openFolder(const std::string& folder);
   void unloadProject();
   void saveAll();
+  // Tells that an editor opened or came to a line; null tells nothing.
+  EditorChild* announce(EditorChild* child);
   void showTitle();
   void showTools();
   void showEditorState();

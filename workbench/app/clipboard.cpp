@@ -15,7 +15,8 @@ std::string withCrLf(const std::string& text) {
       }
       result += "\r\n";
     } else {
-      result += text[i];
+      // A NUL would end the text for whoever takes it.
+      result += text[i] == '\0' ? ' ' : text[i];
     }
   }
   return result;

@@ -62,7 +62,7 @@ bool Application::fileCommand(int id, EditorChild* child) {
   std::string path;
   switch (id) {
     case CM_FILE_NEW:
-      editors_.create(projectDirectory());
+      announce(editors_.create(projectDirectory()));
       return true;
     case CM_FILE_OPEN:
       if (askOpenName(frame_.window(), projectDirectory(), &path)) {
@@ -197,7 +197,7 @@ bool Application::windowCommand(int id, EditorChild* child) {
       return true;
     case CM_WINDOW_NEW_VIEW:
       if (child != nullptr) {
-        editors_.newView(*child);
+        announce(editors_.newView(*child));
       }
       return true;
     default:

@@ -15,6 +15,22 @@ constexpr char kFilter[] =
     "Resource scripts (*.rc;*.rh)\0*.rc;*.rh\0"
     "All files (*.*)\0*.*\0";
 
+// The system puts the dialog into its owner's corner, where an add-on's bar may lie.
+UINT_PTR CALLBACK centreDialog(HWND page, UINT message, WPARAM, LPARAM l) {
+  if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(l)->code != CDN_INITDONE) {
+    return 0;
+  }
+  HWND dialog = GetParent(page);
+  RECT own = {};
+  RECT over = {};
+  GetWindowRect(dialog, &own);
+  GetWindowRect(GetWindow(dialog, GW_OWNER), &over);
+  SetWindowPos(dialog, nullptr, (over.left + over.right - (own.right - own.left)) / 2,
+               (over.top + over.bottom - (own.bottom - own.top)) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER);
+  return 0;
+}
+
 struct NameDialog {
   OPENFILENAMEA info = {};
   char path[MAX_PATH] = {};
@@ -27,7 +43,9 @@ struct NameDialog {
     info.lpstrFile = path;
     info.nMaxFile = sizeof path;
     info.lpstrInitialDir = folder.c_str();
-    info.Flags = flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
+    info.lpfnHook = centreDialog;
+    info.Flags = flags | OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_HIDEREADONLY |
+                 OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
   }
 };
 

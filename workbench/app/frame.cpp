@@ -116,7 +116,8 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
 }
 
 void Frame::close() {
-  if (closing_ || !handler_.mayCloseFrame()) {
+  // Disabled means that a box is up, perhaps the very question about closing.
+  if (closing_ || IsWindowEnabled(window_) == 0 || !handler_.mayCloseFrame()) {
     return;
   }
   closing_ = true;

@@ -1,5 +1,6 @@
 #include "workbench/app/options_dialog.h"
 
+#include <algorithm>
 #include <string>
 
 #include "workbench/app/command_ids.h"
@@ -70,6 +71,7 @@ class OptionsDialog final : public Dialog {
     if (windows_[index] == nullptr) {
       windows_[index] = createPage(page);
       if (windows_[index] != nullptr) {
+        grow(windows_[index]);
         page->Fill(windows_[index]);
       }
     }
@@ -94,6 +96,40 @@ class OptionsDialog final : public Dialog {
     // Behind the topics in the order of Tab.
     SetWindowPos(created, item(IDC_OPTIONS_PLACE), place.left, place.top, 0, 0, SWP_NOSIZE);
     return created;
+  }
+
+  // Makes room for a page larger than its place.
+  void grow(HWND page) {
+    RECT place = {};
+    RECT size = {};
+    GetWindowRect(item(IDC_OPTIONS_PLACE), &place);
+    GetWindowRect(page, &size);
+    const int dx = std::max(0L, size.right - size.left - (place.right - place.left));
+    const int dy = std::max(0L, size.bottom - size.top - (place.bottom - place.top));
+    if (dx == 0 && dy == 0) {
+      return;
+    }
+    stretch(window(), 0, 0, dx, dy);
+    stretch(item(IDC_OPTIONS_TOPICS), 0, 0, 0, dy);
+    stretch(item(IDC_OPTIONS_TITLE), 0, 0, dx, 0);
+    stretch(item(IDC_OPTIONS_PLACE), 0, 0, dx, dy);
+    stretch(item(IDC_OPTIONS_HELP_TEXT), 0, dy, dx, 0);
+    for (const int button : {IDOK, IDCANCEL, IDHELP}) {
+      stretch(item(button), dx, dy, 0, 0);
+    }
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  }
+
+  // Moves a window and changes its size, in pixels.
+  static void stretch(HWND target, int right, int down, int wider, int higher) {
+    RECT box = {};
+    GetWindowRect(target, &box);
+    const int width = box.right - box.left + wider;
+    const int height = box.bottom - box.top + higher;
+    if ((GetWindowLongA(target, GWL_STYLE) & WS_CHILD) != 0) {
+      MapWindowPoints(nullptr, GetParent(target), reinterpret_cast<POINT*>(&box), 2);
+    }
+    SetWindowPos(target, nullptr, box.left + right, box.top + down, width, height, SWP_NOZORDER);
   }
 
   void timer() override {

@@ -82,15 +82,23 @@ void EditorSet::renumber(const OpenFile& file) {
   }
 }
 
+FileFault EditorSet::readText(const std::string& path, std::string* bytes, FileStamp* stamp) {
+  // Stamped first: a change between the two is noticed later.
+  *stamp = store_.stamp(path);
+  const FileFault fault = store_.read(path, kLargestText, bytes);
+  const auto breaks =
+      std::count_if(bytes->begin(), bytes->end(), [](char c) { return c == '\r' || c == '\n'; });
+  return fault == FileFault::kNone && breaks > kMostLines ? FileFault::kTooLarge : fault;
+}
+
 EditorChild* EditorSet::open(const std::string& path) {
   if (EditorChild* child = find(path)) {
     bringForward(*child);
     return child;
   }
   std::string bytes;
-  // Stamped before it is read: a change in between is noticed later.
-  const FileStamp stamp = store_.stamp(path);
-  const FileFault fault = store_.read(path, kLargestText, &bytes);
+  FileStamp stamp;
+  const FileFault fault = readText(path, &bytes, &stamp);
   if (fault != FileFault::kNone) {
     ask(describeFault(fault, path), MB_OK | MB_ICONERROR);
     return nullptr;
@@ -116,7 +124,12 @@ EditorChild* EditorSet::create(const std::string& folder) {
 }
 
 EditorChild* EditorSet::newView(EditorChild& child) {
-  return show(child.sharedFile());
+  const Place caret = child.textView().caret();
+  EditorChild* view = show(child.sharedFile());
+  if (view != nullptr) {
+    view->textView().setCaret(caret);
+  }
+  return view;
 }
 
 EditorChild* EditorSet::show(std::shared_ptr<OpenFile> file) {
@@ -298,17 +311,29 @@ void EditorSet::checkOnDisk(OpenFile& file) {
                              ? " was changed by another program.\n\nRead it again and lose the "
                                "changes made here?"
                              : " was changed by another program.\n\nRead it again?";
-  std::string bytes;
-  if (ask(file.path + question, MB_YESNO | MB_ICONQUESTION) != IDYES) {
-    return;
+  if (ask(file.path + question, MB_YESNO | MB_ICONQUESTION) == IDYES) {
+    reload(file);
   }
-  const FileFault fault = store_.read(file.path, kLargestText, &bytes);
+}
+
+void EditorSet::reload(OpenFile& file) {
+  std::string bytes;
+  FileStamp stamp;
+  const FileFault fault = readText(file.path, &bytes, &stamp);
   if (fault != FileFault::kNone) {
     ask(describeFault(fault, file.path), MB_OK | MB_ICONERROR);
     return;
   }
-  file.stamp = file.noticed = now;
+  const std::vector<EditorChild*> views = viewsOf(file);
+  std::vector<Place> carets;
+  for (EditorChild* view : views) {
+    carets.push_back(view->textView().caret());
+  }
+  file.stamp = file.noticed = stamp;
   file.document.load(bytes);
+  for (std::size_t i = 0; i < views.size(); ++i) {
+    views[i]->textView().setCaret(file.document.clamp(carets[i]));
+  }
 }
 
 void EditorSet::settingsChanged() {

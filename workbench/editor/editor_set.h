@@ -62,6 +62,9 @@ class EditorSet final : public EditorChildHost {
   EditorChild* show(std::shared_ptr<OpenFile> file);
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
+  // Reads a text that an editor can take; stamps it as it was before.
+  FileFault readText(const std::string& path, std::string* bytes, FileStamp* stamp);
+  void reload(OpenFile& file);
   void renumber(const OpenFile& file);
   bool askToSave(OpenFile& file);
   bool write(OpenFile& file, const std::string& path);

@@ -44,6 +44,8 @@ class FileStore {
 
 // The largest file an editor takes, in bytes.
 inline constexpr std::uint64_t kLargestText = 64u << 20;
+// The most line ends it takes: each line costs some memory of its own.
+inline constexpr std::int64_t kMostLines = 4000000;
 
 // Writes a temporary file beside the path and puts it in its place. After a
 // failure the path holds what it held, and no temporary file stays.

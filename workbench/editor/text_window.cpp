@@ -98,6 +98,9 @@ LRESULT TextWindow::handle(UINT message, WPARAM w, LPARAM l) {
         return 0;
       }
       return DefWindowProcA(window_, message, w, l);
+    case WM_SYSCHAR:
+      // Alt+Backspace was undo; it is no menu's key.
+      return w == VK_BACK ? 0 : DefWindowProcA(window_, message, w, l);
     case WM_COPY:
       copy();
       return 0;

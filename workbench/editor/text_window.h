@@ -122,7 +122,7 @@ class TextWindow final : public DocumentListener {
   int wanted_cell_ = -1;  // of vertical moves; -1 takes the caret's
   int top_ = 0;           // first line shown
   int left_ = 0;          // first cell shown
-  int widest_ = 0;        // cells; never shrinks before the text is read again
+  int widest_ = 0;        // cells; an edit only ever widens it
   int wheel_rest_ = 0;
   int painting_held_ = 0;
   bool insert_mode_ = true;
