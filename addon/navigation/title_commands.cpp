@@ -6,6 +6,7 @@
 #include "addon/ide/current_project.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
@@ -116,7 +117,7 @@ bool chooseInclude(int index) {
     return true;
   }
   showStatus(found.text());
-  openFile(found.text());
+  openAndRecord(found.text());
   return true;
 }
 

@@ -1,8 +1,8 @@
 #include "addon/topbar/bar_window.h"
 
 #include "addon/ide/editor_operations.h"
+#include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
-#include "addon/ide/open_file.h"
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/placement.h"
 #include "addon/topbar/top_bar.h"
@@ -35,7 +35,7 @@ void onActivation(WPARAM wParam, LPARAM lParam) {
 }
 
 void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
-  if (openFile(reinterpret_cast<const char*>(path))) {
+  if (openAndRecord(reinterpret_cast<const char*>(path))) {
     PostMessageA(bar, kGoToLineMessage, line, path);
   }
 }
