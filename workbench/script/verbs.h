@@ -56,10 +56,10 @@ enum class Readiness {
 
 struct VerbInfo {
   Verb verb;
+  Readiness readiness;
   std::string_view name;
   size_t min_args;
   size_t max_args;
-  Readiness readiness;
   std::string_view usage;
 };
 
