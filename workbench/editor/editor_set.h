@@ -59,7 +59,7 @@ class EditorSet final : public EditorChildHost {
   bool mayEdit(EditorChild& child) override;
 
  private:
-  EditorChild* show(std::shared_ptr<OpenFile> file);
+  EditorChild* show(const std::shared_ptr<OpenFile>& file);
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
   // Reads a text that an editor can take; stamps it as it was before.
