@@ -11,7 +11,9 @@ Application::Application()
     : editors_(store_, settings_),
       root_({*this, editors_, project_, messages_, live_}),
       frame_(*this),
-      message_window_(messages_, [this](const Message& message) { showPlace(message); }) {
+      message_window_(messages_, [this](const Message& message) { showPlace(message); }),
+      project_window_(project_, *this) {
+  root_.project().setView(&project_window_);
   messages_.setListener([this](const MessageGroupInfo& group, const Message* added) {
     messagesChanged(group, added);
   });
@@ -31,7 +33,8 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   if (!TextWindow::registerClass(instance) || !EditorChild::registerClass(instance) ||
       !MessageWindow::registerClasses(instance) || !frame_.create(instance) ||
-      !message_window_.attach(frame_.mdiClient(), instance)) {
+      !message_window_.attach(frame_.mdiClient(), instance) ||
+      !project_window_.attach(frame_.mdiClient(), instance)) {
     return false;
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
@@ -69,13 +72,18 @@ void Application::frameClosing() {
   closed_ = true;
   editors_.destroyAll();
   unloadProject();
+  root_.project().setView(nullptr);
   addon_.shutDown();
   root_.tools().setMenuListener({});
   root_.reportLeaks();
 }
 
 void Application::showError(const std::string& text) {
-  MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, MB_OK | MB_ICONERROR);
+  ask(text, MB_OK | MB_ICONERROR);
+}
+
+int Application::ask(const std::string& text, UINT buttons) {
+  return MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, buttons);
 }
 
 std::string Application::projectDirectory() {
@@ -142,6 +150,10 @@ EditorChild* Application::announce(EditorChild* child) {
                      .number("line", child->textView().caret().line + 1));
   }
   return child;
+}
+
+EditorWindow* Application::editText(const std::string& path) {
+  return announce(editors_.openOrCreate(resolve(path)));
 }
 
 EditorWindow* Application::findEditor(const std::string& path) {

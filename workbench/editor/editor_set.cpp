@@ -110,6 +110,17 @@ EditorChild* EditorSet::open(const std::string& path) {
   return show(file);
 }
 
+EditorChild* EditorSet::openOrCreate(const std::string& path) {
+  const FileStamp folder = store_.stamp(std::string(folderOf(path)));
+  if (find(path) != nullptr || store_.stamp(path).exists || !folder.exists ||
+      fileName(path).find_first_of("*?\"<>|") != std::string_view::npos) {
+    return open(path);
+  }
+  auto file = std::make_shared<OpenFile>();
+  file->path = path;
+  return show(file);
+}
+
 EditorChild* EditorSet::create(const std::string& folder) {
   auto file = std::make_shared<OpenFile>();
   file->untitled = true;
