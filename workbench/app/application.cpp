@@ -12,7 +12,8 @@ Application::Application()
       root_({*this, editors_, project_, messages_, live_}),
       frame_(*this),
       message_window_(messages_, [this](const Message& message) { showPlace(message); }),
-      project_window_(project_, *this) {
+      project_window_(project_, *this),
+      make_(messages_, *this) {
   root_.project().setView(&project_window_);
   messages_.setListener([this](const MessageGroupInfo& group, const Message* added) {
     messagesChanged(group, added);
@@ -70,6 +71,7 @@ void Application::frameClosing() {
     return;
   }
   closed_ = true;
+  make_.close();
   editors_.destroyAll();
   unloadProject();
   root_.project().setView(nullptr);

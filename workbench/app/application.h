@@ -14,6 +14,7 @@
 #include "workbench/editor/editor_set.h"
 #include "workbench/editor/editor_settings.h"
 #include "workbench/events/event_log.h"
+#include "workbench/make/make_run.h"
 #include "workbench/messages/message_window.h"
 #include "workbench/project/disk_lister_win.h"
 #include "workbench/project/project.h"
@@ -22,7 +23,10 @@
 
 namespace workbench {
 
-class Application final : public Workbench, public FrameHandler, public ProjectWindowHost {
+class Application final : public Workbench,
+                          public FrameHandler,
+                          public ProjectWindowHost,
+                          public MakeHost {
  public:
   Application();
   ~Application() override;
@@ -63,6 +67,7 @@ class Application final : public Workbench, public FrameHandler, public ProjectW
   bool writeOption(const std::string& name, const std::string& bytes) override;
   void setBuildCommand(const std::string& command) override { project_.setBuild(command); }
   void make(int result) override;
+  bool startMake() override;
   const MessageStore& messages() override { return messages_; }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
@@ -78,11 +83,17 @@ class Application final : public Workbench, public FrameHandler, public ProjectW
   void projectWindowCommand(int id) override { frameCommand(id); }
   bool projectCommandEnabled(int id) override { return commandEnabled(id); }
 
+  void makeStarted(const std::string& command) override;
+  void makeEnded(int result) override;
+
   void frameCommand(int id) override;
   bool commandEnabled(int id) override;
-  bool mayCloseFrame() override { return editors_.askToSaveAll() && askToSaveProject(); }
+  bool mayCloseFrame() override {
+    return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
+  }
   void frameClosing() override;
   void programActivated() override { editors_.checkDisk(); }
+  HWND modelessDialog() override { return make_.window(); }
 
  private:
   bool openFolder(const std::string& folder);
@@ -117,6 +128,8 @@ class Application final : public Workbench, public FrameHandler, public ProjectW
   void removeSelected();
   void editSelected();
   void editBuild();
+  // Asks when a make is running; false leaves it so.
+  bool mayStopMake();
   void runTool(ToolHandle tool);
   void findNext(bool backward);
   void goToLine(EditorChild& child);
@@ -138,6 +151,7 @@ class Application final : public Workbench, public FrameHandler, public ProjectW
   Frame frame_;
   MessageWindow message_window_;
   ProjectWindow project_window_;
+  MakeRun make_;
   FindRequest find_;
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;

@@ -52,6 +52,8 @@ bool Application::commandEnabled(int id) {
     case CM_EDIT_COPY:
     case CM_EDIT_DELETE:
       return child != nullptr && child->textView().hasSelection();
+    case CM_PROJECT_MAKE:
+      return hasProject() && !make_.running();
     case CM_PROJECT_OPEN_FILE:
     case CM_PROJECT_CLOSE:
     case CM_PROJECT_SAVE:
@@ -239,6 +241,9 @@ bool Application::projectCommand(int id) {
       return true;
     case CM_OPTIONS_ENVIRONMENT:
       editOptions();
+      return true;
+    case CM_PROJECT_MAKE:
+      startMake();
       return true;
     case CM_PROJECT_SAVE:
       if (saveProject()) {

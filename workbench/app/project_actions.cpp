@@ -146,7 +146,7 @@ bool Application::askToSaveProject() {
 }
 
 bool Application::closeProject() {
-  if (!editors_.askToSaveAll() || !askToSaveProject()) {
+  if (!mayStopMake() || !editors_.askToSaveAll() || !askToSaveProject()) {
     return false;
   }
   editors_.destroyAll();
@@ -159,6 +159,7 @@ void Application::unloadProject() {
     return;
   }
   const std::string file = project_.file();
+  make_.close();
   root_.project().announceClosed();
   project_.close();
   project_window_.projectChanged();
@@ -234,12 +235,6 @@ bool Application::readOption(const std::string& name, std::string* bytes) {
 
 bool Application::writeOption(const std::string& name, const std::string& bytes) {
   return project_.commitOption(project_.prepareOption(name, bytes));
-}
-
-void Application::make(int result) {
-  ClientList<IMakeClient>& clients = root_.make().clients();
-  clients.each([](IMakeClient* client) { client->MakeStarted(); });
-  clients.each([result](IMakeClient* client) { client->MakeEnded(result); });
 }
 
 }  // namespace workbench

@@ -68,6 +68,10 @@ class Workbench {
   virtual bool writeOption(const std::string& name, const std::string& bytes) = 0;
   // The command that make runs; empty for none.
   virtual void setBuildCommand(const std::string& command) = 0;
+  // Saves what is modified and starts the build command; its output and its end
+  // come later. False when it could not start with it: no project, a make that is
+  // running, or a file that was not saved.
+  virtual bool startMake() = 0;
   // Tells the make clients that a make started and ended with this MakeResult.
   virtual void make(int result) = 0;
 

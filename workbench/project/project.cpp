@@ -83,9 +83,9 @@ void Project::setPaths(const FolderContent& content) {
   for (const FolderContent& folder : content.folders) {
     const std::string_view name = fileName(folder.path);
     if (isIncludeFolder(name)) {
-      append(&include, folder.path);
+      append(&include, std::string(name));
     } else if (isSourceFolder(name)) {
-      append(&source, folder.path);
+      append(&source, std::string(name));
     }
   }
   setNodeOption(top(), kIncludePathKind, include);
@@ -205,6 +205,25 @@ const std::string* Project::nodeOption(unsigned int id, int kind) const {
     }
   }
   return nullptr;
+}
+
+bool Project::nodeFolders(unsigned int id, int kind, std::string* folders) const {
+  const std::string* text = nodeOption(id, kind);
+  if (text == nullptr) {
+    return false;
+  }
+  folders->clear();
+  std::string_view rest = *text;
+  while (!rest.empty()) {
+    const std::size_t end = rest.find(';');
+    const std::string_view folder = rest.substr(0, end);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    if (!folder.empty()) {
+      append(folders,
+             isAbsolutePath(folder) ? std::string(folder) : normalPath(joinPath(folder_, folder)));
+    }
+  }
+  return true;
 }
 
 void Project::setBuild(const std::string& command) {

@@ -57,6 +57,8 @@ class Project {
 
   // Own or inherited; null when none is set.
   const std::string* nodeOption(unsigned int id, int kind) const;
+  // The same with full paths. False when none is set.
+  bool nodeFolders(unsigned int id, int kind, std::string* folders) const;
   const std::string* option(const std::string& name) const;
   const std::string& build() const { return tree_.build; }
   void setBuild(const std::string& command);
