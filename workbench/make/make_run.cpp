@@ -36,12 +36,8 @@ void MakeRun::start(HWND owner, const std::string& command, const std::string& f
   heading_ = messages_.add(kGroup, heading);
   std::string reason;
   if (!process_.start(command, folder, &reason)) {
-    OutputLine line;
-    line.text = "The command cannot be started: " + reason;
-    line.kind = kMessageError;
     ++errors_;
-    addMessage(line);
-    end(kMakeNotRun, "Not started: " + reason);
+    end(kMakeNotRun, "The command cannot be started: " + reason);
     return;
   }
   showState("Running");
