@@ -110,6 +110,17 @@ EditorChild* EditorSet::open(const std::string& path) {
   return show(file);
 }
 
+EditorChild* EditorSet::openOrStart(const std::string& path) {
+  const bool starts = find(path) == nullptr && !store_.stamp(path).exists &&
+                      store_.stamp(std::string(folderOf(path))).exists;
+  if (!starts) {
+    return open(path);
+  }
+  auto file = std::make_shared<OpenFile>();
+  file->path = path;
+  return show(file);
+}
+
 EditorChild* EditorSet::create(const std::string& folder) {
   auto file = std::make_shared<OpenFile>();
   file->untitled = true;

@@ -75,7 +75,7 @@ int ToolService::runOwn(const std::string& name, const std::string& file) {
     return kToolNotHandled;
   }
   if (name == "EditText") {
-    return context_.workbench.editFile(file, 0) != nullptr ? kToolDone : kToolErrors;
+    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   if (name == "Project") {
     return context_.workbench.openPath(file) ? kToolDone : kToolErrors;
