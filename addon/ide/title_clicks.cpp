@@ -10,8 +10,9 @@
 namespace kesto {
 namespace {
 
-constexpr int kClickedTitleSize = 179;
-constexpr int kDocumentedTitleSize = 511;
+// With their terminators.
+constexpr int kClickedTitleSize = kTitleLimit + 1;
+constexpr int kDocumentedTitleSize = 512;
 
 constexpr int kButtonCommands[] = {kCommandFunctions, kCommandIncludes, kCommandQuickFind};
 
