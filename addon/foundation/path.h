@@ -8,7 +8,7 @@
 namespace kesto {
 
 // Characters of an editor's title that are looked at.
-inline constexpr std::size_t kTitleLimit = 179;
+inline constexpr std::size_t kTitleLimit = 178;
 
 // What follows the last "\" or "/"; the whole path when it has none.
 std::string_view fileNamePart(std::string_view path);

@@ -12,7 +12,7 @@ namespace {
 
 // With their terminators.
 constexpr int kClickedTitleSize = kTitleLimit + 1;
-constexpr int kDocumentedTitleSize = 512;
+constexpr int kDocumentedTitleSize = 511;
 
 constexpr int kButtonCommands[] = {kCommandFunctions, kCommandIncludes, kCommandQuickFind};
 

@@ -147,8 +147,8 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     SetWindowTextA(editor, std::string(600, 'x').c_str());
     hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
     hooked.afterInput();
-    CHECK(strlen(hooked.hooks.target().title) == 179);
-    CHECK(strlen(hooked.hooks.target().documented) == 511);
+    CHECK(strlen(hooked.hooks.target().title) == 178);
+    CHECK(strlen(hooked.hooks.target().documented) == 510);
   }
   SUBCASE("not while a popup is open, the menus are off or the editor is disabled") {
     hooked.host.button = 0;

@@ -48,7 +48,7 @@ TEST_CASE("what a title names") {
     CHECK(fileOfTitle(c.title) == c.file);
   }
   const std::string longer = "C:" + std::string(177, 'x') + "y:2 *";
-  CHECK(fileOfTitle(longer) == longer.substr(0, 179));
+  CHECK(fileOfTitle(longer) == longer.substr(0, 178));
 
   CHECK(documentationTitle("C:\\A.CPP:2 * *") == "C:\\A.CPP:2");
   CHECK(documentationTitle(" * ").empty());
