@@ -17,7 +17,10 @@ HandleCounts countHandles() {
   HandleCounts counts;
   for (unsigned low = 1; low < 0x10000; ++low) {
     counts.gdi += GetObjectType(reinterpret_cast<HGDIOBJ>(low)) != 0;
-    counts.windows += IsWindow(reinterpret_cast<HWND>(low)) != FALSE;
+    // Windows of the desktop's other programs come and go.
+    DWORD process = 0;
+    GetWindowThreadProcessId(reinterpret_cast<HWND>(low), &process);
+    counts.windows += process == GetCurrentProcessId();
     counts.menus += IsMenu(reinterpret_cast<HMENU>(low)) != FALSE;
   }
   return counts;
