@@ -142,6 +142,23 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     CHECK(std::count(ids.begin(), ids.end(), 197) == 1);
     CHECK(std::string(hooked.hooks.target().documented) == "C:\\SRC\\A.CPP:2");
   }
+  SUBCASE("a title longer than the slots is cut, not written past them") {
+    for (const size_t length : {178U, 179U, 255U, 256U, 510U, 511U, 600U}) {
+      CAPTURE(length);
+      const std::string title = "C:\\" + std::string(length - 3, 'A');
+      SetWindowTextA(editor, title.c_str());
+      hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+      hooked.afterInput();
+      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 178));
+      CHECK(std::string(hooked.hooks.target().documented) == title.substr(0, 510));
+      SetFocus(hooked.windows.frame);
+      hooked.host.searches[2] = VK_F5;
+      hooked.press({VK_F5});
+      const std::vector<int> ids = hooked.afterInput();
+      CHECK(std::count(ids.begin(), ids.end(), 192) == 1);
+      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 255));
+    }
+  }
   SUBCASE("not while a popup is open, the menus are off or the editor is disabled") {
     hooked.host.button = 0;
     hooked.hooks.suspend(true);
@@ -218,11 +235,24 @@ TEST_CASE("windows that come, go and repaint are told by the host's wishes") {
   ids = hooked.windows.commands();
   CHECK(std::count(ids.begin(), ids.end(), 111) >= 1);
   CHECK(hooked.windows.last_lparam == reinterpret_cast<LPARAM>(editor));
+  const auto paintsAfterActivation = [&] {
+    SendMessageA(editor, WM_NCACTIVATE, TRUE, 0);
+    ids = hooked.windows.commands();
+    return std::count(ids.begin(), ids.end(), 111);
+  };
+  hooked.host.navigation = false;
+  CHECK(paintsAfterActivation() == 0);
+  hooked.host.navigation = true;
+  ShowWindow(editor, SW_MINIMIZE);
+  hooked.windows.drain();
+  CHECK(paintsAfterActivation() == 0);
+  ShowWindow(editor, SW_RESTORE);
+  hooked.windows.drain();
+  CHECK(paintsAfterActivation() == 1);
   // Too narrow for buttons.
   SetWindowPos(editor, nullptr, 0, 0, 2 * GetSystemMetrics(SM_CYCAPTION), 100, SWP_NOMOVE);
   hooked.windows.drain();
-  SendMessageA(editor, WM_NCACTIVATE, TRUE, 0);
-  CHECK(hooked.windows.commands().empty());
+  CHECK(paintsAfterActivation() == 0);
 
   const auto openAndCloseProjectView = [&] {
     DestroyWindow(

@@ -1,8 +1,11 @@
 // The built DLL itself, loaded as an IDE loads it.
 #include <windows.h>
 
+#include <cstring>
+
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
+#include "tests/addon/window_fixture.h"
 
 namespace {
 
@@ -43,26 +46,89 @@ void drain() {
   }
 }
 
+// The built DLL between its two calls.
+class Session {
+ public:
+  explicit Session(fake::Ide& ide) : module_(LoadLibraryA("Kestoaob.dll")) {
+    REQUIRE(module_ != nullptr);
+    entry_ = reinterpret_cast<ideapi::AddonEntry>(
+        reinterpret_cast<void*>(GetProcAddress(module_, ideapi::kAddonEntryName)));
+    REQUIRE((entry_ != nullptr));
+    ide.AddRef();
+    entry_(reinterpret_cast<int>(static_cast<IIde*>(&ide)));
+    CHECK(ownBar() != nullptr);
+    drain();
+  }
+  ~Session() {
+    entry_(0);
+    CHECK(ownBar() == nullptr);
+    FreeLibrary(module_);
+    CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
+  }
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+ private:
+  HMODULE module_;
+  ideapi::AddonEntry entry_ = nullptr;
+};
+
 // One session, with messages for the hooks to see before and after it.
 void runOnce(fake::Ide& ide) {
-  const HMODULE module = LoadLibraryA("Kestoaob.dll");
-  REQUIRE(module != nullptr);
-  const auto entry = reinterpret_cast<ideapi::AddonEntry>(
-      reinterpret_cast<void*>(GetProcAddress(module, ideapi::kAddonEntryName)));
-  REQUIRE((entry != nullptr));
-  ide.AddRef();
-  entry(reinterpret_cast<int>(static_cast<IIde*>(&ide)));
-  CHECK(ownBar() != nullptr);
-  drain();
-  entry(0);
-  CHECK(ownBar() == nullptr);
-  FreeLibrary(module);
-  CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
+  { const Session session(ide); }
   // A hook left behind would now run in memory that is gone.
   DestroyWindow(CreateWindowExA(0, "STATIC", "after", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 90,
                                 60, nullptr, nullptr, nullptr, nullptr));
   drain();
 }
+
+// Ends every menu and answers every box of the thread, whose loops it is called from.
+class EndsModalLoops {
+ public:
+  EndsModalLoops()
+      : timer_(SetTimer(nullptr, 0, 1, endMenu)),
+        boxes_(SetWindowsHookExA(WH_CBT, answerBox, nullptr, GetCurrentThreadId())) {
+    menus = 0;
+    boxes = 0;
+  }
+  ~EndsModalLoops() {
+    KillTimer(nullptr, timer_);
+    UnhookWindowsHookEx(boxes_);
+  }
+  EndsModalLoops(const EndsModalLoops&) = delete;
+  EndsModalLoops& operator=(const EndsModalLoops&) = delete;
+
+  static int menus;
+  static int boxes;
+
+ private:
+  static void CALLBACK endMenu(HWND, UINT, UINT_PTR, DWORD) {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetCurrentThreadId(), &thread);
+    if ((thread.flags & GUI_INMENUMODE) != 0) {
+      ++menus;
+      EndMenu();
+    }
+  }
+  static LRESULT CALLBACK answerBox(int code, WPARAM wParam, LPARAM lParam) {
+    char name[10] = "";
+    GetClassNameA(reinterpret_cast<HWND>(wParam), name, sizeof name);
+    if (code == HCBT_ACTIVATE && strcmp(name, "#32770") == 0) {
+      ++boxes;
+      PostMessageA(reinterpret_cast<HWND>(wParam), WM_COMMAND, IDOK, 0);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  UINT_PTR timer_;
+  HHOOK boxes_;
+};
+
+int EndsModalLoops::menus = 0;
+int EndsModalLoops::boxes = 0;
+
+constexpr WPARAM kHelpCommand = 196;
 
 }  // namespace
 
@@ -80,4 +146,58 @@ TEST_CASE("a hundred sessions in one process leave nothing behind") {
   CHECK(after.windows == before.windows);
   CHECK(after.menus == before.menus);
   CHECK(fake::live_references == references);
+}
+
+TEST_CASE("an IDE without services survives every command") {
+  fake::Ide ide;
+  ide.services.clear();
+  ide.stream.disk = "#include <a.h>\nint f(void)\n";
+  WindowFixture windows;
+  const HWND editor = windows.editor("C:\\A.CPP");
+  EndsModalLoops loops;
+  {
+    const Session session(ide);
+    // The options service is asked for at the start.
+    CHECK(EndsModalLoops::boxes == 1);
+    const HWND bar = ownBar();
+    for (const LPARAM window : {LPARAM{0}, reinterpret_cast<LPARAM>(editor)}) {
+      for (WPARAM id = 0; id <= 20000; ++id) {
+        // The help viewer is another program, and no service.
+        if (id != kHelpCommand) {
+          SendMessageA(bar, WM_COMMAND, id, window);
+          SendMessageA(bar, WM_MENUSELECT, id, 0);
+        }
+      }
+    }
+    // Functions, includes, searches and documentation, with each window.
+    CHECK(EndsModalLoops::menus == 8);
+    drain();
+  }
+  CHECK(EndsModalLoops::boxes == 1);
+}
+
+TEST_CASE("three hundred popups leave no handle behind") {
+  fake::Ide ide;
+  ide.stream.disk = "#include <a.h>\nint f(void)\nvoid A::g()\n";
+  WindowFixture windows;
+  const HWND editor = windows.editor("C:\\A.CPP");
+  EndsModalLoops loops;
+  const Session session(ide);
+  const auto openAll = [&] {
+    for (const WPARAM command : {111, 187, 188, 189, 197}) {
+      SendMessageA(ownBar(), WM_COMMAND, command, reinterpret_cast<LPARAM>(editor));
+    }
+  };
+  openAll();
+  drain();
+  const HandleCounts before = countHandles();
+  for (int i = 0; i < 75; ++i) {
+    openAll();
+  }
+  drain();
+  const HandleCounts after = countHandles();
+  CHECK(EndsModalLoops::menus == 4 * 76);
+  CHECK(after.gdi == before.gdi);
+  CHECK(after.windows == before.windows);
+  CHECK(after.menus == before.menus);
 }
