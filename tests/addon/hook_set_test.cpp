@@ -143,7 +143,7 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     CHECK(std::string(hooked.hooks.target().documented) == "C:\\SRC\\A.CPP:2");
   }
   SUBCASE("a title longer than the slots is cut, not written past them") {
-    for (const size_t length : {178U, 179U, 255U, 256U, 510U, 511U, 600U}) {
+    for (const size_t length : {179U, 256U, 511U}) {
       CAPTURE(length);
       const std::string title = "C:\\" + std::string(length - 3, 'A');
       SetWindowTextA(editor, title.c_str());
