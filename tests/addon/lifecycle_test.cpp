@@ -160,7 +160,7 @@ TEST_CASE("an IDE without services survives every command") {
     // The options service is asked for at the start.
     CHECK(EndsModalLoops::boxes == 1);
     const HWND bar = ownBar();
-    const auto sendUpTo = [bar](WPARAM last, HWND window) {
+    const auto send_up_to = [bar](WPARAM last, HWND window) {
       for (WPARAM id = 0; id <= last; ++id) {
         // The help viewer is another program, and no service.
         if (id != kHelpCommand) {
@@ -169,8 +169,8 @@ TEST_CASE("an IDE without services survives every command") {
         }
       }
     };
-    sendUpTo(20000, nullptr);
-    sendUpTo(199, editor);
+    send_up_to(20000, nullptr);
+    send_up_to(199, editor);
     // Functions, includes, searches and documentation, with each window.
     CHECK(EndsModalLoops::menus == 8);
     drain();
@@ -185,16 +185,16 @@ TEST_CASE("three hundred popups leave no handle behind") {
   const HWND editor = windows.editor("C:\\A.CPP");
   EndsModalLoops loops;
   const Session session(ide);
-  const auto openAll = [&] {
+  const auto open_all = [&] {
     for (const WPARAM command : {111, 187, 188, 189, 197}) {
       SendMessageA(ownBar(), WM_COMMAND, command, reinterpret_cast<LPARAM>(editor));
     }
   };
-  openAll();
+  open_all();
   drain();
   const HandleCounts before = countHandles();
   for (int i = 0; i < 75; ++i) {
-    openAll();
+    open_all();
   }
   drain();
   const HandleCounts after = countHandles();
