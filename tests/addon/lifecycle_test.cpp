@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "addon/foundation/settings_store.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
 #include "tests/addon/window_fixture.h"
@@ -208,4 +209,42 @@ TEST_CASE("three hundred popups leave no handle behind") {
   CHECK(after.gdi == before.gdi);
   CHECK(after.windows == before.windows);
   CHECK(after.menus == before.menus);
+}
+
+TEST_CASE("the project view rebuilds the bar's menu only when the settings want it") {
+  const struct {
+    int enabled;
+    int hide_with_view;
+    int construction;
+    int rebuilds;  // one as the view comes, one as it goes
+  } rows[] = {{1, 1, 0, 2}, {1, 1, 1, 2}, {1, 1, 2, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}};
+  // The add-on's own root: the built DLL knows no other.
+  kesto::SettingsStore& store = kesto::settings();
+  store.setRoot("SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob");
+  for (const auto& row : rows) {
+    CAPTURE(row.enabled);
+    CAPTURE(row.hide_with_view);
+    CAPTURE(row.construction);
+    store.writeInteger("TopBar", "Enabled", row.enabled);
+    store.writeInteger("TopBar", "HideWithView", row.hide_with_view);
+    store.writeInteger("TopBar", "Hierarchical", row.construction);
+    fake::Ide ide;
+    WindowFixture windows;
+    {
+      const Session session(ide);
+      CHECK((IsWindowVisible(ownBar()) != FALSE) == (row.enabled != 0));
+      DestroyWindow(windows.create(ideapi::kProjectClass, "", WS_CHILD, windows.client));
+      int rebuilds = 0;
+      MSG message;
+      while (PeekMessageA(&message, ownBar(), WM_COMMAND, WM_COMMAND, PM_REMOVE)) {
+        rebuilds += message.wParam == 103;
+      }
+      CHECK(rebuilds == row.rebuilds);
+    }
+    // The session wrote its settings back.
+    CHECK(store.readInteger("TopBar", "Hierarchical", 9) == row.construction);
+  }
+  store.writeInteger("TopBar", "Enabled", 1);
+  store.writeInteger("TopBar", "HideWithView", 0);
+  store.writeInteger("TopBar", "Hierarchical", 0);
 }
