@@ -1,9 +1,9 @@
 #include "addon/navigation/source_scanner.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
 #include <cstring>
+
+#include "addon/navigation/line_ends.h"
 
 namespace kesto {
 
@@ -15,40 +15,9 @@ std::string_view upToZero(std::string_view text) {
   return text.substr(0, text.find('\0'));
 }
 
-bool endsLine(char c) {
-  return c == '\n' || c == '\r' || c == '\0';
-}
-
-// The next CR, LF or zero byte, or end. A machine word at a time: a word without a
-// byte below 14 holds none of the three. The lowest byte that the test finds is such
-// a one; those above it may be wrong, and tabs are not meant.
-const char* findLineEnd(const char* at, const char* end) {
-  constexpr std::size_t kOnes = ~std::size_t{0} / 0xFF;
-  constexpr std::ptrdiff_t kWord = sizeof(std::size_t);
-  for (; end - at >= kWord; at += kWord) {
-    std::size_t word = 0;
-    memcpy(&word, at, sizeof word);
-    std::size_t found = (word - kOnes * 14) & ~word & (kOnes * 0x80);
-    for (; found != 0; found &= found - 1) {
-      const char* const candidate = at + std::countr_zero(found) / 8;
-      if (endsLine(*candidate)) {
-        return candidate;
-      }
-    }
-  }
-  while (at != end && !endsLine(*at)) {
-    ++at;
-  }
-  return at;
-}
-
-// What follows the line that ends at line_end.
+// What follows the line that ends at line_end. A zero byte ends the text here.
 const char* nextLine(const char* line_end, const char* end) {
-  if (line_end == end || *line_end == '\0') {
-    return end;
-  }
-  const bool pair = *line_end == '\r' && end - line_end > 1 && line_end[1] == '\n';
-  return line_end + (pair ? 2 : 1);
+  return line_end != end && *line_end == '\0' ? end : pastLineEnd(line_end, end);
 }
 
 bool isVisible(char c) {
