@@ -1,58 +1,45 @@
 #include "addon/navigation/name_finder.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace kesto {
 
 namespace {
 
-unsigned char distance(std::size_t bytes) {
-  // A shorter move than possible is only slower.
-  return static_cast<unsigned char>(std::min<std::size_t>(bytes, 255));
-}
+// The commonest bytes of C++ sources, falling; those left out are rarer still.
+constexpr std::string_view kCommonFirst = " etsirnaoclp_umd/fhg-TESv";
 
-unsigned char byteOf(char c) {
-  return static_cast<unsigned char>(c);
+std::size_t rarity(char c) {
+  // npos is the greatest.
+  return kCommonFirst.find(c);
 }
 
 }  // namespace
 
 NameFinder::NameFinder(std::string_view name) : name_(name) {
-  std::fill(std::begin(skip_), std::end(skip_), distance(name.size()));
-  for (std::size_t i = 0; i + 1 < name.size(); ++i) {
-    skip_[byteOf(name[i])] = distance(name.size() - 1 - i);
+  for (std::size_t i = 1; i < name.size(); ++i) {
+    if (rarity(name[i]) > rarity(name[rare_])) {
+      rare_ = i;
+    }
   }
-  if (!name.empty()) {
-    after_last_ = skip_[byteOf(name.back())];
-    skip_[byteOf(name.back())] = 0;
-  }
-}
-
-bool NameFinder::endsAt(std::string_view text, std::size_t last) const {
-  const std::size_t before = name_.size() - 1;
-  return memcmp(text.data() + last - before, name_.data(), before) == 0;
 }
 
 std::size_t NameFinder::find(std::string_view text, std::size_t from) const {
-  const std::size_t size = name_.size();
-  if (size < 2) {
-    return size == 0 ? std::string_view::npos : text.find(name_[0], from);
+  if (name_.empty() || text.size() < name_.size() || from > text.size() - name_.size()) {
+    return std::string_view::npos;
   }
-  std::size_t last = from + size - 1;
-  while (last < text.size()) {
-    // Three moves without a test of the end; none is longer than the name, and one
-    // onto the last byte stays there.
-    if (text.size() - last > 3 * size) {
-      last += skip_[byteOf(text[last])];
-      last += skip_[byteOf(text[last])];
-      last += skip_[byteOf(text[last])];
+  const char* at = text.data() + from + rare_;
+  // Where the rare byte of the last possible occurrence would lie, and one on.
+  const char* const end = text.data() + (text.size() - name_.size()) + rare_ + 1;
+  while (at != end) {
+    at = static_cast<const char*>(memchr(at, name_[rare_], static_cast<std::size_t>(end - at)));
+    if (at == nullptr) {
+      break;
     }
-    const unsigned char skip = skip_[byteOf(text[last])];
-    if (skip == 0 && endsAt(text, last)) {
-      return last - (size - 1);
+    if (memcmp(at - rare_, name_.data(), name_.size()) == 0) {
+      return static_cast<std::size_t>(at - text.data()) - rare_;
     }
-    last += skip != 0 ? skip : after_last_;
+    ++at;
   }
   return std::string_view::npos;
 }

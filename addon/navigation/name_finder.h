@@ -1,5 +1,5 @@
-// The places of one name in many texts. Built once a search: it skips through a text
-// by what its name cannot contain.
+// The places of one name in many texts. Looks for the byte of the name that sources
+// hold least, which the library does many bytes at a time, and compares only there.
 #pragma once
 
 #include <cstddef>
@@ -18,13 +18,8 @@ class NameFinder {
   std::size_t find(std::string_view text, std::size_t from) const;
 
  private:
-  bool endsAt(std::string_view text, std::size_t last) const;
-
   std::string name_;
-  // How far the name may move when a byte stands under its last one; 0 for the last
-  // byte itself, which calls for a comparison and then a move by after_last_.
-  unsigned char skip_[256];
-  unsigned char after_last_ = 1;
+  std::size_t rare_ = 0;  // offset in the name of its rarest byte
 };
 
 }  // namespace kesto

@@ -154,6 +154,45 @@ TEST_CASE("lines end at CR, LF, both or a zero byte, and each is tried once") {
   CHECK(hitLines(Search::kCross, "long_name_at_end", " long_name_at_end") == Lines{1});
 }
 
+TEST_CASE("a whole text gives the hits that its lines give one by one") {
+  static const char* const kParts[] = {"ab",    "a",    "b",  "::", "(", ";", " ",  "\t",
+                                       "class", "\r\n", "\r", "\n", "x", "_", "\n", "/"};
+  unsigned state = 1;
+  for (int round = 0; round < 3000; ++round) {
+    std::string text;
+    std::vector<std::string> lines(1);
+    for (int parts = 0; parts < 40; ++parts) {
+      state = state * 1664525U + 1013904223U;
+      std::string part = kParts[(state >> 24) % 16];
+      if (part == "\n" && (state >> 20) % 4 == 0) {
+        part = std::string(1, '\0');
+      }
+      // After a lone CR a LF would end the same line.
+      if (part == "\n" && text.ends_with('\r')) {
+        continue;
+      }
+      text += part;
+      if (part == "\r\n" || part == "\r" || part == "\n" || part[0] == '\0') {
+        lines.emplace_back();
+      } else {
+        lines.back() += part;
+      }
+    }
+    for (int search = 0; search < kSearchCount; ++search) {
+      for (const char* name : {"ab", "a", "b::", " x"}) {
+        std::vector<int> expected;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+          if (!hitLines(static_cast<Search>(search), name, lines[i]).empty()) {
+            expected.push_back(static_cast<int>(i) + 1);
+          }
+        }
+        CAPTURE(text);
+        CHECK(hitLines(static_cast<Search>(search), name, text) == expected);
+      }
+    }
+  }
+}
+
 TEST_CASE("a name is found wherever it lies in a long text") {
   const std::string name = "abcabcabd";
   for (std::size_t before = 0; before < 64; ++before) {
