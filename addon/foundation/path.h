@@ -11,7 +11,7 @@ namespace kesto {
 
 // Characters of a path, as the system bounds them.
 inline constexpr std::size_t kPathLimit = 259;
-// Directories that one walk looks into.
+// Directories that a walk below one of them looks into.
 inline constexpr int kDirectoryLimit = 20000;
 
 // Characters of an editor's title that are looked at.

@@ -1,4 +1,4 @@
-// The file system as the searches see it.
+// The file system as the searches see it. Holds nothing; any thread.
 #pragma once
 
 #include "addon/navigation/directory_walk.h"

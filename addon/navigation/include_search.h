@@ -19,7 +19,8 @@ class DirectoryLister {
   // True for an existing path that is not a directory: a directory named like a
   // header is searched, and is no answer.
   virtual bool isFile(const char* path) = 0;
-  // Appends the names of the directory's own directories, in listing order.
+  // Appends the names of the directory's own directories, in listing order; the
+  // directory's name is not empty.
   virtual void listDirectories(const char* directory, Tableau<String>& names) = 0;
 };
 

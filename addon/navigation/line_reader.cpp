@@ -1,19 +1,23 @@
 #include "addon/navigation/line_reader.h"
 
+#include <algorithm>
+
 #include "addon/navigation/line_ends.h"
 
 namespace kesto {
 
 void LineReader::readLineAt(std::size_t offset) {
-  std::size_t start = offset;
-  while (start > next_ && !endsLine(text_[start - 1])) {
-    --start;
+  start_ = offset;
+  while (start_ > next_ && !endsLine(text_[start_ - 1])) {
+    --start_;
   }
-  const char* const end = text_.data() + text_.size();
-  const char* const line_end = findLineEnd(text_.data() + offset, end);
-  start_ = start;
-  size_ = static_cast<std::size_t>(line_end - text_.data()) - start;
-  next_ = static_cast<std::size_t>(pastLineEnd(line_end, end) - text_.data());
+  std::size_t end = offset;
+  while (end < text_.size() && !endsLine(text_[end])) {
+    ++end;
+  }
+  size_ = end - start_;
+  const bool pair = text_.substr(end, 2) == "\r\n";
+  next_ = std::min(text_.size(), end + (pair ? 2 : 1));
 }
 
 int LineReader::number() {

@@ -15,11 +15,6 @@ std::string_view upToZero(std::string_view text) {
   return text.substr(0, text.find('\0'));
 }
 
-// What follows the line that ends at line_end. A zero byte ends the text here.
-const char* nextLine(const char* line_end, const char* end) {
-  return line_end != end && *line_end == '\0' ? end : pastLineEnd(line_end, end);
-}
-
 bool isVisible(char c) {
   return static_cast<unsigned char>(c) > 32;
 }
@@ -43,20 +38,10 @@ std::size_t wordStart(std::string_view head, std::size_t last) {
   return last;
 }
 
-bool mayStartDefinition(std::string_view line) {
-  // The shortest definition is a letter and a parenthesis.
-  if (line.size() < 2 || static_cast<signed char>(line.front()) < 33) {
-    return false;
-  }
-  switch (line.front()) {
-    case '#':
-    case '/':
-      return false;
-    case ':':
-      return line[1] == ':';
-    default:
-      return true;
-  }
+// The shortest definition is a letter and a parenthesis.
+bool mayBeDefinition(std::string_view line) {
+  const char first = line.front();
+  return line.size() > 1 && first != ':' && first != '/' && first != '#';
 }
 
 // What stands before the first "(" of a line that may hold a definition, else empty.
@@ -73,10 +58,10 @@ struct DefinitionName {
   std::string_view name;
 };
 
-// head is not empty.
+// The head is not empty and does not start with ":".
 DefinitionName splitHead(std::string_view head) {
   const std::size_t scope = head.find("::");
-  if (scope == kNone || scope == 0) {
+  if (scope == kNone) {
     return {{}, withoutMarks(head.substr(wordStart(head, head.size() - 1)))};
   }
   const std::size_t start = wordStart(head, scope - 1);
@@ -111,13 +96,10 @@ std::string_view includeName(std::string_view line) {
 
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
   functions.clear();
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  for (int number = 1; at != end; ++number) {
-    const char* const line_end = findLineEnd(at, end);
-    const std::string_view line(at, static_cast<std::size_t>(line_end - at));
-    at = nextLine(line_end, end);
-    if (!mayStartDefinition(line)) {
+  FlushLeftLines lines(text);
+  std::string_view line;
+  while (lines.next(line)) {
+    if (!mayBeDefinition(line)) {
       continue;
     }
     const std::string_view head = definitionHead(line);
@@ -126,7 +108,7 @@ void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
     }
     const DefinitionName found = splitHead(head);
     if (!found.name.empty()) {
-      functions.append(new Fnc(found.name, found.class_name, number));
+      functions.append(new Fnc(found.name, found.class_name, lines.number()));
     }
   }
 }
@@ -139,7 +121,6 @@ void scanIncludes(std::string_view text, Tableau<String>& includes) {
   constexpr std::string_view kDirective = "#include";
   includes.clear();
   text = upToZero(text);
-  const char* const end = text.data() + text.size();
   std::size_t from = 0;
   for (;;) {
     const std::size_t directive = text.find(kDirective, from);
@@ -150,8 +131,7 @@ void scanIncludes(std::string_view text, Tableau<String>& includes) {
     while (start > from && !endsLine(text[start - 1])) {
       --start;
     }
-    const auto stop =
-        static_cast<std::size_t>(findLineEnd(text.data() + directive, end) - text.data());
+    const std::size_t stop = std::min(text.find_first_of("\r\n", directive), text.size());
     const std::string_view name = includeName(text.substr(start, stop - start));
     if (!name.empty()) {
       includes.append(new String(name.substr(0, kIncludeNameLimit)));

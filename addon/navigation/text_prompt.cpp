@@ -3,7 +3,7 @@
 #include "addon/ide/clipboard.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
-#include "addon/resources/prompt_ids.h"
+#include "addon/navigation/prompt_ids.h"
 #include "ideapi/ide_identifiers.h"
 
 namespace kesto {
