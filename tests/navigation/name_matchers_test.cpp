@@ -139,10 +139,8 @@ TEST_CASE("a cross reference's line") {
 
 TEST_CASE("lines end at CR, LF, both or a zero byte, and each is tried once") {
   using Lines = std::vector<int>;
-  const auto text = [](const char* bytes, std::size_t size) {
-    return std::string_view(bytes, size);
-  };
-  CHECK(hitLines(Search::kCross, "x", text(" x\r x\n x\r\n x\0 x", 16)) == Lines{1, 2, 3, 4, 5});
+  const std::string zero(1, '\0');
+  CHECK(hitLines(Search::kCross, "x", " x\r x\n x\r\n x" + zero + " x") == Lines{1, 2, 3, 4, 5});
   CHECK(hitLines(Search::kCross, "x", " x x x\n\n\r\r\n x") == Lines{1, 5});
   CHECK(hitLines(Search::kCross, "x", "\n\r x") == Lines{3});
   CHECK(hitLines(Search::kCross, "x", "x\n x") == Lines{2});
@@ -155,8 +153,8 @@ TEST_CASE("lines end at CR, LF, both or a zero byte, and each is tried once") {
 }
 
 TEST_CASE("a whole text gives the hits that its lines give one by one") {
-  static const char* const kParts[] = {"ab",    "a",    "b",  "::", "(", ";", " ",  "\t",
-                                       "class", "\r\n", "\r", "\n", "x", "_", "\n", "/"};
+  constexpr const char* kParts[] = {"ab",    "a",    "b",  "::", "(", ";", " ",  "\t",
+                                    "class", "\r\n", "\r", "\n", "x", "_", "\n", "/"};
   unsigned state = 1;
   for (int round = 0; round < 3000; ++round) {
     std::string text;
