@@ -58,9 +58,9 @@ class Text : public Counted<IIdeString> {
 
 class DiskStream : public Counted<IFileStream> {
  public:
-  ~DiskStream() override { Close(); }
+  ~DiskStream() override { closeFile(); }
   int STDMETHODCALLTYPE Open(IIdeString* file, int) override {
-    Close();
+    closeFile();
     file_ = CreateFileA(file->GetText(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     return file_ != INVALID_HANDLE_VALUE ? 1 : 0;
@@ -76,14 +76,16 @@ class DiskStream : public Counted<IFileStream> {
                ? static_cast<long>(given)
                : -1;
   }
-  void STDMETHODCALLTYPE Close() override {
+  void STDMETHODCALLTYPE Close() override { closeFile(); }
+
+ private:
+  void closeFile() {
     if (file_ != INVALID_HANDLE_VALUE) {
       CloseHandle(file_);
       file_ = INVALID_HANDLE_VALUE;
     }
   }
 
- private:
   HANDLE file_ = INVALID_HANDLE_VALUE;
 };
 
