@@ -1,5 +1,7 @@
 #include "addon/ide/current_project.h"
 
+#include <string_view>
+
 #include "addon/foundation/path.h"
 #include "addon/ide/access.h"
 
@@ -33,9 +35,9 @@ bool isProjectOpen() {
 std::string projectDirectory() {
   if (const ComPtr<IProjectService> service = loadedProjectService()) {
     const std::unique_ptr<char[]> file = takeIdeString(service->GetProjectFile());
-    const std::string directory(directoryPart(file != nullptr ? file.get() : ""));
+    const std::string_view directory = directoryPart(file != nullptr ? file.get() : "");
     if (!directory.empty()) {
-      return directory;
+      return std::string(directory);
     }
   }
   return currentDirectory();

@@ -1,4 +1,5 @@
-// The project that is open in the IDE, as the searches need it.
+// The project that is open in the IDE, as the searches need it. What is
+// returned is the caller's copy. User-interface thread only.
 #pragma once
 
 #include <string>

@@ -6,7 +6,6 @@
 // or after kDirectoryLimit directories, whichever comes first.
 #pragma once
 
-#include <cstddef>
 #include <string_view>
 
 #include "addon/foundation/string.h"
@@ -14,18 +13,14 @@
 
 namespace kesto {
 
-// Characters of a path, as the system bounds them.
-inline constexpr std::size_t kPathLimit = 259;
-// Directories that one search looks into.
-inline constexpr int kDirectoryLimit = 20000;
-
 class DirectoryLister {
  public:
   virtual ~DirectoryLister() = default;
   // True for an existing path that is not a directory: a directory named like a
   // header is searched, and is no answer.
   virtual bool isFile(const char* path) = 0;
-  // Appends the names of the directory's own directories, in listing order.
+  // Appends the names of the directory's own directories, in listing order; the
+  // directory's name is not empty.
   virtual void listDirectories(const char* directory, Tableau<String>& names) = 0;
 };
 

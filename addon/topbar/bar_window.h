@@ -1,5 +1,6 @@
 // The bar window, class "KADO": a menu bar over the screen's top edge, and the
-// window that owns every popup of the add-on.
+// window that owns every popup of the add-on. The lifecycle destroys it. User-interface
+// thread only.
 #pragma once
 
 #include <windows.h>
@@ -7,11 +8,6 @@
 namespace kesto {
 
 inline constexpr char kBarClass[] = "KADO";
-
-// Private messages: wParam is a 1-based line, lParam a zero-terminated path that
-// lives until the message was handled.
-inline constexpr UINT kGoToLineMessage = WM_USER + 7;
-inline constexpr UINT kOpenFoundFileMessage = WM_USER + 8;
 
 bool registerBarClass(HINSTANCE instance);
 void unregisterBarClass(HINSTANCE instance);

@@ -34,7 +34,8 @@ Ide::Ide() {
   services = {{ideapi::kEditorService.Data1, &editor},
               {ideapi::kStatusLineService.Data1, &status_line},
               {ideapi::kMakeService.Data1, &make},
-              {ideapi::kOptionsService.Data1, &options}};
+              {ideapi::kOptionsService.Data1, &options},
+              {ideapi::kMessageService.Data1, &messages}};
 }
 
 HRESULT STDMETHODCALLTYPE Ide::QueryInterface(REFIID id, void** result) {

@@ -145,6 +145,10 @@ bool Application::showPlace(const Message& message) {
   return editor != nullptr;
 }
 
+EditorWindow* Application::editOrStart(const std::string& path) {
+  return announce(editors_.openOrStart(resolve(path)));
+}
+
 EditorChild* Application::announce(EditorChild* child) {
   if (child != nullptr) {
     events_.emit(Event("editor")
@@ -152,10 +156,6 @@ EditorChild* Application::announce(EditorChild* child) {
                      .number("line", child->textView().caret().line + 1));
   }
   return child;
-}
-
-EditorWindow* Application::editText(const std::string& path) {
-  return announce(editors_.openOrCreate(resolve(path)));
 }
 
 EditorWindow* Application::findEditor(const std::string& path) {

@@ -71,7 +71,7 @@ class Application final : public Workbench,
   const MessageStore& messages() override { return messages_; }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
-  EditorWindow* editText(const std::string& path) override;
+  EditorWindow* editOrStart(const std::string& path) override;
   EditorWindow* findEditor(const std::string& path) override;
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;

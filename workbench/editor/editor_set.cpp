@@ -110,10 +110,10 @@ EditorChild* EditorSet::open(const std::string& path) {
   return show(file);
 }
 
-EditorChild* EditorSet::openOrCreate(const std::string& path) {
-  const FileStamp folder = store_.stamp(std::string(folderOf(path)));
-  if (find(path) != nullptr || store_.stamp(path).exists || !folder.exists ||
-      fileName(path).find_first_of("*?\"<>|") != std::string_view::npos) {
+EditorChild* EditorSet::openOrStart(const std::string& path) {
+  const bool starts = mayNameFile(path) && find(path) == nullptr && !store_.stamp(path).exists &&
+                      store_.stamp(std::string(folderOf(path))).exists;
+  if (!starts) {
     return open(path);
   }
   auto file = std::make_shared<OpenFile>();

@@ -30,9 +30,8 @@ class EditorSet final : public EditorChildHost {
   // Brings the file's editor forward or opens one; null when it cannot be read
   // (the reason has been shown).
   EditorChild* open(const std::string& path);
-  // The same, but a file that is missing from a folder that is there gets an
-  // empty text, which is written when it is saved.
-  EditorChild* openOrCreate(const std::string& path);
+  // The same; a file that does not exist in a folder that does starts empty.
+  EditorChild* openOrStart(const std::string& path);
   // A new unnamed text; its proposed path lies in the folder.
   EditorChild* create(const std::string& folder);
   EditorChild* newView(EditorChild& child);

@@ -1,5 +1,6 @@
 #include "workbench/project/path_text.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace workbench {
@@ -126,6 +127,11 @@ std::string relativePath(std::string_view folder, std::string_view path) {
 bool isAbsolutePath(std::string_view path) {
   return (path.size() >= 3 && path[1] == ':' && isSeparator(path[2])) ||
          (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1]));
+}
+
+bool mayNameFile(std::string_view path) {
+  const std::string_view after_drive = path.substr(std::min<std::size_t>(path.size(), 2));
+  return !fileName(path).empty() && after_drive.find_first_of(":*?\"<>|") == after_drive.npos;
 }
 
 }  // namespace workbench

@@ -23,5 +23,8 @@ std::string normalPath(std::string_view path);
 // when they share no more than the drive. Both are full and normal.
 std::string relativePath(std::string_view folder, std::string_view path);
 bool isAbsolutePath(std::string_view path);
+// Whether a file could have that name: no ":" after the drive's, no wildcard, quote
+// or redirection.
+bool mayNameFile(std::string_view path);
 
 }  // namespace workbench

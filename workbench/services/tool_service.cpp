@@ -82,7 +82,7 @@ int ToolService::runOwn(const std::string& name, const std::string& file) {
     return kToolNotHandled;
   }
   if (name == kEditTool) {
-    return workbench.editText(file) != nullptr ? kToolDone : kToolErrors;
+    return workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   if (name == "Project") {
     return workbench.openPath(file) ? kToolDone : kToolErrors;
@@ -100,7 +100,7 @@ int ToolService::runOwn(const std::string& name, const std::string& file) {
 int ToolService::view(const std::string& file) {
   const std::string type = foldCase(extensionOf(file));
   if (type == ".rc" || type == ".dlg" || type == ".rh") {
-    return context_.workbench.editText(file) != nullptr ? kToolDone : kToolErrors;
+    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   return openWithSystem(file) ? kToolDone : kToolNotHandled;
 }
