@@ -40,23 +40,34 @@ bool Application::openFolder(const std::string& folder) {
   return projects.size() == 1 ? openProjectFile(projects.front()) : openWalked(path, {});
 }
 
-bool Application::openProjectFile(const std::string& file) {
+bool Application::readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp) {
   std::string bytes;
-  const FileStamp stamp = store_.stamp(file);
+  *stamp = store_.stamp(file);
   const FileFault fault = store_.read(file, kLargestProjectFile, &bytes);
   if (fault != FileFault::kNone) {
     showError(describeFault(fault, file));
     return false;
   }
-  ProjectTree tree;
-  tree.last_id = project_.lastId();
+  *tree = ProjectTree();
+  tree->last_id = project_.lastId();
   ProjectFault wrong;
-  if (!readProjectFile(bytes, std::string(folderOf(file)), &tree, &wrong)) {
+  if (!readProjectFile(bytes, std::string(folderOf(file)), tree, &wrong)) {
     showError(file + ", line " + std::to_string(wrong.line) + ":\n" + wrong.reason +
               "\n\nThe project was not opened, and its file is unchanged.");
     return false;
   }
-  if (!closeProject()) {
+  return true;
+}
+
+bool Application::openProjectFile(const std::string& file) {
+  ProjectTree tree;
+  FileStamp stamp;
+  const bool reopened = samePath(project_.file(), file);
+  if (!readProject(file, &tree, &stamp) || !closeProject()) {
+    return false;
+  }
+  // Closing may just have saved it.
+  if (reopened && !readProject(file, &tree, &stamp)) {
     return false;
   }
   project_.load(file, std::move(tree));
