@@ -10,7 +10,8 @@
 namespace kesto {
 namespace {
 
-constexpr int kClickedTitleSize = 179;
+// With their terminators.
+constexpr int kClickedTitleSize = kTitleLimit + 1;
 constexpr int kDocumentedTitleSize = 511;
 
 constexpr int kButtonCommands[] = {kCommandFunctions, kCommandIncludes, kCommandQuickFind};

@@ -3,7 +3,6 @@
 #include <io.h>
 #include <sys/stat.h>
 
-#include <new>
 #include <string>
 
 namespace kesto {
@@ -14,7 +13,11 @@ bool DirectoryListing::isFile(const char* path) {
 }
 
 void DirectoryListing::listDirectories(const char* directory, Tableau<String>& names) {
-  const std::string pattern = std::string(directory) + "\\*";
+  std::string pattern(directory);
+  if (pattern.back() != '\\' && pattern.back() != '/') {
+    pattern += '\\';
+  }
+  pattern += '*';
   _finddata_t entry = {};
   const intptr_t search = _findfirst(pattern.c_str(), &entry);
   if (search == -1) {
@@ -22,7 +25,7 @@ void DirectoryListing::listDirectories(const char* directory, Tableau<String>& n
   }
   do {
     if ((entry.attrib & _A_SUBDIR) != 0) {
-      names.insert(new (std::nothrow) String(entry.name), names.count());
+      names.append(new String(entry.name));
     }
   } while (_findnext(search, &entry) == 0);
   _findclose(search);

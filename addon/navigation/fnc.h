@@ -23,7 +23,7 @@ class Fnc : public Basic {
 
  private:
   char* name_;
-  char* class_;
+  char* class_;  // in the block of name_
   std::int32_t line_;
 };
 

@@ -60,13 +60,12 @@ String includeSearchPath(std::string_view directory, std::string_view include_pa
 
 bool findInclude(DirectoryLister& lister, std::string_view search_path, std::string_view name,
                  String& found) {
-  Search search(lister, name, found);
   while (!name.empty() && !search_path.empty()) {
     const std::size_t separator = search_path.find(';');
     const std::string_view directory = search_path.substr(0, separator);
     search_path.remove_prefix(separator == std::string_view::npos ? search_path.size()
                                                                   : separator + 1);
-    if (!directory.empty() && search.below(directory)) {
+    if (!directory.empty() && Search(lister, name, found).below(directory)) {
       return true;
     }
   }

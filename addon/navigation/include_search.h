@@ -16,7 +16,7 @@ namespace kesto {
 
 // Characters of a path, as the system bounds them.
 inline constexpr std::size_t kPathLimit = 259;
-// Directories that one search looks into.
+// Directories that the search looks into for one entry of the search path.
 inline constexpr int kDirectoryLimit = 20000;
 
 class DirectoryLister {
@@ -25,7 +25,8 @@ class DirectoryLister {
   // True for an existing path that is not a directory: a directory named like a
   // header is searched, and is no answer.
   virtual bool isFile(const char* path) = 0;
-  // Appends the names of the directory's own directories, in listing order.
+  // Appends the names of the directory's own directories, in listing order; the
+  // directory's name is not empty.
   virtual void listDirectories(const char* directory, Tableau<String>& names) = 0;
 };
 

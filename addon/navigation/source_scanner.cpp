@@ -1,9 +1,9 @@
 #include "addon/navigation/source_scanner.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
 #include <cstring>
+
+#include "addon/navigation/line_ends.h"
 
 namespace kesto {
 
@@ -13,42 +13,6 @@ constexpr std::size_t kNone = std::string_view::npos;
 
 std::string_view upToZero(std::string_view text) {
   return text.substr(0, text.find('\0'));
-}
-
-bool endsLine(char c) {
-  return c == '\n' || c == '\r' || c == '\0';
-}
-
-// The next CR, LF or zero byte, or end. A machine word at a time: a word without a
-// byte below 14 holds none of the three. The lowest byte that the test finds is such
-// a one; those above it may be wrong, and tabs are not meant.
-const char* findLineEnd(const char* at, const char* end) {
-  constexpr std::size_t kOnes = ~std::size_t{0} / 0xFF;
-  constexpr std::ptrdiff_t kWord = sizeof(std::size_t);
-  for (; end - at >= kWord; at += kWord) {
-    std::size_t word = 0;
-    memcpy(&word, at, sizeof word);
-    std::size_t found = (word - kOnes * 14) & ~word & (kOnes * 0x80);
-    for (; found != 0; found &= found - 1) {
-      const char* const candidate = at + std::countr_zero(found) / 8;
-      if (endsLine(*candidate)) {
-        return candidate;
-      }
-    }
-  }
-  while (at != end && !endsLine(*at)) {
-    ++at;
-  }
-  return at;
-}
-
-// What follows the line that ends at line_end.
-const char* nextLine(const char* line_end, const char* end) {
-  if (line_end == end || *line_end == '\0') {
-    return end;
-  }
-  const bool pair = *line_end == '\r' && end - line_end > 1 && line_end[1] == '\n';
-  return line_end + (pair ? 2 : 1);
 }
 
 bool isVisible(char c) {
@@ -74,20 +38,10 @@ std::size_t wordStart(std::string_view head, std::size_t last) {
   return last;
 }
 
-bool mayStartDefinition(std::string_view line) {
-  // The shortest definition is a letter and a parenthesis.
-  if (line.size() < 2 || static_cast<signed char>(line.front()) < 33) {
-    return false;
-  }
-  switch (line.front()) {
-    case '#':
-    case '/':
-      return false;
-    case ':':
-      return line[1] == ':';
-    default:
-      return true;
-  }
+// The shortest definition is a letter and a parenthesis.
+bool mayBeDefinition(std::string_view line) {
+  const char first = line.front();
+  return line.size() > 1 && first != ':' && first != '/' && first != '#';
 }
 
 // What stands before the first "(" of a line that may hold a definition, else empty.
@@ -104,10 +58,10 @@ struct DefinitionName {
   std::string_view name;
 };
 
-// head is not empty.
+// The head is not empty and does not start with ":".
 DefinitionName splitHead(std::string_view head) {
   const std::size_t scope = head.find("::");
-  if (scope == kNone || scope == 0) {
+  if (scope == kNone) {
     return {{}, withoutMarks(head.substr(wordStart(head, head.size() - 1)))};
   }
   const std::size_t start = wordStart(head, scope - 1);
@@ -142,13 +96,10 @@ std::string_view includeName(std::string_view line) {
 
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
   functions.clear();
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  for (int number = 1; at != end; ++number) {
-    const char* const line_end = findLineEnd(at, end);
-    const std::string_view line(at, static_cast<std::size_t>(line_end - at));
-    at = nextLine(line_end, end);
-    if (!mayStartDefinition(line)) {
+  FlushLeftLines lines(text);
+  std::string_view line;
+  while (lines.next(line)) {
+    if (!mayBeDefinition(line)) {
       continue;
     }
     const std::string_view head = definitionHead(line);
@@ -157,7 +108,7 @@ void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
     }
     const DefinitionName found = splitHead(head);
     if (!found.name.empty()) {
-      functions.append(new Fnc(found.name, found.class_name, number));
+      functions.append(new Fnc(found.name, found.class_name, lines.number()));
     }
   }
 }
@@ -170,7 +121,6 @@ void scanIncludes(std::string_view text, Tableau<String>& includes) {
   constexpr std::string_view kDirective = "#include";
   includes.clear();
   text = upToZero(text);
-  const char* const end = text.data() + text.size();
   std::size_t from = 0;
   for (;;) {
     const std::size_t directive = text.find(kDirective, from);
@@ -181,8 +131,7 @@ void scanIncludes(std::string_view text, Tableau<String>& includes) {
     while (start > from && !endsLine(text[start - 1])) {
       --start;
     }
-    const auto stop =
-        static_cast<std::size_t>(findLineEnd(text.data() + directive, end) - text.data());
+    const std::size_t stop = std::min(text.find_first_of("\r\n", directive), text.size());
     const std::string_view name = includeName(text.substr(start, stop - start));
     if (!name.empty()) {
       includes.append(new String(name.substr(0, kIncludeNameLimit)));

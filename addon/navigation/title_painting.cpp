@@ -20,7 +20,9 @@ int titleWidth(HWND window) {
   return size.cx;
 }
 
-bool onLeftSide() { return quickFind != nullptr && quickFind->leftSide(); }
+bool onLeftSide() {
+  return quickFind != nullptr && quickFind->leftSide();
+}
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "addon/foundation/path.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/help_file.h"
@@ -37,7 +38,8 @@ bool completeWord(const Command&) {
   if (const HWND editor = findActiveEditor()) {
     char title[MAX_PATH] = "";
     GetWindowTextA(editor, title, sizeof title);
-    completeAtCursor(title);
+    // The IDE's mark of a modified file is no part of its name.
+    completeAtCursor(std::string(documentationTitle(title)).c_str());
   }
   return true;
 }

@@ -1,6 +1,7 @@
 #include "addon/ide/hook_set.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include "addon/ide/find_window.h"
@@ -141,6 +142,13 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     const std::vector<int> ids = hooked.afterInput();
     CHECK(std::count(ids.begin(), ids.end(), 197) == 1);
     CHECK(std::string(hooked.hooks.target().documented) == "C:\\SRC\\A.CPP:2");
+  }
+  SUBCASE("a title as long as its places and longer") {
+    SetWindowTextA(editor, std::string(600, 'x').c_str());
+    hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+    hooked.afterInput();
+    CHECK(strlen(hooked.hooks.target().title) == 178);
+    CHECK(strlen(hooked.hooks.target().documented) == 510);
   }
   SUBCASE("not while a popup is open, the menus are off or the editor is disabled") {
     hooked.host.button = 0;

@@ -47,7 +47,6 @@ TEST_CASE("each popup starts a column after a full one") {
   CHECK(planned("a()\nb()\n", 1) == "a=1000 |b=1001 ");
   // A size no settings page lets through makes one column.
   CHECK(planned("a()\nb()\n", 0) == "a=1000 b=1001 ");
-  CHECK(planned("a()\nb()\n", -3) == "a=1000 b=1001 ");
 
   Tableau<Fnc> functions;
   for (int i = 0; i < 25; ++i) {

@@ -1,5 +1,6 @@
 #include "workbench/editor/document.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -265,4 +266,53 @@ TEST_CASE("a long text and a long line take edits at both ends") {
   while (document.undo(&caret)) {
   }
   CHECK(document.bytes() == text);
+}
+
+TEST_CASE("random edits agree with a plain string, there and back") {
+  unsigned int seed = 1;
+  const auto pick = [&seed](std::size_t below) {
+    seed = seed * 1103515245u + 12345u;
+    return static_cast<int>((seed >> 8) % below);
+  };
+  std::string model = "int a;\n\nint b;\n";
+  Document document = documentOf(model);
+  std::vector<std::string> steps = {model};
+  const auto offsetOf = [&model](Place place) {
+    std::size_t at = 0;
+    for (int i = 0; i < place.line; ++i) {
+      at = model.find('\n', at) + 1;
+    }
+    return at + static_cast<std::size_t>(place.column);
+  };
+  const auto anyPlace = [&] {
+    const int line = pick(static_cast<std::size_t>(document.lineCount()));
+    return Place{line, pick(document.line(line).size() + 1)};
+  };
+  const std::string_view pieces[] = {"x", "\n", "ab\ncd\n", "long piece of text", "\n\n"};
+  for (int i = 0; i < 2000; ++i) {
+    const Place a = anyPlace();
+    const Place b = anyPlace();
+    if (pick(3) != 0) {
+      const std::string_view piece = pieces[pick(5)];
+      model.insert(offsetOf(a), piece);
+      document.insert(a, piece);
+    } else if (a.line - b.line < 3 && b.line - a.line < 3 && !(a == b)) {
+      const std::size_t from = offsetOf(std::min(a, b));
+      model.erase(from, offsetOf(std::max(a, b)) - from);
+      document.erase(a, b);
+    } else {
+      continue;
+    }
+    steps.push_back(model);
+    REQUIRE(document.bytes() == model);
+  }
+  Place caret;
+  for (std::size_t i = steps.size() - 1; i > 0; --i) {
+    REQUIRE(document.undo(&caret));
+    REQUIRE(document.bytes() == steps[i - 1]);
+  }
+  for (std::size_t i = 1; i < steps.size(); ++i) {
+    REQUIRE(document.redo(&caret));
+    REQUIRE(document.bytes() == steps[i]);
+  }
 }

@@ -206,6 +206,10 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
   return announce(child);
 }
 
+EditorWindow* Application::editOrStart(const std::string& path) {
+  return announce(editors_.openOrStart(resolve(path)));
+}
+
 EditorChild* Application::announce(EditorChild* child) {
   if (child != nullptr) {
     events_.emit(Event("editor")

@@ -52,6 +52,7 @@ class Application final : public Workbench, public FrameHandler {
   bool writeOption(const std::string& name, const std::string& bytes) override;
   void make(int result) override;
   EditorWindow* editFile(const std::string& path, int line) override;
+  EditorWindow* editOrStart(const std::string& path) override;
   EditorWindow* findEditor(const std::string& path) override;
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;

@@ -54,6 +54,9 @@ class Workbench {
   // caret there. Returns null when the file cannot be shown (the reason has been
   // shown).
   virtual EditorWindow* editFile(const std::string& path, int line) = 0;
+  // The same for a file that may not exist yet: it starts empty, and its first
+  // save creates it.
+  virtual EditorWindow* editOrStart(const std::string& path) = 0;
   // The topmost editor showing the file, or null.
   virtual EditorWindow* findEditor(const std::string& path) = 0;
   // The active editor, or null.

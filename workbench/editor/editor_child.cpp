@@ -13,7 +13,6 @@ bool EditorChild::registerClass(HINSTANCE instance) {
   info.hInstance = instance;
   info.hIcon = LoadIconA(nullptr, reinterpret_cast<LPCSTR>(IDI_APPLICATION));
   info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
   info.lpszClassName = ideapi::kEditorClass;
   return RegisterClassA(&info) != 0;
 }

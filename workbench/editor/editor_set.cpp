@@ -107,7 +107,18 @@ EditorChild* EditorSet::open(const std::string& path) {
   file->path = path;
   file->stamp = file->noticed = stamp;
   file->document.load(bytes);
-  return show(std::move(file));
+  return show(file);
+}
+
+EditorChild* EditorSet::openOrStart(const std::string& path) {
+  const bool starts = find(path) == nullptr && !store_.stamp(path).exists &&
+                      store_.stamp(std::string(folderOf(path))).exists;
+  if (!starts) {
+    return open(path);
+  }
+  auto file = std::make_shared<OpenFile>();
+  file->path = path;
+  return show(file);
 }
 
 EditorChild* EditorSet::create(const std::string& folder) {
@@ -120,7 +131,7 @@ EditorChild* EditorSet::create(const std::string& folder) {
       break;
     }
   }
-  return show(std::move(file));
+  return show(file);
 }
 
 EditorChild* EditorSet::newView(EditorChild& child) {
@@ -132,7 +143,7 @@ EditorChild* EditorSet::newView(EditorChild& child) {
   return view;
 }
 
-EditorChild* EditorSet::show(std::shared_ptr<OpenFile> file) {
+EditorChild* EditorSet::show(const std::shared_ptr<OpenFile>& file) {
   children_.push_back(std::make_unique<EditorChild>(file, settings_, *this));
   EditorChild* child = children_.back().get();
   child->setHandle(++last_handle_);
@@ -326,6 +337,7 @@ void EditorSet::reload(OpenFile& file) {
   }
   const std::vector<EditorChild*> views = viewsOf(file);
   std::vector<Place> carets;
+  carets.reserve(views.size());
   for (EditorChild* view : views) {
     carets.push_back(view->textView().caret());
   }

@@ -30,6 +30,8 @@ class EditorSet final : public EditorChildHost {
   // Brings the file's editor forward or opens one; null when it cannot be read
   // (the reason has been shown).
   EditorChild* open(const std::string& path);
+  // The same; a file that does not exist in a folder that does starts empty.
+  EditorChild* openOrStart(const std::string& path);
   // A new unnamed text; its proposed path lies in the folder.
   EditorChild* create(const std::string& folder);
   EditorChild* newView(EditorChild& child);
@@ -59,7 +61,7 @@ class EditorSet final : public EditorChildHost {
   bool mayEdit(EditorChild& child) override;
 
  private:
-  EditorChild* show(std::shared_ptr<OpenFile> file);
+  EditorChild* show(const std::shared_ptr<OpenFile>& file);
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
   // Reads a text that an editor can take; stamps it as it was before.

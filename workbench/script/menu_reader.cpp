@@ -43,12 +43,16 @@ bool findIdBelow(HMENU menu, UINT id, int depth, MenuPath* path) {
 }  // namespace
 
 bool readMenuItem(HMENU menu, int position, MenuItem* item) {
-  char text[512] = "";
+  // Asked without a buffer, the item tells the length of its text first.
   MENUITEMINFOA info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_ID | MIIM_STATE | MIIM_SUBMENU | MIIM_TYPE;
-  info.dwTypeData = text;
-  info.cch = sizeof text;
+  if (!GetMenuItemInfoA(menu, static_cast<UINT>(position), TRUE, &info)) {
+    return false;
+  }
+  std::string text(info.cch + 1, '\0');
+  info.dwTypeData = text.data();
+  info.cch = static_cast<UINT>(text.size());
   if (!GetMenuItemInfoA(menu, static_cast<UINT>(position), TRUE, &info)) {
     return false;
   }
@@ -61,7 +65,7 @@ bool readMenuItem(HMENU menu, int position, MenuItem* item) {
   item->highlighted = (info.fState & MFS_HILITE) != 0;
   bool has_text = (info.fType & (MFT_BITMAP | MFT_OWNERDRAW | MFT_SEPARATOR)) == 0;
   if (has_text) {
-    item->text = text;
+    item->text = text.c_str();
   }
   return true;
 }

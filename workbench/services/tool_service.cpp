@@ -75,7 +75,7 @@ int ToolService::runOwn(const std::string& name, const std::string& file) {
     return kToolNotHandled;
   }
   if (name == "EditText") {
-    return context_.workbench.editFile(file, 0) != nullptr ? kToolDone : kToolErrors;
+    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   if (name == "Project") {
     return context_.workbench.openPath(file) ? kToolDone : kToolErrors;
@@ -91,14 +91,14 @@ int ToolService::runExecutable(const std::string& file) {
   return reinterpret_cast<INT_PTR>(result) > 32 ? kToolDone : kToolErrors;
 }
 
-ToolHandle STDMETHODCALLTYPE ToolService::AddTool(IIdeString* name, IIdeString* menuText,
+ToolHandle STDMETHODCALLTYPE ToolService::AddTool(IIdeString* name, IIdeString* menu_text,
                                                   IToolImplementor* implementor) {
   const std::string tool_name = textOf(name);
   if (tool_name.empty() || implementor == nullptr || find(tool_name) != nullptr) {
     return 0;
   }
   implementor->AddRef();
-  tools_.push_back({++last_handle_, tool_name, textOf(menuText), implementor});
+  tools_.push_back({++last_handle_, tool_name, textOf(menu_text), implementor});
   if (menu_changed_) {
     menu_changed_();
   }

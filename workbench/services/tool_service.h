@@ -23,7 +23,7 @@ class ToolService final : public Service<IToolService> {
 
   ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) override;
   int STDMETHODCALLTYPE RunTool(ToolHandle tool, IIdeString* file) override;
-  ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menuText,
+  ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menu_text,
                                        IToolImplementor* implementor) override;
   void STDMETHODCALLTYPE RemoveTool(ToolHandle tool) override;
 

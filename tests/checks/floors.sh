@@ -1,0 +1,112 @@
+# An include only points down, and nothing points round in a circle.
+# usage, from the repository root: bash tests/checks/floors.sh
+set -u
+
+# Each folder's floor; files of addon/ itself are the roof.
+floors='
+ideapi 0
+addon/foundation 0
+addon/ide 1
+addon/navigation 2
+addon/behaviours 2
+addon/completion 2
+addon/delivery 2
+addon/tasks 2
+addon/groupware 2
+addon/html 2
+addon/rcgen 2
+addon/topbar 3
+addon 4
+'
+
+# Features may look at another feature only where this says so, and why.
+sideways='
+'
+
+# Headers of the Workbench that every folder of it may include, as if they lay on a floor
+# below: what the application offers to all, handles, names, and two system dialogs.
+common='
+workbench/app/workbench.h
+workbench/app/handles.h
+workbench/app/names.h
+workbench/app/clipboard.h
+workbench/app/file_dialogs.h
+'
+
+failed=0
+complain() {
+  printf '%s\n' "$1"
+  failed=1
+}
+
+# FILE INCLUDED, a line for each include in quotes.
+includes=$(grep -rHE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' addon ideapi workbench \
+  --include='*.h' --include='*.cpp' | sed -E 's/^([^:]+):[^"]*"([^"]*)".*/\1 \2/')
+[ -n "$includes" ] || complain "found no includes at all: is this the root of the repository?"
+
+# Down, by the floors; addon and workbench know nothing of each other.
+wrong=$(printf '%s\n' "$includes" | awk -v floors="$floors" -v sideways="$sideways" '
+  function folder(path) { sub("/[^/]*$", "", path); return path }
+  BEGIN {
+    count = split(floors, words, /[ \n]+/)
+    for (i = 1; i < count; i++) if (words[i] != "") { floor[words[i]] = words[i + 1]; i++ }
+    count = split(sideways, rows, "\n")
+    for (i = 1; i <= count; i++) if (split(rows[i], word, " ") >= 2) aside[word[1], word[2]] = 1
+  }
+  {
+    from = folder($1)
+    to = folder($2)
+    if ($2 !~ /^(addon|ideapi|workbench)\//) {
+      print $1 ": includes \"" $2 "\", which is no path from the root"
+    } else if (from ~ /^workbench/ ? to ~ /^addon/ : to ~ /^workbench/) {
+      print $1 ": includes \"" $2 "\" of the other program"
+    } else if (from != to && from !~ /^workbench/) {
+      if (!(from in floor)) print $1 ": its folder has no floor"
+      else if (!(to in floor)) print $1 ": the folder of \"" $2 "\" has no floor"
+      else if (floor[to] >= floor[from] && !((from, to) in aside))
+        print $1 ": includes \"" $2 "\", which is not below it"
+    } else if (from ~ /^workbench/ && to !~ /^(workbench|ideapi)/) {
+      print $1 ": includes \"" $2 "\""
+    }
+  }')
+[ -z "$wrong" ] || complain "$wrong"
+
+# No circle of folders. tsort names the folders of one that it finds.
+circle=$(printf '%s\n' "$includes" | awk -v common="$common" '
+  function folder(path) { if (path in low) return "common"; sub("/[^/]*$", "", path); return path }
+  BEGIN {
+    count = split(common, words, "\n")
+    for (i = 1; i <= count; i++) if (words[i] != "") low[words[i]] = 1
+  }
+  folder($1) != folder($2) { print folder($1), folder($2) }' | sort -u | tsort 2>&1 >/dev/null)
+[ -z "$circle" ] || complain "folders include each other in a circle:
+$circle"
+
+# The plain core gets along without Windows: its own files and whatever they include.
+# core FOLDER LIBRARY: the sources of the library, by FOLDER/CMakeLists.txt.
+core() {
+  awk -v library="$2" '
+    $0 ~ "^add_library\\(" library "[ )]" { inside = 1; next }
+    inside && /\)/ { exit }
+    inside { print $1 }' "$1/CMakeLists.txt" | sed "s|^|$1/|"
+}
+plain=$(core addon addon_core; core workbench workbench_core)
+for library in addon workbench; do
+  printf '%s\n' "$plain" | grep -q "^$library/" || complain "found no plain core of $library"
+done
+while :; do
+  more=$(printf '%s\n' "$includes" | awk -v plain="$plain" '
+    BEGIN { count = split(plain, files, "\n"); for (i = 1; i <= count; i++) known[files[i]] = 1 }
+    known[$1] && !known[$2] { print $2 }' | sort -u)
+  [ -n "$more" ] || break
+  plain="$plain
+$more"
+done
+for file in $plain; do
+  if [ ! -e "$file" ]; then
+    complain "$file belongs to the plain core and is not there"
+  elif grep -qiE '#[[:space:]]*include[[:space:]]*<(windows|winuser|ole2|objbase|unknwn|commctrl|commdlg|shellapi)\.h>' "$file"; then
+    complain "$file: belongs to the plain core and includes a Windows header"
+  fi
+done
+exit "$failed"

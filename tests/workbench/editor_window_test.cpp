@@ -1,0 +1,354 @@
+// Editors as hands use them: keys, the clipboard's messages, and the questions
+// asked before an edit would be lost.
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "doctest.h"
+#include "tests/workbench/program_fixture.h"
+
+using namespace workbench;
+
+namespace {
+
+// Answers message boxes in order and keeps their texts.
+class Answers {
+ public:
+  explicit Answers(std::vector<int> answers) : answers_(std::move(answers)) {
+    current_ = this;
+    hook_ = SetWindowsHookExA(WH_CBT, watch, nullptr, GetCurrentThreadId());
+  }
+  ~Answers() {
+    UnhookWindowsHookEx(hook_);
+    current_ = nullptr;
+    CHECK(texts.size() == answers_.size());
+  }
+  Answers(const Answers&) = delete;
+  Answers& operator=(const Answers&) = delete;
+
+  std::vector<std::string> texts;
+
+ private:
+  static LRESULT CALLBACK watch(int code, WPARAM w, LPARAM l) {
+    HWND window = reinterpret_cast<HWND>(w);
+    HWND label = code == HCBT_ACTIVATE ? GetDlgItem(window, 0xFFFF) : nullptr;
+    if (label != nullptr) {
+      char text[600] = {};
+      GetWindowTextA(label, text, sizeof text);
+      current_->texts.push_back(text);
+      const std::size_t at = current_->texts.size() - 1;
+      EndDialog(window, at < current_->answers_.size() ? current_->answers_[at] : IDCANCEL);
+    }
+    return CallNextHookEx(nullptr, code, w, l);
+  }
+
+  static inline Answers* current_ = nullptr;
+  std::vector<int> answers_;
+  HHOOK hook_ = nullptr;
+};
+
+class Desk {
+ public:
+  Desk() {
+    REQUIRE(program.application.openPath(folder.path()));
+    editor = program.application.editFile("a.cpp", 1);
+    REQUIRE(editor != nullptr);
+  }
+  void setText(const std::string& text) {
+    message(WM_SETFOCUS);
+    editor->select(1, 1, 9999, 9999);
+    editor->type(text);
+    editor->setCaret(1, 1);
+  }
+  LRESULT message(UINT id, WPARAM w = 0, LPARAM l = 0) {
+    return SendMessageA(editor->textWindow(), id, w, l);
+  }
+  void keys(const std::string& text) {
+    for (const char c : text) {
+      message(WM_CHAR, static_cast<unsigned char>(c));
+    }
+  }
+  void press(WPARAM key, bool shift = false, bool control = false) {
+    BYTE state[256] = {};
+    state[VK_SHIFT] = shift ? 0x80 : 0;
+    state[VK_CONTROL] = control ? 0x80 : 0;
+    SetKeyboardState(state);
+    message(WM_KEYDOWN, key);
+    state[VK_SHIFT] = state[VK_CONTROL] = 0;
+    SetKeyboardState(state);
+  }
+  std::string onDisk() {
+    std::string bytes;
+    DiskStore().read(folder.file("a.cpp"), kLargestText, &bytes);
+    return bytes;
+  }
+  std::string place() {
+    int line = 0;
+    int column = 0;
+    editor->caret(&line, &column);
+    std::string result = std::to_string(line);
+    result += ':';
+    result += std::to_string(column);
+    return result;
+  }
+  bool isOpen() { return program.application.findEditor("a.cpp") != nullptr; }
+  void closeEditor() { SendMessageA(editor->window(), WM_CLOSE, 0, 0); }
+
+  ScratchFolder folder;
+  Program program;
+  EditorWindow* editor = nullptr;
+};
+
+const std::string kOnDisk = "first\r\nsecond word\r\nthird\r\n";
+
+}  // namespace
+
+TEST_CASE("keys edit the text") {
+  const struct {
+    std::string before;
+    void (*work)(Desk&);
+    std::string after;
+    std::string place;
+  } cases[] = {
+      {"",
+       [](Desk& d) {
+         d.keys(
+             "ab\x01\x1B"
+             "c");
+       },
+       "abc", "1:4"},
+      {"\t  x",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.keys("\ry");
+       },
+       "\t  x\r\n\t  y", "2:5"},
+      {"  x",
+       [](Desk& d) {
+         d.editor->setCaret(1, 2);
+         d.keys("\r");
+       },
+       " \r\n  x", "2:2"},
+      {"ab\ncd",
+       [](Desk& d) {
+         d.editor->setCaret(2, 1);
+         d.press(VK_BACK);
+       },
+       "abcd", "1:3"},
+      {"ab\ncd",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.press(VK_DELETE);
+       },
+       "abcd", "1:3"},
+      {"one two", [](Desk& d) { d.press(VK_DELETE, false, true); }, "two", "1:1"},
+      {"one two",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.press(VK_BACK, false, true);
+       },
+       "one ", "1:5"},
+      {"abc",
+       [](Desk& d) {
+         d.press(VK_INSERT);
+         d.keys("xy");
+         d.press(VK_INSERT);
+         d.keys("z");
+       },
+       "xyzc", "1:4"},
+      {"ab",
+       [](Desk& d) {
+         d.editor->setCaret(1, 5);
+         d.keys("c");
+       },
+       "ab  c", "1:6"},
+      {"a\nb\nc",
+       [](Desk& d) {
+         d.editor->select(1, 1, 3, 1);
+         d.keys("\t");
+       },
+       "\ta\r\n\tb\r\nc", "3:1"},
+      {"abcd",
+       [](Desk& d) {
+         d.editor->select(1, 2, 1, 4);
+         d.keys("X");
+         d.message(WM_UNDO);
+       },
+       "abcd", "1:4"},
+      {"ab\nabcd\na",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.press(VK_DOWN);
+         d.press(VK_DOWN);
+       },
+       "ab\r\nabcd\r\na", "3:2"},
+      // A vertical move remembers the cell it came from.
+      {"abcd\na\nabcd",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.press(VK_DOWN);
+         d.press(VK_DOWN);
+       },
+       "abcd\r\na\r\nabcd", "3:5"},
+      {"  ab",
+       [](Desk& d) {
+         d.press(VK_END);
+         d.press(VK_HOME);
+       },
+       "  ab", "1:3"},
+      {"a\nb",
+       [](Desk& d) {
+         d.press(VK_END, false, true);
+         d.keys("!");
+       },
+       "a\r\nb!", "2:3"},
+      {"one two",
+       [](Desk& d) {
+         d.press(VK_RIGHT, true, true);
+         d.press(VK_DELETE);
+       },
+       "two", "1:1"},
+  };
+  Desk desk;
+  for (const auto& each : cases) {
+    CAPTURE(each.before);
+    CAPTURE(each.after);
+    desk.setText(each.before);
+    each.work(desk);
+    CHECK(desk.editor->text() == each.after);
+    CHECK(desk.place() == each.place);
+  }
+}
+
+TEST_CASE("the clipboard's messages move the selection") {
+  Desk desk;
+  desk.setText("one\ntwo\nthree");
+  desk.editor->select(1, 3, 2, 2);
+  CHECK(desk.editor->selection() == "e\r\nt");
+  desk.message(WM_COPY);
+  desk.message(WM_CUT);
+  CHECK(desk.editor->text() == "onwo\r\nthree");
+  desk.editor->setCaret(2, 6);
+  desk.message(WM_PASTE);
+  CHECK(desk.editor->text() == "onwo\r\nthreee\r\nt");
+  desk.editor->select(1, 1, 3, 1);
+  desk.message(WM_CLEAR);
+  CHECK(desk.editor->text() == "t");
+  desk.message(WM_SYSKEYDOWN, VK_BACK, 1 << 29);
+  CHECK(desk.editor->text() == "onwo\r\nthreee\r\nt");
+}
+
+TEST_CASE("closing a modified text asks, and only yes writes") {
+  const struct {
+    int answer;
+    bool open_after;
+    bool written;
+  } cases[] = {{IDCANCEL, true, false}, {IDNO, false, false}, {IDYES, false, true}};
+  for (const auto& each : cases) {
+    for (const bool whole_project : {false, true}) {
+      CAPTURE(each.answer);
+      CAPTURE(whole_project);
+      Desk desk;
+      desk.keys("x");
+      Answers answers({each.answer});
+      if (whole_project) {
+        CHECK(desk.program.application.closeProject() != each.open_after);
+      } else {
+        desk.closeEditor();
+      }
+      CHECK(answers.texts[0] == "Save changes to " + desk.folder.file("a.cpp") + "?");
+      CHECK(desk.isOpen() == each.open_after);
+      CHECK(desk.onDisk() == (each.written ? "x" + kOnDisk : kOnDisk));
+    }
+  }
+}
+
+TEST_CASE("the end of the session waits for the answer") {
+  Desk desk;
+  desk.keys("x");
+  Answers answers({IDCANCEL, IDNO});
+  CHECK(SendMessageA(desk.program.application.frame(), WM_QUERYENDSESSION, 0, 0) == FALSE);
+  CHECK(SendMessageA(desk.program.application.frame(), WM_QUERYENDSESSION, 0, 0) == TRUE);
+}
+
+TEST_CASE("a file that another program changed is not overwritten unasked") {
+  Desk desk;
+  desk.keys("x");
+  writeFile(desk.folder.file("a.cpp"), "another program's");
+  {
+    Answers answers({IDNO});
+    CHECK_FALSE(desk.editor->save());
+  }
+  CHECK(desk.onDisk() == "another program's");
+  CHECK(desk.editor->modified());
+  {
+    Answers answers({IDYES});
+    CHECK(desk.editor->save());
+  }
+  CHECK(desk.onDisk() == "x" + kOnDisk);
+  CHECK_FALSE(desk.editor->modified());
+}
+
+TEST_CASE("a changed file is offered once, and read again where the caret was") {
+  Desk desk;
+  Application& application = desk.program.application;
+  application.programActivated();  // nothing changed, nothing asked
+  desk.editor->setCaret(2, 3);
+  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n");
+  {
+    Answers answers({IDNO});
+    application.programActivated();
+    application.programActivated();
+  }
+  CHECK(desk.editor->text() == kOnDisk);
+  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n4\n");
+  {
+    Answers answers({IDYES});
+    application.programActivated();
+  }
+  CHECK(desk.editor->text() == "1\n22222\n3\n4\n");
+  CHECK(desk.place() == "2:3");
+  CHECK_FALSE(desk.editor->modified());
+  DeleteFileA(desk.folder.file("a.cpp").c_str());
+  {
+    Answers answers({IDOK});
+    application.programActivated();
+  }
+  CHECK(desk.editor->modified());
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "1\n22222\n3\n4\n");
+}
+
+TEST_CASE("a read-only file says so before it is edited and when it is saved") {
+  Desk desk;
+  const std::string path = desk.folder.file("a.cpp");
+  desk.closeEditor();
+  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  desk.editor = desk.program.application.editFile(path, 1);
+  {
+    Answers answers({IDNO});
+    desk.keys("x");
+  }
+  CHECK_FALSE(desk.editor->modified());
+  {
+    Answers answers({IDYES, IDOK});
+    desk.keys("xy");  // asked once
+    CHECK_FALSE(desk.editor->save());
+    CHECK(answers.texts[1] == "The file was not saved. " + path + " is read-only.");
+  }
+  CHECK(desk.editor->text() == "xy" + kOnDisk);
+  CHECK(desk.editor->modified());
+  CHECK(desk.onDisk() == kOnDisk);
+}
+
+TEST_CASE("what cannot be opened is told") {
+  Desk desk;
+  Answers answers({IDOK, IDOK, IDOK});
+  CHECK(desk.program.application.editFile("none.cpp", 1) == nullptr);
+  CHECK(desk.program.application.editFile("inc", 1) == nullptr);
+  CHECK_FALSE(desk.program.application.openPath("none"));
+  CHECK(answers.texts[0] == desk.folder.file("none.cpp") + " does not exist.");
+  CHECK(answers.texts[1] == desk.folder.file("inc") + " is a folder.");
+  CHECK(desk.isOpen());
+}
