@@ -39,7 +39,7 @@ void setProjectFile(std::string file) {
 
 std::string projectDirectory() {
   if (openFlag) {
-    const std::string directory(directoryPart(openFileName));
+    std::string directory(directoryPart(openFileName));
     if (!directory.empty()) {
       return directory;
     }

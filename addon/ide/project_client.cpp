@@ -69,10 +69,9 @@ void STDMETHODCALLTYPE ProjectClientImpl::ProjectOpened(IProject* project) {
     project->AddRef();
   }
   project_ = ComPtr<IProject>(project);
-  setProjectFile(fileOf(project));
+  const std::string file = fileOf(project);
+  setProjectFile(file);
   StoredOptions options(service_);
-  // A step may make the IDE open another project, which would change the slot.
-  const std::string file = projectFile();
   const ProjectWork work = {service_, options, file.c_str()};
   run(&ProjectOrder::announced, work);
   if (service_->IsProjectLoaded() != 0) {
@@ -84,8 +83,7 @@ void STDMETHODCALLTYPE ProjectClientImpl::ProjectOpened(IProject* project) {
 
 void STDMETHODCALLTYPE ProjectClientImpl::ProjectClosed() {
   StoredOptions options(service_);
-  const std::string file = projectFile();
-  const ProjectWork work = {service_, options, file.c_str()};
+  const ProjectWork work = {service_, options, projectFile().c_str()};
   run(&ProjectOrder::closing, work);
   if (service_->IsProjectLoaded() != 0) {
     run(&ProjectOrder::closing_loaded, work);

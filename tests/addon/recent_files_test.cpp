@@ -94,19 +94,19 @@ TEST_CASE("a header that was used shows in its submenu with its whole path") {
   // What a bar without these menus says; the list is in order all the same.
   const HMENU full = GetMenu(session.windows.bar);
   const HMENU bar = CreateMenu();
-  const auto saidBy = [&](HMENU menu) {
+  const auto said = [&](HMENU menu) {
     SetMenu(session.windows.bar, menu);
     files.headerUsed("C:\\p\\d.h", nullptr);
     return session.lastStatus();
   };
-  CHECK(saidBy(nullptr) == "Pas de bar");
+  CHECK(said(nullptr) == "Pas de bar");
   AppendMenuA(bar, MF_STRING, 99, "initializing...");
-  CHECK(saidBy(bar) == "Pas de mnu");
+  CHECK(said(bar) == "Pas de mnu");
   const HMENU popup = CreatePopupMenu();
   InsertMenuA(bar, 0, MF_BYPOSITION | MF_POPUP, reinterpret_cast<UINT_PTR>(popup), "Kesto");
-  CHECK(saidBy(bar) == "mnu.taille=0");
+  CHECK(said(bar) == "mnu.taille=0");
   AppendMenuA(popup, MF_STRING, 199, "Options...");
-  CHECK(saidBy(bar) == "Pas de hh");
+  CHECK(said(bar) == "Pas de hh");
   CHECK(files.headers().count() == 3);
   SetMenu(session.windows.bar, full);
   DestroyMenu(bar);

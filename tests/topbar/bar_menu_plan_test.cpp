@@ -184,9 +184,9 @@ TEST_CASE("wide and deep projects end where the ids do") {
 
 TEST_CASE("a submenu as deep as menus nest") {
   for (const int depth : {32, 33}) {
-    std::vector<Row> rows;
+    std::vector<Row> rows(static_cast<size_t>(depth), Row{0, "d", "Folder"});
     for (int i = 0; i < depth; ++i) {
-      rows.push_back({i, "d", "Folder"});
+      rows[static_cast<size_t>(i)].depth = i;
     }
     rows.push_back({depth, "f.c", ".c"});
     CHECK(planned(Outline(rows), 1).files.size() == (depth == 32 ? 1 : 0));
