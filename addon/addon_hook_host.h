@@ -1,4 +1,5 @@
-// Answers the hooks' questions from the features and the bar.
+// Answers the hooks' questions from the features and the bar, whose objects the
+// lifecycle owns. User-interface thread only.
 #pragma once
 
 #include "addon/ide/hook_set.h"

@@ -1,5 +1,5 @@
 // The settings of keyword completion: whether it is on and which key asks for it.
-// One object, created and destroyed by the lifecycle.
+// One object, created and destroyed by the lifecycle; user-interface thread only.
 #pragma once
 
 #include "addon/foundation/string.h"

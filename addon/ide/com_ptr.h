@@ -1,5 +1,6 @@
 // Owner of one reference on a component interface. Not copied: a reference
-// moves, so that each is released exactly once.
+// moves, so that each is released exactly once. The counts are plain integers:
+// user-interface thread only.
 #pragma once
 
 #include <utility>

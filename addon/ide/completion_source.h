@@ -1,5 +1,6 @@
 // What the completion key asks of the completion engine. The engine lives on
-// the floor above and enters itself here.
+// the floor above and enters itself here; it stays its own owner. User-interface thread
+// only.
 #pragma once
 
 #include <string>

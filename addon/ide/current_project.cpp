@@ -1,5 +1,7 @@
 #include "addon/ide/current_project.h"
 
+#include <string_view>
+
 #include "addon/foundation/path.h"
 #include "addon/ide/access.h"
 
@@ -39,9 +41,9 @@ void setProjectFile(std::string file) {
 
 std::string projectDirectory() {
   if (openFlag) {
-    std::string directory(directoryPart(openFileName));
+    const std::string_view directory = directoryPart(openFileName);
     if (!directory.empty()) {
-      return directory;
+      return std::string(directory);
     }
   }
   return currentDirectory();

@@ -1,4 +1,5 @@
 // The project that is open in the IDE. The project client fills the slots.
+// User-interface thread only.
 #pragma once
 
 #include <string>

@@ -1,6 +1,7 @@
 // What the add-on does to the IDE's editors. Each takes the full name of a
 // file and does nothing when the editor service is missing or no editor shows
-// the file. Lines and columns are 1-based.
+// the file. Lines and columns are 1-based. Nothing of the IDE is held after
+// the call. User-interface thread only.
 #pragma once
 
 #include <cstddef>

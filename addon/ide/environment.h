@@ -1,4 +1,5 @@
-// What the add-on knows of the module and the system it runs in.
+// What the add-on knows of the module and the system it runs in. Owned by
+// the lifecycle, filled before any other thread exists and constant from then on.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,5 @@
 // The text of a file as the IDE holds it, an editor's unsaved changes included.
+// FileText owns its bytes. User-interface thread only.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Finding the IDE's windows.
+// Finding the IDE's windows, which stay the IDE's. User-interface thread only.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,5 @@
 // Owners of drawing handles: each is given back when its owner goes.
+// An owner stays on the thread that made it.
 #pragma once
 
 #include <windows.h>

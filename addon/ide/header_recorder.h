@@ -1,5 +1,6 @@
 // Who remembers the headers that were opened. The recent lists live on a floor
-// above and enter themselves here.
+// above and enter themselves here; they stay their own owners. User-interface
+// thread only.
 #pragma once
 
 #include <windows.h>

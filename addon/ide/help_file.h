@@ -1,4 +1,5 @@
-// The module's help file: its own path with the extension "hlp".
+// The module's help file: its own path with the extension "hlp". One object,
+// created and destroyed by the lifecycle; user-interface thread only.
 #pragma once
 
 #include <windows.h>

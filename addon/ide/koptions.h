@@ -1,5 +1,6 @@
 // The options service, held for the session: directory options of project
-// nodes and the add-on's chapter of the options dialog.
+// nodes and the add-on's chapter of the options dialog. One object, created and
+// destroyed by the lifecycle; user-interface thread only.
 #pragma once
 
 #include "addon/foundation/string.h"

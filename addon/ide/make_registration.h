@@ -1,4 +1,5 @@
-// Registration of the add-on's make client with the IDE.
+// Registration of the add-on's make client with the IDE, which shares
+// the client's ownership meanwhile. User-interface thread only.
 #pragma once
 
 #include "ideapi/ide_interfaces.h"

@@ -1,4 +1,4 @@
-// The add-on's one way to show a file in the IDE.
+// The add-on's one way to show a file in the IDE. User-interface thread only.
 #pragma once
 
 #include <windows.h>

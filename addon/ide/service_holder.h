@@ -1,5 +1,5 @@
 // A service kept for the whole session: obtained at construction, released at
-// destruction, null when the IDE does not offer it.
+// destruction, null when the IDE does not offer it. User-interface thread only.
 #pragma once
 
 #include "addon/ide/access.h"

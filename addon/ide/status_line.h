@@ -1,4 +1,5 @@
 // The IDE's status line, and the beep that goes with some of its texts.
+// User-interface thread only.
 #pragma once
 
 namespace kesto {

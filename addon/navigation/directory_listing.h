@@ -1,4 +1,5 @@
-// The file system as the include search sees it.
+// The file system as the include search sees it. Holds nothing;
+// any thread.
 #pragma once
 
 #include "addon/navigation/include_search.h"

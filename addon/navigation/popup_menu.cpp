@@ -8,9 +8,12 @@ HMENU createPopup(const MenuPlan& plan) {
     const UINT flags = MF_STRING | (item.column_break ? MF_MENUBARBREAK : 0U);
     if (item.id != 0) {
       AppendMenuA(popup, flags, static_cast<UINT_PTR>(item.id), item.text);
-    } else {
-      AppendMenuA(popup, flags | MF_POPUP, reinterpret_cast<UINT_PTR>(createPopup(item.submenu)),
-                  item.text);
+      continue;
+    }
+    // Only a submenu that was taken goes with its popup.
+    const HMENU submenu = createPopup(item.submenu);
+    if (AppendMenuA(popup, flags | MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), item.text) == 0) {
+      DestroyMenu(submenu);
     }
   }
   return popup;

@@ -1,4 +1,4 @@
-// Turns a menu plan into a popup.
+// Turns a menu plan into a popup. User-interface thread only.
 #pragma once
 
 #include <windows.h>

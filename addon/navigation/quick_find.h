@@ -1,5 +1,6 @@
 // The settings of the searches: file masks, shortcut keys, and the side of the
-// title-bar buttons. One object, created and destroyed by the lifecycle.
+// title-bar buttons. One object, created and destroyed by the lifecycle; user-interface
+// thread only.
 #pragma once
 
 #include <windows.h>

@@ -1,5 +1,5 @@
 // The commands of the editor title bars: popups, and what is chosen from them.
-// Each works on the editor that the hooks recorded last.
+// Each works on the editor that the hooks recorded last. User-interface thread only.
 #pragma once
 
 #include <windows.h>

@@ -26,15 +26,19 @@ void collapseBar() {
   }
 }
 
-void onActivation(WPARAM wParam, LPARAM lParam) {
-  if (LOWORD(wParam) == WA_CLICKACTIVE) {
-    // The bar never keeps the keyboard.
-    if (const HWND before = reinterpret_cast<HWND>(lParam)) {
-      SetActiveWindow(before);
-    }
-  } else if (LOWORD(wParam) == WA_INACTIVE) {
+// Returns true when that was all there is to do: the default processing would
+// give the bar the keyboard, and with it the activation, back.
+bool onActivation(WPARAM wParam, LPARAM lParam) {
+  if (LOWORD(wParam) == WA_INACTIVE) {
     collapseBar();
+    return false;
   }
+  const HWND before = reinterpret_cast<HWND>(lParam);
+  if (LOWORD(wParam) != WA_CLICKACTIVE || before == nullptr) {
+    return false;
+  }
+  SetActiveWindow(before);
+  return true;
 }
 
 void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
@@ -77,7 +81,9 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
       }
       break;
     case WM_ACTIVATE:
-      onActivation(wParam, lParam);
+      if (onActivation(wParam, lParam)) {
+        return 0;
+      }
       break;
     case kGoToLineMessage:
       goToLine(reinterpret_cast<const char*>(lParam), static_cast<int>(wParam));

@@ -1,5 +1,6 @@
 // The bar window, class "KADO": a menu bar over the screen's top edge, and the
-// window that owns every popup of the add-on.
+// window that owns every popup of the add-on. The lifecycle destroys it. User-interface
+// thread only.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,5 @@
 // The add-on's small window (class "QUK") that stands in another window's caption.
+// User-interface thread only.
 #pragma once
 
 #include <windows.h>

@@ -38,7 +38,7 @@ bool completeWord(const Command&) {
   if (const HWND editor = findActiveEditor()) {
     char title[MAX_PATH] = "";
     GetWindowTextA(editor, title, sizeof title);
-    // The IDE's mark of a modified file is no part of its name.
+    // A file that is typed into carries the modified mark.
     completeAtCursor(std::string(documentationTitle(title)).c_str());
   }
   return true;

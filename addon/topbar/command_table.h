@@ -1,5 +1,5 @@
 // The command centre: every command that reaches the bar, by ranges of ids, and
-// who carries it out.
+// who carries it out. User-interface thread only.
 #pragma once
 
 #include <windows.h>

@@ -47,7 +47,7 @@ TEST_CASE("the help file is the module's path with another extension") {
               {"a.b.dl", nullptr}};
   for (const auto& row : rows) {
     char path[64];
-    strcpy(path, row.module);
+    lstrcpynA(path, row.module, sizeof path);
     CAPTURE(row.module);
     CHECK(kesto::makeHelpPath(path) == (row.help != nullptr));
     CHECK(std::string(path) == (row.help != nullptr ? row.help : row.module));

@@ -1,7 +1,6 @@
 #include "addon/ide/hook_set.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 #include "addon/ide/find_window.h"
@@ -126,12 +125,16 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
 
   SUBCASE("a button") {
     const int commands[] = {189, 187, 188};
+    const HWND other = hooked.windows.editor("C:\\SRC\\B.CPP");
+    SetWindowPos(other, HWND_TOP, 40, 160, 0, 0, SWP_NOSIZE);
+    hooked.afterInput();
     for (int button = 0; button < 3; ++button) {
       hooked.host.button = button;
       hooked.click(editor, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
       const std::vector<int> ids = hooked.afterInput();
       CHECK(std::count(ids.begin(), ids.end(), commands[button]) == 1);
     }
+    CHECK(GetWindow(hooked.windows.client, GW_CHILD) == editor);
     CHECK(hooked.hooks.target().window == editor);
     CHECK(std::string(hooked.hooks.target().title) == "C:\\SRC\\A.CPP");
     CHECK(hooked.hooks.target().click.x == 11);
@@ -143,12 +146,22 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     CHECK(std::count(ids.begin(), ids.end(), 197) == 1);
     CHECK(std::string(hooked.hooks.target().documented) == "C:\\SRC\\A.CPP:2");
   }
-  SUBCASE("a title as long as its places and longer") {
-    SetWindowTextA(editor, std::string(600, 'x').c_str());
-    hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
-    hooked.afterInput();
-    CHECK(strlen(hooked.hooks.target().title) == 178);
-    CHECK(strlen(hooked.hooks.target().documented) == 510);
+  SUBCASE("a title longer than the slots is cut, not written past them") {
+    for (const size_t length : {179U, 256U, 511U}) {
+      CAPTURE(length);
+      const std::string title = "C:\\" + std::string(length - 3, 'A');
+      SetWindowTextA(editor, title.c_str());
+      hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+      hooked.afterInput();
+      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 178));
+      CHECK(std::string(hooked.hooks.target().documented) == title.substr(0, 510));
+      SetFocus(hooked.windows.frame);
+      hooked.host.searches[2] = VK_F5;
+      hooked.press({VK_F5});
+      const std::vector<int> ids = hooked.afterInput();
+      CHECK(std::count(ids.begin(), ids.end(), 192) == 1);
+      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 255));
+    }
   }
   SUBCASE("not while a popup is open, the menus are off or the editor is disabled") {
     hooked.host.button = 0;
@@ -226,21 +239,34 @@ TEST_CASE("windows that come, go and repaint are told by the host's wishes") {
   ids = hooked.windows.commands();
   CHECK(std::count(ids.begin(), ids.end(), 111) >= 1);
   CHECK(hooked.windows.last_lparam == reinterpret_cast<LPARAM>(editor));
+  const auto paints_after_activation = [&] {
+    SendMessageA(editor, WM_NCACTIVATE, TRUE, 0);
+    ids = hooked.windows.commands();
+    return std::count(ids.begin(), ids.end(), 111);
+  };
+  hooked.host.navigation = false;
+  CHECK(paints_after_activation() == 0);
+  hooked.host.navigation = true;
+  ShowWindow(editor, SW_MINIMIZE);
+  hooked.windows.drain();
+  CHECK(paints_after_activation() == 0);
+  ShowWindow(editor, SW_RESTORE);
+  hooked.windows.drain();
+  CHECK(paints_after_activation() == 1);
   // Too narrow for buttons.
   SetWindowPos(editor, nullptr, 0, 0, 2 * GetSystemMetrics(SM_CYCAPTION), 100, SWP_NOMOVE);
   hooked.windows.drain();
-  SendMessageA(editor, WM_NCACTIVATE, TRUE, 0);
-  CHECK(hooked.windows.commands().empty());
+  CHECK(paints_after_activation() == 0);
 
-  const auto openAndCloseProjectView = [&] {
+  const auto open_and_close_project_view = [&] {
     DestroyWindow(
         hooked.windows.create(ideapi::kProjectClass, "", WS_CHILD, hooked.windows.client));
     ids = hooked.windows.commands();
     return std::count(ids.begin(), ids.end(), 103);
   };
-  CHECK(openAndCloseProjectView() == 0);
+  CHECK(open_and_close_project_view() == 0);
   hooked.host.watches = true;
-  CHECK(openAndCloseProjectView() == 2);
+  CHECK(open_and_close_project_view() == 2);
 
   PostMessageA(hooked.windows.frame, WM_COMMAND, 13104, 0);
   PostMessageA(hooked.windows.bar, WM_COMMAND, 13104, 0);

@@ -1,8 +1,12 @@
 // The built DLL itself, loaded as an IDE loads it.
 #include <windows.h>
 
+#include <cstring>
+
+#include "addon/foundation/settings_store.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
+#include "tests/addon/window_fixture.h"
 
 namespace {
 
@@ -12,12 +16,19 @@ struct HandleCounts {
   int menus = 0;
 };
 
+// Other programs' windows come and go as they like.
+bool isOwnWindow(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
 // Wine has no count of a process's handles, but it answers for any low word.
 HandleCounts countHandles() {
   HandleCounts counts;
   for (unsigned low = 1; low < 0x10000; ++low) {
     counts.gdi += GetObjectType(reinterpret_cast<HGDIOBJ>(low)) != 0;
-    counts.windows += IsWindow(reinterpret_cast<HWND>(low)) != FALSE;
+    counts.windows += isOwnWindow(reinterpret_cast<HWND>(low));
     counts.menus += IsMenu(reinterpret_cast<HMENU>(low)) != FALSE;
   }
   return counts;
@@ -27,9 +38,7 @@ HandleCounts countHandles() {
 HWND ownBar() {
   HWND bar = nullptr;
   while ((bar = FindWindowExA(nullptr, bar, "KADO", nullptr)) != nullptr) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(bar, &process);
-    if (process == GetCurrentProcessId()) {
+    if (isOwnWindow(bar)) {
       return bar;
     }
   }
@@ -43,26 +52,89 @@ void drain() {
   }
 }
 
+// The built DLL between its two calls.
+class Session {
+ public:
+  explicit Session(fake::Ide& ide) : module_(LoadLibraryA("Kestoaob.dll")) {
+    REQUIRE(module_ != nullptr);
+    entry_ = reinterpret_cast<ideapi::AddonEntry>(
+        reinterpret_cast<void*>(GetProcAddress(module_, ideapi::kAddonEntryName)));
+    REQUIRE((entry_ != nullptr));
+    ide.AddRef();
+    entry_(reinterpret_cast<int>(static_cast<IIde*>(&ide)));
+    CHECK(ownBar() != nullptr);
+    drain();
+  }
+  ~Session() {
+    entry_(0);
+    CHECK(ownBar() == nullptr);
+    FreeLibrary(module_);
+    CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
+  }
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+ private:
+  HMODULE module_;
+  ideapi::AddonEntry entry_ = nullptr;
+};
+
 // One session, with messages for the hooks to see before and after it.
 void runOnce(fake::Ide& ide) {
-  const HMODULE module = LoadLibraryA("Kestoaob.dll");
-  REQUIRE(module != nullptr);
-  const auto entry = reinterpret_cast<ideapi::AddonEntry>(
-      reinterpret_cast<void*>(GetProcAddress(module, ideapi::kAddonEntryName)));
-  REQUIRE((entry != nullptr));
-  ide.AddRef();
-  entry(reinterpret_cast<int>(static_cast<IIde*>(&ide)));
-  CHECK(ownBar() != nullptr);
-  drain();
-  entry(0);
-  CHECK(ownBar() == nullptr);
-  FreeLibrary(module);
-  CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
+  { const Session session(ide); }
   // A hook left behind would now run in memory that is gone.
   DestroyWindow(CreateWindowExA(0, "STATIC", "after", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 90,
                                 60, nullptr, nullptr, nullptr, nullptr));
   drain();
 }
+
+// Ends every menu and answers every box of the thread, whose loops it is called from.
+class EndsModalLoops {
+ public:
+  EndsModalLoops()
+      : timer_(SetTimer(nullptr, 0, 1, endMenu)),
+        boxes_(SetWindowsHookExA(WH_CBT, answerBox, nullptr, GetCurrentThreadId())) {
+    menus = 0;
+    boxes = 0;
+  }
+  ~EndsModalLoops() {
+    KillTimer(nullptr, timer_);
+    UnhookWindowsHookEx(boxes_);
+  }
+  EndsModalLoops(const EndsModalLoops&) = delete;
+  EndsModalLoops& operator=(const EndsModalLoops&) = delete;
+
+  static int menus;
+  static int boxes;
+
+ private:
+  static void CALLBACK endMenu(HWND, UINT, UINT_PTR, DWORD) {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetCurrentThreadId(), &thread);
+    if ((thread.flags & GUI_INMENUMODE) != 0) {
+      ++menus;
+      EndMenu();
+    }
+  }
+  static LRESULT CALLBACK answerBox(int code, WPARAM wParam, LPARAM lParam) {
+    char name[10] = "";
+    GetClassNameA(reinterpret_cast<HWND>(wParam), name, sizeof name);
+    if (code == HCBT_ACTIVATE && strcmp(name, "#32770") == 0) {
+      ++boxes;
+      PostMessageA(reinterpret_cast<HWND>(wParam), WM_COMMAND, IDOK, 0);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  UINT_PTR timer_;
+  HHOOK boxes_;
+};
+
+int EndsModalLoops::menus = 0;
+int EndsModalLoops::boxes = 0;
+
+constexpr WPARAM kHelpCommand = 196;
 
 }  // namespace
 
@@ -80,4 +152,99 @@ TEST_CASE("a hundred sessions in one process leave nothing behind") {
   CHECK(after.windows == before.windows);
   CHECK(after.menus == before.menus);
   CHECK(fake::live_references == references);
+}
+
+TEST_CASE("an IDE without services survives every command") {
+  fake::Ide ide;
+  ide.services.clear();
+  ide.stream.disk = "#include <a.h>\nint f(void)\n";
+  WindowFixture windows;
+  const HWND editor = windows.editor("C:\\A.CPP");
+  EndsModalLoops loops;
+  {
+    const Session session(ide);
+    // The options service is asked for at the start.
+    CHECK(EndsModalLoops::boxes == 1);
+    const HWND bar = ownBar();
+    const auto send_up_to = [bar](WPARAM last, HWND window) {
+      for (WPARAM id = 0; id <= last; ++id) {
+        // The help viewer is another program, and no service.
+        if (id != kHelpCommand) {
+          SendMessageA(bar, WM_COMMAND, id, reinterpret_cast<LPARAM>(window));
+          SendMessageA(bar, WM_MENUSELECT, id, 0);
+        }
+      }
+    };
+    send_up_to(20000, nullptr);
+    send_up_to(199, editor);
+    // Functions, includes, searches and documentation, with each window.
+    CHECK(EndsModalLoops::menus == 8);
+    drain();
+  }
+  CHECK(EndsModalLoops::boxes == 1);
+}
+
+TEST_CASE("three hundred popups leave no handle behind") {
+  fake::Ide ide;
+  ide.stream.disk = "#include <a.h>\nint f(void)\nvoid A::g()\n";
+  WindowFixture windows;
+  const HWND editor = windows.editor("C:\\A.CPP");
+  EndsModalLoops loops;
+  const Session session(ide);
+  const auto open_all = [&] {
+    for (const WPARAM command : {111, 187, 188, 189, 197}) {
+      SendMessageA(ownBar(), WM_COMMAND, command, reinterpret_cast<LPARAM>(editor));
+    }
+  };
+  open_all();
+  drain();
+  const HandleCounts before = countHandles();
+  CHECK(before.windows > 0);
+  for (int i = 0; i < 75; ++i) {
+    open_all();
+  }
+  drain();
+  const HandleCounts after = countHandles();
+  CHECK(EndsModalLoops::menus == 4 * 76);
+  CHECK(after.gdi == before.gdi);
+  CHECK(after.windows == before.windows);
+  CHECK(after.menus == before.menus);
+}
+
+TEST_CASE("the project view rebuilds the bar's menu only when the settings want it") {
+  const struct {
+    int enabled;
+    int hide_with_view;
+    int construction;
+    int rebuilds;  // one as the view comes, one as it goes
+  } rows[] = {{1, 1, 0, 2}, {1, 1, 1, 2}, {1, 1, 2, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}};
+  // The add-on's own root: the built DLL knows no other.
+  kesto::SettingsStore& store = kesto::settings();
+  store.setRoot("SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob");
+  for (const auto& row : rows) {
+    CAPTURE(row.enabled);
+    CAPTURE(row.hide_with_view);
+    CAPTURE(row.construction);
+    store.writeInteger("TopBar", "Enabled", row.enabled);
+    store.writeInteger("TopBar", "HideWithView", row.hide_with_view);
+    store.writeInteger("TopBar", "Hierarchical", row.construction);
+    fake::Ide ide;
+    WindowFixture windows;
+    {
+      const Session session(ide);
+      CHECK((IsWindowVisible(ownBar()) != FALSE) == (row.enabled != 0));
+      DestroyWindow(windows.create(ideapi::kProjectClass, "", WS_CHILD, windows.client));
+      int rebuilds = 0;
+      MSG message;
+      while (PeekMessageA(&message, ownBar(), WM_COMMAND, WM_COMMAND, PM_REMOVE)) {
+        rebuilds += message.wParam == 103;
+      }
+      CHECK(rebuilds == row.rebuilds);
+    }
+    // The session wrote its settings back.
+    CHECK(store.readInteger("TopBar", "Hierarchical", 9) == row.construction);
+  }
+  store.writeInteger("TopBar", "Enabled", 1);
+  store.writeInteger("TopBar", "HideWithView", 0);
+  store.writeInteger("TopBar", "Hierarchical", 0);
 }

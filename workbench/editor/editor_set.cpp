@@ -111,7 +111,7 @@ EditorChild* EditorSet::open(const std::string& path) {
 }
 
 EditorChild* EditorSet::openOrStart(const std::string& path) {
-  const bool starts = find(path) == nullptr && !store_.stamp(path).exists &&
+  const bool starts = mayNameFile(path) && find(path) == nullptr && !store_.stamp(path).exists &&
                       store_.stamp(std::string(folderOf(path))).exists;
   if (!starts) {
     return open(path);

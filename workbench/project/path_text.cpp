@@ -1,5 +1,7 @@
 #include "workbench/project/path_text.h"
 
+#include <algorithm>
+
 namespace workbench {
 namespace {
 
@@ -67,6 +69,11 @@ std::string_view extensionOf(std::string_view path) {
 bool isAbsolutePath(std::string_view path) {
   return (path.size() >= 3 && path[1] == ':' && isSeparator(path[2])) ||
          (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1]));
+}
+
+bool mayNameFile(std::string_view path) {
+  const std::string_view after_drive = path.substr(std::min<std::size_t>(path.size(), 2));
+  return !fileName(path).empty() && after_drive.find_first_of(":*?\"<>|") == after_drive.npos;
 }
 
 }  // namespace workbench

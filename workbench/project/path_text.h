@@ -18,5 +18,8 @@ std::string_view folderOf(std::string_view path);
 // From the last "." of the file name on, or empty.
 std::string_view extensionOf(std::string_view path);
 bool isAbsolutePath(std::string_view path);
+// Whether a file could have that name: no ":" after the drive's, no wildcard, quote
+// or redirection.
+bool mayNameFile(std::string_view path);
 
 }  // namespace workbench

@@ -1,0 +1,227 @@
+// The real bar window and the settings objects, on a registry root of their own.
+#include "addon/topbar/top_bar.h"
+
+#include <string>
+
+#include "addon/completion/completion_settings.h"
+#include "addon/foundation/settings_store.h"
+#include "addon/navigation/editor_navigation.h"
+#include "addon/navigation/quick_find.h"
+#include "addon/topbar/bar_window.h"
+#include "doctest.h"
+
+namespace {
+
+constexpr char kRoot[] = "SOFTWARE\\KestoShellTests";
+constexpr const char* kSections[] = {"TopBar", "Menus", "QuickFind", "Completion"};
+
+class TestSettings {
+ public:
+  TestSettings() { kesto::settings().setRoot(kRoot); }
+  ~TestSettings() { clear(); }
+  TestSettings(const TestSettings&) = delete;
+  TestSettings& operator=(const TestSettings&) = delete;
+  void clear() {
+    for (const char* section : kSections) {
+      RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\" + section).c_str());
+    }
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, kRoot);
+  }
+};
+
+// A bar of the given look and margins with a menu of that many entries.
+class Bar {
+ public:
+  Bar(bool new_shell, int left, int right, int entries = 0) {
+    kesto::settings().writeInteger("TopBar", "LeftMargin", left);
+    kesto::settings().writeInteger("TopBar", "RightMargin", right);
+    kesto::registerBarClass(GetModuleHandleA(nullptr));
+    window = kesto::createBarWindow(GetModuleHandleA(nullptr), new_shell);
+    REQUIRE(window != nullptr);
+    kesto::topBar = new kesto::TopBar(new_shell, window);
+    setEntries(entries);
+    ShowWindow(window, SW_SHOWNA);
+  }
+  ~Bar() {
+    delete kesto::topBar;
+    kesto::topBar = nullptr;
+    DestroyWindow(window);
+    kesto::unregisterBarClass(GetModuleHandleA(nullptr));
+  }
+  Bar(const Bar&) = delete;
+  Bar& operator=(const Bar&) = delete;
+
+  void setEntries(int count) {
+    const HMENU menu = GetMenu(window);
+    while (GetMenuItemCount(menu) > 0) {
+      DeleteMenu(menu, 0, MF_BYPOSITION);
+    }
+    for (int i = 0; i < count; ++i) {
+      AppendMenuA(menu, MF_STRING, 20001U + static_cast<UINT>(i), "an entry");
+    }
+    DrawMenuBar(window);
+  }
+  RECT frame() const {
+    RECT rect = {};
+    GetWindowRect(window, &rect);
+    return rect;
+  }
+  int height() const { return frame().bottom - frame().top; }
+  int clientHeight() const {
+    RECT rect = {};
+    GetClientRect(window, &rect);
+    return rect.bottom;
+  }
+  bool showsLastEntry() const {
+    const HMENU menu = GetMenu(window);
+    RECT entry = {};
+    const UINT last = static_cast<UINT>(GetMenuItemCount(menu)) - 1;
+    return GetMenuItemRect(window, menu, last, &entry) != FALSE && entry.bottom <= frame().bottom;
+  }
+
+  HWND window = nullptr;
+};
+
+int screenWidth() {
+  return GetSystemMetrics(SM_CXSCREEN);
+}
+
+int oneRow(bool new_shell) {
+  return GetSystemMetrics(SM_CYMENU) + 1 + (new_shell ? 0 : GetSystemMetrics(SM_CYCAPTION));
+}
+
+}  // namespace
+
+TEST_CASE("the bar shows all rows of its menu while it is expanded, and else the first") {
+  TestSettings root;
+  for (const bool new_shell : {true, false}) {
+    CAPTURE(new_shell);
+    Bar bar(new_shell, 100, screenWidth() - 400, 30);
+    HWND above = CreateWindowExA(WS_EX_TOPMOST, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 300, 50, 50,
+                                 nullptr, nullptr, nullptr, nullptr);
+    SetWindowPos(above, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    const HWND below = GetWindow(bar.window, GW_HWNDNEXT);
+    kesto::topBar->collapse();  // not expanded: stays as it was created
+    CHECK(bar.frame().right - bar.frame().left == screenWidth() + 2);
+
+    SendMessageA(bar.window, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(bar.window)), 0);
+    const int expanded = bar.height();
+    CHECK(bar.frame().left == 100);
+    CHECK(bar.frame().right == 400);
+    CHECK(bar.frame().top == (new_shell ? -2 : -2 - GetSystemMetrics(SM_CYMENU)));
+    CHECK(expanded > oneRow(new_shell) + 2 * GetSystemMetrics(SM_CYMENU));
+    CHECK(bar.clientHeight() == 0);
+    CHECK(bar.showsLastEntry());
+
+    SendMessageA(bar.window, WM_COMMAND, 20001, 0);
+    CHECK(bar.height() == oneRow(new_shell));
+    CHECK(!bar.showsLastEntry());
+    CHECK(GetWindow(above, GW_HWNDNEXT) == bar.window);
+    CHECK(GetWindow(bar.window, GW_HWNDNEXT) == below);
+
+    // Measured once, until told to forget.
+    bar.setEntries(2);
+    kesto::topBar->expand();
+    CHECK(bar.height() == expanded);
+    SendMessageA(bar.window, WM_COMMAND, 111, 0);
+    CHECK(bar.height() == expanded);
+    SendMessageA(bar.window, WM_ACTIVATE, WA_INACTIVE, 0);
+    CHECK(bar.height() == oneRow(new_shell));
+    kesto::topBar->forgetExpandedHeight();
+    kesto::topBar->expand();
+    CHECK(bar.height() < expanded);
+    CHECK(bar.showsLastEntry());
+    DestroyWindow(above);
+  }
+}
+
+TEST_CASE("the bar takes any margins") {
+  TestSettings root;
+  const struct {
+    int left;
+    int right;
+    int width;
+  } rows[] = {{0, 0, screenWidth()},
+              {-30, -10, screenWidth() + 40},
+              {screenWidth(), 0, 0},
+              {screenWidth(), screenWidth(), 0}};
+  for (const auto& row : rows) {
+    CAPTURE(row.left);
+    CAPTURE(row.right);
+    Bar bar(true, row.left, row.right, 3);
+    kesto::topBar->expand();
+    CHECK(bar.height() <= GetSystemMetrics(SM_CYSCREEN) - 80 + GetSystemMetrics(SM_CYMENU));
+    kesto::topBar->collapse();
+    CHECK(bar.frame().left == row.left);
+    CHECK(bar.frame().right - bar.frame().left == row.width);
+    CHECK(bar.height() == oneRow(true));
+  }
+}
+
+TEST_CASE("settings go back under their names, with the values that were read") {
+  TestSettings root;
+  const struct {
+    const char* section;
+    const char* name;
+    const char* text;
+  } values[] = {
+      {"TopBar", "Enabled", "0"},
+      {"TopBar", "HideWithBCW", "0"},
+      {"TopBar", "HideWithView", "1"},
+      {"TopBar", "AlwaysOnTop", "1"},
+      {"TopBar", "EditOtherView", "1"},
+      {"TopBar", "LeftMargin", "-2049"},
+      {"TopBar", "RightMargin", "4711"},
+      {"TopBar", "MenuSize", "7"},
+      {"TopBar", "Hierarchical", "2"},
+      {"Menus", "Enabled", "0"},
+      {"Menus", "Size", "11"},
+      {"Menus", "Sorted", "0"},
+      {"QuickFind", "FunctionMask", "*.c"},
+      {"QuickFind", "IncludeMask", ""},
+      {"QuickFind", "TxtFunction", "F1"},
+      {"QuickFind", "TxtMethod", "F2"},
+      {"QuickFind", "TxtClass", "F3"},
+      {"QuickFind", "TxtCross", "F4"},
+      {"QuickFind", "Recurse", "0"},
+      {"QuickFind", "LeftSide", "0"},
+      {"QuickFind", "KeyFunction", "112"},
+      {"QuickFind", "KeyMethod", "7113"},
+      {"QuickFind", "KeyClass", "114"},
+      {"QuickFind", "KeyCross", "115"},
+      {"Completion", "Enabled", "0"},
+      {"Completion", "KeyCode", "4032"},
+      {"Completion", "TextCode", "Ctrl+Space"},
+  };
+  kesto::SettingsStore& store = kesto::settings();
+  for (const auto& value : values) {
+    store.writeString(value.section, value.name, value.text);
+  }
+  {
+    const kesto::TopBar bar(true, nullptr);
+    const kesto::EditorNavigation navigation(nullptr, true);
+    const kesto::QuickFind quick_find(nullptr);
+    const kesto::CompletionSettings completion;
+    CHECK(!bar.enabled());
+    CHECK(bar.construction() == kesto::BarConstruction::kNoMenu);
+    CHECK(!navigation.enabled());
+    CHECK(quick_find.key(kesto::Search::kMethod) == 7113);
+    CHECK(completion.keyCode() == 4032);
+    root.clear();
+  }
+  for (const auto& value : values) {
+    CAPTURE(value.section);
+    CAPTURE(value.name);
+    char text[80] = "missing";
+    CHECK(store.readString(value.section, value.name, text, sizeof text, nullptr));
+    CHECK(std::string(text) == value.text);
+  }
+  // The margins' defaults are those of the look.
+  for (const bool new_shell : {true, false}) {
+    root.clear();
+    { const kesto::TopBar by_default(new_shell, nullptr); }
+    CHECK(store.readInteger("TopBar", "LeftMargin", 99) == (new_shell ? -1 : 17));
+    CHECK(store.readInteger("TopBar", "RightMargin", 99) == (new_shell ? 58 : 37));
+    CHECK(store.readInteger("TopBar", "MenuSize", 99) == 50);
+  }
+}
