@@ -74,11 +74,12 @@ class ToolFake final : public Client<IToolImplementor> {
 
 }  // namespace
 
-TEST_CASE("every service answers for itself, and the message window is not there") {
+TEST_CASE("every service answers for itself, and an unknown one is not there") {
   Program program;
-  for (const GUID& id : {ideapi::kEditorService, ideapi::kStatusLineService,
-                         ideapi::kOptionsService, ideapi::kMakeService, ideapi::kProjectService,
-                         ideapi::kProjectSaveService, ideapi::kToolService, ideapi::kUnknown}) {
+  for (const GUID& id :
+       {ideapi::kEditorService, ideapi::kMessageService, ideapi::kStatusLineService,
+        ideapi::kOptionsService, ideapi::kMakeService, ideapi::kProjectService,
+        ideapi::kProjectSaveService, ideapi::kToolService, ideapi::kUnknown}) {
     void* first = nullptr;
     void* second = nullptr;
     CHECK(program.ide()->QueryInterface(id, &first) == 0);
@@ -88,9 +89,9 @@ TEST_CASE("every service answers for itself, and the message window is not there
     CHECK(static_cast<IUnknown*>(first)->Release() == 1);
     CHECK(static_cast<IUnknown*>(second)->Release() == 0);
   }
-  void* message = &program;
-  CHECK(program.ide()->QueryInterface(ideapi::kMessageService, &message) == E_NOINTERFACE);
-  CHECK(message == nullptr);
+  void* unknown = &program;
+  CHECK(program.ide()->QueryInterface(ideapi::serviceId(0x707240FF), &unknown) == E_NOINTERFACE);
+  CHECK(unknown == nullptr);
 }
 
 TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {

@@ -8,7 +8,14 @@
 namespace workbench {
 
 Application::Application()
-    : editors_(store_, settings_), root_({*this, editors_, project_, live_}), frame_(*this) {}
+    : editors_(store_, settings_),
+      root_({*this, editors_, project_, messages_, live_}),
+      frame_(*this),
+      message_window_(messages_, [this](const Message& message) { showPlace(message); }) {
+  messages_.setListener([this](const MessageGroupInfo& group, const Message* added) {
+    messagesChanged(group, added);
+  });
+}
 
 Application::~Application() = default;
 
@@ -23,7 +30,8 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
     loadSettings(&settings_);
   }
   if (!TextWindow::registerClass(instance) || !EditorChild::registerClass(instance) ||
-      !frame_.create(instance)) {
+      !MessageWindow::registerClasses(instance) || !frame_.create(instance) ||
+      !message_window_.attach(frame_.mdiClient(), instance)) {
     return false;
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
@@ -70,115 +78,6 @@ void Application::showError(const std::string& text) {
   MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, MB_OK | MB_ICONERROR);
 }
 
-bool Application::openPath(const std::string& path) {
-  const std::string full = resolve(path);
-  const DWORD attributes = GetFileAttributesA(full.c_str());
-  const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-  if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    return openFolder(full);
-  }
-  // A project's file stands for its folder and need not be there.
-  if (foldCase(extensionOf(full)) == ".ide") {
-    return openFolder(std::string(folderOf(full)));
-  }
-  if (!exists) {
-    showError(describeFault(FileFault::kMissing, full));
-    return false;
-  }
-  return (hasProject() || openFolder(std::string(folderOf(full)))) && editFile(full, 0) != nullptr;
-}
-
-bool Application::openFolder(const std::string& folder) {
-  std::string path = folder;
-  if (path.size() > 3 && (path.back() == '\\' || path.back() == '/')) {
-    path.pop_back();
-  }
-  HCURSOR old_cursor = SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
-  FolderContent content;
-  const bool readable = walkFolder(lister_, path, WalkLimits(), &content);
-  SetCursor(old_cursor);
-  if (!readable) {
-    showError("The folder " + path + " cannot be read.");
-    return false;
-  }
-  if (!closeProject()) {
-    return false;
-  }
-  project_.load(content);
-  showTitle();
-  events_.emit(Event("project").text("action", "opened").text("file", project_.file()));
-  root_.project().announceOpened();
-  return true;
-}
-
-bool Application::closeProject() {
-  if (!editors_.closeAll()) {
-    return false;
-  }
-  unloadProject();
-  return true;
-}
-
-void Application::unloadProject() {
-  if (!project_.loaded()) {
-    return;
-  }
-  const std::string file = project_.file();
-  root_.projectSave().clients().each([](IProjectSaveClient* client) { client->ProjectSaving(); });
-  root_.project().announceClosed();
-  project_.close();
-  showTitle();
-  events_.emit(Event("project").text("action", "closed").text("file", file));
-}
-
-void Application::showTitle() {
-  std::string title = kFrameTitle;
-  if (project_.loaded()) {
-    title += " - ";
-    title += fileName(project_.folder());
-  }
-  if (frame_.window() != nullptr) {
-    frame_.setTitle(title);
-  }
-}
-
-void Application::showFirstSource() {
-  for (const NodeInfo* node : project_.nodes()) {
-    const std::string type = foldCase(node->type);
-    if (type == ".cpp" || type == ".cc" || type == ".cxx" || type == ".c" || type == ".h" ||
-        type == ".hpp") {
-      editFile(node->name, 0);
-      return;
-    }
-  }
-}
-
-std::vector<ProjectEntry> Application::projectEntries() {
-  std::vector<ProjectEntry> result;
-  for (const NodeInfo* node : project_.nodes()) {
-    result.push_back({project_.depth(node->id), node->name, node->type});
-  }
-  return result;
-}
-
-bool Application::readOption(const std::string& name, std::string* bytes) {
-  const std::string* found = project_.option(name);
-  if (found != nullptr) {
-    *bytes = *found;
-  }
-  return found != nullptr;
-}
-
-bool Application::writeOption(const std::string& name, const std::string& bytes) {
-  return project_.commitOption(project_.prepareOption(name, bytes));
-}
-
-void Application::make(int result) {
-  ClientList<IMakeClient>& clients = root_.make().clients();
-  clients.each([](IMakeClient* client) { client->MakeStarted(); });
-  clients.each([result](IMakeClient* client) { client->MakeEnded(result); });
-}
-
 std::string Application::projectDirectory() {
   if (project_.loaded()) {
     return project_.folder();
@@ -208,6 +107,36 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
 
 EditorWindow* Application::editOrStart(const std::string& path) {
   return announce(editors_.openOrStart(resolve(path)));
+}
+
+void Application::messagesChanged(const MessageGroupInfo& group, const Message* added) {
+  if (added != nullptr) {
+    events_.emit(Event("message")
+                     .text("group", group.name)
+                     .text("text", added->text)
+                     .text("file", added->file)
+                     .number("line", added->line)
+                     .number("column", added->column)
+                     .number("kind", added->kind));
+  }
+  message_window_.storeChanged();
+}
+
+bool Application::openMessage(int position) {
+  const std::vector<Message>* shown = message_window_.shownMessages();
+  if (shown == nullptr || position < 0 || static_cast<std::size_t>(position) >= shown->size()) {
+    return false;
+  }
+  const Message message = (*shown)[static_cast<std::size_t>(position)];
+  return showPlace(message);
+}
+
+bool Application::showPlace(const Message& message) {
+  EditorWindow* editor = message.file.empty() ? nullptr : editFile(message.file, message.line);
+  if (editor != nullptr && message.line > 0 && message.column > 1) {
+    editor->setCaret(message.line, message.column);
+  }
+  return editor != nullptr;
 }
 
 EditorChild* Application::announce(EditorChild* child) {

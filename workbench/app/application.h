@@ -14,6 +14,7 @@
 #include "workbench/editor/editor_set.h"
 #include "workbench/editor/editor_settings.h"
 #include "workbench/events/event_log.h"
+#include "workbench/messages/message_window.h"
 #include "workbench/project/disk_lister_win.h"
 #include "workbench/project/project.h"
 #include "workbench/services/ide_root.h"
@@ -47,10 +48,19 @@ class Application final : public Workbench, public FrameHandler {
   bool hasProject() override { return project_.loaded(); }
   std::string projectDirectory() override;
   std::string resolve(const std::string& path) override;
+  unsigned int findNode(const std::string& name) override;
+  unsigned int addNode(unsigned int parent, const std::string& name,
+                       const std::string& type) override;
+  bool renameNode(unsigned int node, const std::string& name) override;
+  bool removeNode(unsigned int node) override;
+  bool describeNode(unsigned int node, const std::string& description) override;
+  bool setNodePath(unsigned int node, int kind, const std::string& folders) override;
   std::vector<ProjectEntry> projectEntries() override;
   bool readOption(const std::string& name, std::string* bytes) override;
   bool writeOption(const std::string& name, const std::string& bytes) override;
   void make(int result) override;
+  const MessageStore& messages() override { return messages_; }
+  bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
   EditorWindow* editOrStart(const std::string& path) override;
   EditorWindow* findEditor(const std::string& path) override;
@@ -74,6 +84,8 @@ class Application final : public Workbench, public FrameHandler {
   void showTitle();
   void showTools();
   void showEditorState();
+  void messagesChanged(const MessageGroupInfo& group, const Message* added);
+  bool showPlace(const Message& message);
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
@@ -93,9 +105,11 @@ class Application final : public Workbench, public FrameHandler {
   bool keep_settings_ = false;
   EditorSet editors_;
   Project project_;
+  MessageStore messages_;
   LiveObjects live_;
   IdeRoot root_;
   Frame frame_;
+  MessageWindow message_window_;
   FindRequest find_;
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;

@@ -23,6 +23,10 @@
 #define CM_EDIT_FIND_PREVIOUS 13160
 #define CM_EDIT_GO_TO_LINE 13161
 
+/* The IDE is known by these two as well. */
+#define CM_WINDOW_PROJECT 13251
+#define CM_WINDOW_MESSAGES 13252
+
 #define CM_PROJECT_OPEN_FILE 13301
 #define CM_PROJECT_CLOSE 13302
 

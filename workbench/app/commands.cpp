@@ -216,6 +216,9 @@ bool Application::projectCommand(int id) {
     case CM_OPTIONS_ENVIRONMENT:
       editOptions();
       return true;
+    case ideapi::kCommandShowMessages:
+      message_window_.show();
+      return true;
     case CM_HELP_ABOUT:
       showAbout();
       return true;

@@ -12,12 +12,14 @@ namespace workbench {
 
 class EventLog;
 class EditorWindow;
+class MessageStore;
 
 // A node of the project's tree, for those who list it.
 struct ProjectEntry {
   int depth = 0;  // 0 at the top
   std::string name;
   std::string type;
+  std::string description;
 };
 
 class Workbench {
@@ -41,6 +43,17 @@ class Workbench {
   // A full path from one that may be relative to projectDirectory().
   virtual std::string resolve(const std::string& path) = 0;
 
+  // The node of that name, or of the path that resolve makes of it; 0 for none.
+  virtual unsigned int findNode(const std::string& name) = 0;
+  // Edits of the tree, told to the clients of the project. A parent of 0 is the
+  // top level. add returns 0 and the others false when it cannot be done.
+  virtual unsigned int addNode(unsigned int parent, const std::string& name,
+                               const std::string& type) = 0;
+  virtual bool renameNode(unsigned int node, const std::string& name) = 0;
+  virtual bool removeNode(unsigned int node) = 0;
+  virtual bool describeNode(unsigned int node, const std::string& description) = 0;
+  // The node's own option of a NodeOptionKind; an empty text takes it away.
+  virtual bool setNodePath(unsigned int node, int kind, const std::string& folders) = 0;
   // The project's nodes in tree order.
   virtual std::vector<ProjectEntry> projectEntries() = 0;
   // The bytes that the project keeps under a name. False when there are none, or
@@ -49,6 +62,13 @@ class Workbench {
   virtual bool writeOption(const std::string& name, const std::string& bytes) = 0;
   // Tells the make clients that a make started and ended with this MakeResult.
   virtual void make(int result) = 0;
+
+  // The groups of the message window and what is in them.
+  virtual const MessageStore& messages() = 0;
+  // Shows the place of the message at this position (from 0) of the group that the
+  // message window shows. False without such a message, or when its file cannot
+  // be shown.
+  virtual bool openMessage(int position) = 0;
 
   // Brings an editor of the file forward or opens one; a line above 0 puts the
   // caret there. Returns null when the file cannot be shown (the reason has been

@@ -27,6 +27,19 @@ void append(std::string* list, const std::string& path) {
 
 }  // namespace
 
+bool isContainer(const NodeInfo& node) {
+  const std::string type = foldCase(node.type);
+  return type.empty() || type[0] != '.' || type == ".exe" || type == ".dll" || type == ".lib";
+}
+
+std::string Project::fullName(const std::string& name, const std::string& type) const {
+  const bool path = (!type.empty() && type[0] == '.') || type == kFolderType;
+  if (!path || name.empty() || name[0] == '#' || isAbsolutePath(name)) {
+    return name;
+  }
+  return joinPath(folder_, name);
+}
+
 void Project::load(const FolderContent& content) {
   close();
   folder_ = content.path;
@@ -169,6 +182,37 @@ bool Project::remove(unsigned int id) {
     doomed.pop_back();
     doomed.insert(doomed.end(), found->second.children.begin(), found->second.children.end());
     nodes_.erase(found);
+  }
+  return true;
+}
+
+bool Project::rename(unsigned int id, const std::string& name) {
+  const auto found = nodes_.find(id);
+  if (found == nodes_.end() || name.empty()) {
+    return false;
+  }
+  found->second.name = name;
+  return true;
+}
+
+bool Project::describe(unsigned int id, const std::string& description) {
+  const auto found = nodes_.find(id);
+  if (found == nodes_.end()) {
+    return false;
+  }
+  found->second.description = description;
+  return true;
+}
+
+bool Project::setNodeOption(unsigned int id, int kind, const std::string& text) {
+  const auto found = nodes_.find(id);
+  if (found == nodes_.end()) {
+    return false;
+  }
+  if (text.empty()) {
+    found->second.options.erase(kind);
+  } else {
+    found->second.options[kind] = text;
   }
   return true;
 }

@@ -25,6 +25,9 @@ struct NodeInfo {
   std::map<int, std::string> options;
 };
 
+// Whether other nodes may stand below it: a program, a library, or a word.
+bool isContainer(const NodeInfo& node);
+
 class Project {
  public:
   // Fills the project from a walked folder, closing what was open.
@@ -34,6 +37,10 @@ class Project {
   // FOLDER\NAME.ide, empty without a project; no such file need exist.
   const std::string& file() const { return file_; }
   const std::string& folder() const { return folder_; }
+  // What a node of that type is called: the full path for a file or folder, which
+  // may be given from the project's folder on; any other name, and one that starts
+  // with "#", as it stands.
+  std::string fullName(const std::string& name, const std::string& type) const;
 
   // 0 stands for "none" throughout; a node that is gone is answered like 0.
   const NodeInfo* node(unsigned int id) const;
@@ -44,6 +51,11 @@ class Project {
   unsigned int find(const std::string& name) const;
   unsigned int add(unsigned int parent, const std::string& name, const std::string& type);
   bool remove(unsigned int id);
+  // False for a node that is gone; for an empty name too.
+  bool rename(unsigned int id, const std::string& name);
+  bool describe(unsigned int id, const std::string& description);
+  // An empty text takes the node's own option away.
+  bool setNodeOption(unsigned int id, int kind, const std::string& text);
   // Nodes in tree order.
   std::vector<const NodeInfo*> nodes() const;
   int depth(unsigned int id) const;

@@ -119,30 +119,15 @@ StepResult dumpText(StepTry& step) {
   return StepResult::kDone;
 }
 
-StepResult dumpProject(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  if (!workbench.hasProject()) {
-    return step.fail("no project is open");
-  }
-  std::vector<Event> items;
-  for (const ProjectEntry& entry : workbench.projectEntries()) {
-    items.push_back(
-        Event("").number("depth", entry.depth).text("name", entry.name).text("type", entry.type));
-  }
-  step.stage.log.emit(
-      Event("project-tree").text("directory", workbench.projectDirectory()).list("items", items));
-  return StepResult::kDone;
-}
-
 }  // namespace
 
 StepResult stepDump(StepTry& step) {
   const struct {
     const char* name;
     Step dump;
-  } kinds[] = {{"menu", dumpMenu},       {"bar", dumpBar},       {"editors", dumpEditors},
-               {"windows", dumpWindows}, {"dialog", dumpDialog}, {"text", dumpText},
-               {"project", dumpProject}};
+  } kinds[] = {{"menu", dumpMenu},       {"bar", dumpBar},          {"editors", dumpEditors},
+               {"windows", dumpWindows}, {"dialog", dumpDialog},    {"text", dumpText},
+               {"project", dumpProject}, {"messages", dumpMessages}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
       return kind.dump(step);

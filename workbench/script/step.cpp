@@ -23,6 +23,8 @@ Step stepOf(Verb verb) {
   switch (verb) {
     case Verb::kActivate:
       return stepActivate;
+    case Verb::kAddNode:
+      return stepAddNode;
     case Verb::kAnswer:
       return stepAnswer;
     case Verb::kCaret:
@@ -43,6 +45,8 @@ Step stepOf(Verb verb) {
       return stepCommand;
     case Verb::kDeactivate:
       return stepDeactivate;
+    case Verb::kDescribeNode:
+      return stepDescribeNode;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
@@ -63,10 +67,16 @@ Step stepOf(Verb verb) {
       return stepMake;
     case Verb::kMark:
       return stepMark;
+    case Verb::kMessageOpen:
+      return stepMessageOpen;
     case Verb::kMinimize:
       return stepMinimize;
+    case Verb::kNodePath:
+      return stepNodePath;
     case Verb::kOpen:
       return stepOpen;
+    case Verb::kOption:
+      return stepOption;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:
@@ -75,6 +85,10 @@ Step stepOf(Verb verb) {
       return stepRegistryDelete;
     case Verb::kRegistrySet:
       return stepRegistrySet;
+    case Verb::kRemoveNode:
+      return stepRemoveNode;
+    case Verb::kRenameNode:
+      return stepRenameNode;
     case Verb::kRestore:
       return stepRestore;
     case Verb::kRightClickTitle:

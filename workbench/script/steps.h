@@ -19,6 +19,17 @@ StepResult stepRestore(StepTry& step);
 StepResult stepActivate(StepTry& step);
 StepResult stepDeactivate(StepTry& step);
 
+// project_steps.cpp: the project's tree and options, the message window
+StepResult stepOption(StepTry& step);
+StepResult stepAddNode(StepTry& step);
+StepResult stepRenameNode(StepTry& step);
+StepResult stepRemoveNode(StepTry& step);
+StepResult stepDescribeNode(StepTry& step);
+StepResult stepNodePath(StepTry& step);
+StepResult stepMessageOpen(StepTry& step);
+StepResult dumpProject(StepTry& step);
+StepResult dumpMessages(StepTry& step);
+
 // input_steps.cpp: real keys and clicks
 StepResult stepKey(StepTry& step);
 StepResult stepClickTitle(StepTry& step);

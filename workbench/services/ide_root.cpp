@@ -11,6 +11,7 @@ IdeRoot::IdeRoot(const ServiceContext& context)
     : Service(context.live, "ide", ideapi::kUnknown),
       context_(context),
       editor_(context),
+      message_(context),
       status_(context),
       options_(context),
       make_(context),
@@ -19,17 +20,25 @@ IdeRoot::IdeRoot(const ServiceContext& context)
       project_save_(context) {}
 
 HRESULT STDMETHODCALLTYPE IdeRoot::QueryInterface(REFIID id, void** result) {
-  IUnknown* const services[] = {this,   &editor_,  &status_, &options_,
-                                &make_, &project_, &tools_,  &project_save_};
-  const GUID* const ids[] = {&ideapi::kUnknown,           &ideapi::kEditorService,
-                             &ideapi::kStatusLineService, &ideapi::kOptionsService,
-                             &ideapi::kMakeService,       &ideapi::kProjectService,
-                             &ideapi::kToolService,       &ideapi::kProjectSaveService};
+  const struct {
+    const GUID& id;
+    IUnknown* service;
+  } services[] = {
+      {ideapi::kUnknown, this},
+      {ideapi::kEditorService, &editor_},
+      {ideapi::kMessageService, &message_},
+      {ideapi::kStatusLineService, &status_},
+      {ideapi::kOptionsService, &options_},
+      {ideapi::kMakeService, &make_},
+      {ideapi::kProjectService, &project_},
+      {ideapi::kToolService, &tools_},
+      {ideapi::kProjectSaveService, &project_save_},
+  };
   *result = nullptr;
-  for (int i = 0; i < 8; ++i) {
-    if (IsEqualGUID(id, *ids[i])) {
-      services[i]->AddRef();
-      *result = services[i];
+  for (const auto& each : services) {
+    if (IsEqualGUID(id, each.id)) {
+      each.service->AddRef();
+      *result = each.service;
       return S_OK;
     }
   }

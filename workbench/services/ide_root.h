@@ -4,6 +4,7 @@
 
 #include "workbench/services/counted.h"
 #include "workbench/services/editor_service.h"
+#include "workbench/services/message_service.h"
 #include "workbench/services/project_service.h"
 #include "workbench/services/service_context.h"
 #include "workbench/services/small_services.h"
@@ -32,6 +33,7 @@ class IdeRoot final : public Service<IIde> {
  private:
   ServiceContext context_;
   EditorService editor_;
+  MessageService message_;
   StatusLineService status_;
   OptionsService options_;
   MakeService make_;

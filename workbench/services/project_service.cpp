@@ -93,11 +93,48 @@ IIdeString* STDMETHODCALLTYPE ProjectService::GetNodeDescription(ProjectNode nod
 
 ProjectNode STDMETHODCALLTYPE ProjectService::AddNode(ProjectNode parent, IIdeString* name,
                                                       IIdeString* type) {
-  const unsigned int node = context_.project.add(parent, textOf(name), textOf(type));
+  return add(parent, textOf(name), textOf(type));
+}
+
+ProjectNode ProjectService::add(ProjectNode parent, const std::string& name,
+                                const std::string& type) {
+  const unsigned int node = name.empty() ? 0 : context_.project.add(parent, name, type);
   if (node != 0) {
     clients_.each([node](IProjectClient* client) { client->NodeAdded(node); });
   }
   return node;
+}
+
+bool ProjectService::rename(ProjectNode node, const std::string& name) {
+  const bool done = context_.project.rename(node, name);
+  if (done) {
+    tellChanged(node);
+  }
+  return done;
+}
+
+bool ProjectService::describe(ProjectNode node, const std::string& description) {
+  const bool done = context_.project.describe(node, description);
+  if (done) {
+    tellChanged(node);
+  }
+  return done;
+}
+
+void ProjectService::tellChanged(ProjectNode node) {
+  clients_.each([node](IProjectClient* client) { client->NodeChanged(node); });
+  const NodeInfo* info = context_.project.node(node);
+  if (info != nullptr && isContainer(*info)) {
+    clients_.each([node](IProjectClient* client) { client->TargetChanged(node); });
+  }
+}
+
+bool ProjectService::setNodeOption(ProjectNode node, int kind, const std::string& text) {
+  const bool done = context_.project.setNodeOption(node, kind, text);
+  if (done) {
+    clients_.each([node](IProjectClient* client) { client->NodeOptionsChanged(node); });
+  }
+  return done;
 }
 
 int STDMETHODCALLTYPE ProjectService::RemoveNode(ProjectNode node) {

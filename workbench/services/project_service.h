@@ -35,12 +35,19 @@ class ProjectService final : public Service<IProjectService> {
   OptionHandle STDMETHODCALLTYPE SetOption(IIdeString* name, const void* data, int size) override;
   void STDMETHODCALLTYPE CommitOption(OptionHandle option) override;
 
+  // Edits from within the program; clients hear of them as of those from outside.
+  ProjectNode add(ProjectNode parent, const std::string& name, const std::string& type);
+  bool rename(ProjectNode node, const std::string& name);
+  bool describe(ProjectNode node, const std::string& description);
+  bool setNodeOption(ProjectNode node, int kind, const std::string& text);
+
   // The project was loaded, or is about to be closed: tell the clients.
   void announceOpened();
   void announceClosed();
   ClientList<IProjectClient>& clients() { return clients_; }
 
  private:
+  void tellChanged(ProjectNode node);
   void tellOpened(IProjectClient* client);
 
   ServiceContext context_;

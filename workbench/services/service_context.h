@@ -5,6 +5,7 @@ namespace workbench {
 
 class EditorSet;
 class LiveObjects;
+class MessageStore;
 class Project;
 class Workbench;
 
@@ -12,6 +13,7 @@ struct ServiceContext {
   Workbench& workbench;
   EditorSet& editors;
   Project& project;
+  MessageStore& messages;
   LiveObjects& live;
 };
 

@@ -1,0 +1,149 @@
+#include "workbench/messages/message_window.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ideapi/ide_identifiers.h"
+#include "workbench/app/handles.h"
+
+namespace workbench {
+namespace {
+
+constexpr UINT kCatchUp = WM_APP + 1;
+// Commands of the context menu; groups number from the last on.
+constexpr UINT kMenuOpen = 1;
+constexpr UINT kMenuClear = 2;
+constexpr UINT kMenuFirstGroup = 10;
+constexpr UINT kMostMenuGroups = 30;
+
+}  // namespace
+
+MessageWindow::MessageWindow(MessageStore& store, std::function<void(const Message&)> open)
+    : MdiPane(ideapi::kMessageClass, "Messages"),
+      store_(store),
+      open_(std::move(open)),
+      tabs_([this](int tab) { showGroup(static_cast<unsigned int>(tab) + 1); }),
+      viewer_(*this) {}
+
+bool MessageWindow::registerClasses(HINSTANCE instance) {
+  WNDCLASSA info = {};
+  info.lpfnWndProc = innerProc;
+  info.cbWndExtra = sizeof(LONG);
+  info.hInstance = instance;
+  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+  info.lpszClassName = ideapi::kOwlWindowClass;
+  return registerOnce(info) && NoteTab::registerClass(instance) &&
+         MessageViewer::registerClass(instance);
+}
+
+bool MessageWindow::createControls() {
+  inner_ =
+      CreateWindowExA(0, ideapi::kOwlWindowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
+                      0, 0, 0, 0, window(), nullptr, instance(), nullptr);
+  if (inner_ == nullptr) {
+    return false;
+  }
+  SetWindowLongA(inner_, 0, reinterpret_cast<LONG>(this));
+  if (!viewer_.create(inner_, instance()) || !tabs_.create(inner_, instance())) {
+    return false;
+  }
+  catchUp();
+  viewer_.refresh(true);
+  return true;
+}
+
+void MessageWindow::paneGone() {
+  inner_ = nullptr;
+  update_posted_ = false;
+}
+
+RECT MessageWindow::firstPlace(const RECT& client) const {
+  const LONG height = std::max(120L, client.bottom / 4);
+  return {0, std::max(0L, client.bottom - height), client.right, client.bottom};
+}
+
+void MessageWindow::layOut(int width, int height) {
+  MoveWindow(inner_, 0, 0, width, height, TRUE);
+  const int list_height = std::max(0, height - NoteTab::kHeight);
+  MoveWindow(viewer_.window(), 0, 0, width, list_height, TRUE);
+  MoveWindow(tabs_.window(), 0, list_height, width, height - list_height, TRUE);
+}
+
+LRESULT CALLBACK MessageWindow::innerProc(HWND window, UINT message, WPARAM w, LPARAM l) {
+  auto* self = reinterpret_cast<MessageWindow*>(GetWindowLongA(window, 0));
+  if (message == WM_MEASUREITEM) {
+    MessageViewer::measureRow(reinterpret_cast<MEASUREITEMSTRUCT*>(l));
+    return TRUE;
+  }
+  if (message == WM_DRAWITEM && self != nullptr) {
+    self->viewer_.drawRow(*reinterpret_cast<const DRAWITEMSTRUCT*>(l));
+    return TRUE;
+  }
+  return DefWindowProcA(window, message, w, l);
+}
+
+bool MessageWindow::paneMessage(UINT message, WPARAM, LPARAM, LRESULT* result) {
+  if (message != kCatchUp) {
+    return false;
+  }
+  update_posted_ = false;
+  catchUp();
+  viewer_.refresh(false);
+  *result = 0;
+  return true;
+}
+
+void MessageWindow::storeChanged() {
+  if (window() != nullptr && !update_posted_) {
+    update_posted_ = PostMessageA(window(), kCatchUp, 0, 0) != 0;
+  }
+}
+
+void MessageWindow::catchUp() {
+  std::vector<std::string> names;
+  for (const MessageGroupInfo& group : store_.groups()) {
+    names.push_back(group.name);
+  }
+  tabs_.setTabs(names, static_cast<int>(shown_) - 1);
+}
+
+void MessageWindow::showGroup(unsigned int group) {
+  if (store_.group(group) == nullptr) {
+    return;
+  }
+  shown_ = group;
+  catchUp();
+  viewer_.refresh(true);
+}
+
+const std::vector<Message>* MessageWindow::shownMessages() {
+  const MessageGroupInfo* group = store_.group(shown_);
+  return group != nullptr ? &group->messages : nullptr;
+}
+
+void MessageWindow::viewerMenu(POINT place) {
+  const OwnedMenu menu(CreatePopupMenu());
+  const bool open = viewer_.selectedRow() >= 0;
+  AppendMenuA(menu.get(), open ? MF_STRING : MF_GRAYED, kMenuOpen, "&Open\tEnter");
+  AppendMenuA(menu.get(), MF_STRING, kMenuClear, "C&lear");
+  AppendMenuA(menu.get(), MF_SEPARATOR, 0, nullptr);
+  for (UINT i = 0; i < store_.groups().size() && i < kMostMenuGroups; ++i) {
+    const UINT mark = i + 1 == shown_ ? MF_CHECKED : MF_UNCHECKED;
+    AppendMenuA(menu.get(), MF_STRING | mark, kMenuFirstGroup + i,
+                store_.groups()[i].menu_text.c_str());
+  }
+  const auto chosen = static_cast<UINT>(TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON,
+                                                       place.x, place.y, 0, window(), nullptr));
+  if (chosen == kMenuOpen) {
+    viewer_.openSelected();
+  } else if (chosen == kMenuClear) {
+    clearShown();
+  } else if (chosen >= kMenuFirstGroup) {
+    showGroup(chosen - kMenuFirstGroup + 1);
+  }
+}
+
+}  // namespace workbench

@@ -1,0 +1,50 @@
+// The message window ("BCW5Message"): the messages of one group, and a tab for
+// each. The store must outlive it. User-interface thread only.
+#pragma once
+
+#include <functional>
+
+#include "workbench/app/mdi_pane.h"
+#include "workbench/messages/message_viewer.h"
+#include "workbench/messages/note_tab.h"
+
+namespace workbench {
+
+class MessageWindow final : public MdiPane, public MessageViewerHost {
+ public:
+  // open: shows the place of a message that has one.
+  MessageWindow(MessageStore& store, std::function<void(const Message&)> open);
+
+  static bool registerClasses(HINSTANCE instance);
+  // A group has come or changed; the window catches up when the queue is empty.
+  void storeChanged();
+  void showGroup(unsigned int group);
+  unsigned int shownGroup() const { return shown_; }
+
+  const std::vector<Message>* shownMessages() override;
+  void openMessage(const Message& message) override { open_(message); }
+  void clearShown() override { store_.clear(shown_); }
+  void viewerMenu(POINT place) override;
+
+ protected:
+  bool createControls() override;
+  void layOut(int width, int height) override;
+  RECT firstPlace(const RECT& client) const override;
+  HWND focusControl() const override { return viewer_.window(); }
+  bool paneMessage(UINT message, WPARAM w, LPARAM l, LRESULT* result) override;
+  void paneGone() override;
+
+ private:
+  static LRESULT CALLBACK innerProc(HWND window, UINT message, WPARAM w, LPARAM l);
+  void catchUp();
+
+  MessageStore& store_;
+  std::function<void(const Message&)> open_;
+  NoteTab tabs_;
+  MessageViewer viewer_;
+  HWND inner_ = nullptr;  // between this window and its controls
+  unsigned int shown_ = MessageStore::kBuildGroup;
+  bool update_posted_ = false;
+};
+
+}  // namespace workbench
