@@ -1,6 +1,8 @@
 // The built DLL itself, loaded as an IDE loads it.
 #include <windows.h>
 
+#include <string>
+
 #include <cstring>
 
 #include "addon/foundation/settings_store.h"
@@ -52,10 +54,16 @@ void drain() {
   }
 }
 
+// The add-on's own root: the built DLL knows no other.
+constexpr char kRoot[] = "SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob";
+
 // The built DLL between its two calls.
 class Session {
  public:
   explicit Session(fake::Ide& ide) : module_(LoadLibraryA("Kestoaob.dll")) {
+    // A frame that is there already would be another IDE's.
+    kesto::settings().setRoot(kRoot);
+    kesto::settings().writeInteger("General", "Unic", 0);
     REQUIRE(module_ != nullptr);
     entry_ = reinterpret_cast<ideapi::AddonEntry>(
         reinterpret_cast<void*>(GetProcAddress(module_, ideapi::kAddonEntryName)));
@@ -68,6 +76,7 @@ class Session {
   ~Session() {
     entry_(0);
     CHECK(ownBar() == nullptr);
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\General").c_str());
     FreeLibrary(module_);
     CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
   }
@@ -218,9 +227,8 @@ TEST_CASE("the project view rebuilds the bar's menu only when the settings want 
     int construction;
     int rebuilds;  // one as the view comes, one as it goes
   } rows[] = {{1, 1, 0, 2}, {1, 1, 1, 2}, {1, 1, 2, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}};
-  // The add-on's own root: the built DLL knows no other.
   kesto::SettingsStore& store = kesto::settings();
-  store.setRoot("SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob");
+  store.setRoot(kRoot);
   for (const auto& row : rows) {
     CAPTURE(row.enabled);
     CAPTURE(row.hide_with_view);
