@@ -256,3 +256,27 @@ TEST_CASE("the project view rebuilds the bar's menu only when the settings want 
   store.writeInteger("TopBar", "HideWithView", 0);
   store.writeInteger("TopBar", "Hierarchical", 0);
 }
+
+TEST_CASE("another IDE gives way to the one that runs") {
+  const WindowFixture windows;
+  char command[] = "workbench.exe . --addon Kestoaob.dll";
+  STARTUPINFOA start = {};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process = {};
+  REQUIRE(CreateProcessA(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                         &process));
+  // The other one brings this process's frame forward, which takes answers.
+  const DWORD deadline = GetTickCount() + 20000;
+  DWORD waited = WAIT_TIMEOUT;
+  while (waited != WAIT_OBJECT_0 && GetTickCount() < deadline) {
+    waited = MsgWaitForMultipleObjects(1, &process.hProcess, FALSE, 1000, QS_ALLINPUT);
+    drain();
+  }
+  CHECK(waited == WAIT_OBJECT_0);
+  DWORD code = 9;
+  GetExitCodeProcess(process.hProcess, &code);
+  CHECK(code == 0);
+  TerminateProcess(process.hProcess, 1);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+}
