@@ -25,6 +25,15 @@ std::string_view directoryPart(std::string_view path) {
   return separator == std::string_view::npos ? path.substr(0, 0) : path.substr(0, separator);
 }
 
+String joinPath(std::string_view directory, std::string_view name) {
+  String path(directory);
+  if (!directory.empty() && directory.back() != '\\' && directory.back() != '/') {
+    path += "\\";
+  }
+  path += name;
+  return path;
+}
+
 std::string_view fileOfTitle(std::string_view title) {
   std::string_view file = title.substr(0, kTitleLimit);
   for (std::size_t i = file.size(); i-- > kDriveCharacters;) {

@@ -5,7 +5,14 @@
 #include <cstddef>
 #include <string_view>
 
+#include "addon/foundation/string.h"
+
 namespace kesto {
+
+// Characters of a path, as the system bounds them.
+inline constexpr std::size_t kPathLimit = 259;
+// Directories that a walk below one of them looks into.
+inline constexpr int kDirectoryLimit = 20000;
 
 // Characters of an editor's title that are looked at.
 inline constexpr std::size_t kTitleLimit = 178;
@@ -14,6 +21,9 @@ inline constexpr std::size_t kTitleLimit = 178;
 std::string_view fileNamePart(std::string_view path);
 // What precedes the last "\" or "/"; empty when the path has none.
 std::string_view directoryPart(std::string_view path);
+
+// The path of a name in a directory, which may end in a separator.
+String joinPath(std::string_view directory, std::string_view name);
 
 // The file that an editor's title names: the IDE's ":n" view number, its "*" and a
 // blank before them are cut, from the end down to the third character, so that a

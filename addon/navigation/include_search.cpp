@@ -1,21 +1,14 @@
 #include "addon/navigation/include_search.h"
 
+#include "addon/foundation/path.h"
+
 namespace kesto {
 
 namespace {
 
-String join(std::string_view directory, std::string_view name) {
-  String path(directory);
-  if (directory.back() != '\\' && directory.back() != '/') {
-    path += "\\";
-  }
-  path += name;
-  return path;
-}
-
-class Search {
+class HeaderSearch {
  public:
-  Search(DirectoryLister& lister, std::string_view name, String& found)
+  HeaderSearch(DirectoryLister& lister, std::string_view name, String& found)
       : lister_(lister), name_(name), found_(found) {}
 
   // Each level adds two characters at least, so that kPathLimit bounds the depth.
@@ -24,7 +17,7 @@ class Search {
       return false;
     }
     --directories_left_;
-    const String path = join(directory, name_);
+    const String path = joinPath(directory, name_);
     if (path.view().size() <= kPathLimit && lister_.isFile(path)) {
       found_ = path;
       return true;
@@ -33,7 +26,7 @@ class Search {
     lister_.listDirectories(String(directory), names);
     for (int i = 0; i < names.count(); ++i) {
       const std::string_view name = names.at(i)->view();
-      if (!name.empty() && name.front() != '.' && below(join(directory, name).view())) {
+      if (!name.empty() && name.front() != '.' && below(joinPath(directory, name).view())) {
         return true;
       }
     }
@@ -65,7 +58,7 @@ bool findInclude(DirectoryLister& lister, std::string_view search_path, std::str
     const std::string_view directory = search_path.substr(0, separator);
     search_path.remove_prefix(separator == std::string_view::npos ? search_path.size()
                                                                   : separator + 1);
-    if (!directory.empty() && Search(lister, name, found).below(directory)) {
+    if (!directory.empty() && HeaderSearch(lister, name, found).below(directory)) {
       return true;
     }
   }

@@ -6,18 +6,12 @@
 // or after kDirectoryLimit directories, whichever comes first.
 #pragma once
 
-#include <cstddef>
 #include <string_view>
 
 #include "addon/foundation/string.h"
 #include "addon/foundation/tableau.h"
 
 namespace kesto {
-
-// Characters of a path, as the system bounds them.
-inline constexpr std::size_t kPathLimit = 259;
-// Directories that the search looks into for one entry of the search path.
-inline constexpr int kDirectoryLimit = 20000;
 
 class DirectoryLister {
  public:

@@ -1,16 +1,24 @@
-// The settings of the searches: file masks, shortcut keys, and the side of the
-// title-bar buttons. One object, created and destroyed by the lifecycle; user-interface
-// thread only.
+// QuickFind: finding where a name is defined or used, without a browser database. Its
+// settings (file masks, shortcut keys, and the side of the title-bar buttons), the four
+// searches and what the last of them found. One object, created and destroyed by the
+// lifecycle; user-interface thread only.
 #pragma once
 
 #include <windows.h>
 
+#include <string>
+#include <vector>
+
+#include "addon/foundation/path.h"
 #include "addon/foundation/string.h"
+#include "addon/foundation/tableau.h"
+#include "addon/navigation/cross_reference.h"
+#include "addon/navigation/name_matchers.h"
+#include "addon/navigation/prompt_history.h"
+#include "addon/navigation/quick_resu.h"
+#include "addon/navigation/search_plan.h"
 
 namespace kesto {
-
-enum class Search : int { kFunction = 0, kMethod = 1, kClass = 2, kCross = 3 };
-inline constexpr int kSearchCount = 4;
 
 class QuickFind {
  public:
@@ -27,7 +35,26 @@ class QuickFind {
   // The shortcut as the user reads it.
   const String& keyText(Search search) const { return key_texts_[static_cast<int>(search)]; }
 
+  // Asks for a name, searches it and shows what was found. A search that comes while
+  // another still asks does nothing.
+  void run(Search search);
+  // The popup of the last method search, at the mouse; its ids start at 800.
+  void showMethodResults(HWND bar);
+  // Has the bar open a hit of the last method search; an index outside it does nothing.
+  void chooseMethodResult(int index);
+
+  // Lists the uses of the name in the message window; false when there is none.
+  bool crossReference(const std::string& name);
+
  private:
+  bool searchFor(Search search, const std::string& name);
+  bool findDefinition(Search search, const std::string& name);
+  bool findMethods(const std::string& name);
+  void collect(Search search, const std::string& name, Tableau<QuickResu>& hits);
+  std::vector<SearchStep> plan(Search search) const;
+  // Posts one of the bar's messages about a file and a line.
+  void postFound(UINT message, const char* path, int line);
+
   HWND owner_;
   String function_mask_;
   String include_mask_;
@@ -35,6 +62,14 @@ class QuickFind {
   int left_side_;
   unsigned short keys_[kSearchCount];
   String key_texts_[kSearchCount];
+  Tableau<QuickResu> method_results_;
+  Tableau<QuickResu> cross_results_;
+  CrossReferenceMessages messages_;
+
+  PromptHistory history_;
+  bool asking_ = false;
+  // Of the last posted message, which points here.
+  char found_path_[kPathLimit + 1] = "";
 };
 
 extern QuickFind* quickFind;

@@ -1,6 +1,7 @@
 #include "addon/topbar/bar_window.h"
 
 #include "addon/behaviours/general_behaviours.h"
+#include "addon/ide/bar_messages.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"

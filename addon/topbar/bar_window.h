@@ -9,11 +9,6 @@ namespace kesto {
 
 inline constexpr char kBarClass[] = "KADO";
 
-// Private messages: wParam is a 1-based line, lParam a zero-terminated path that
-// lives until the message was handled.
-inline constexpr UINT kGoToLineMessage = WM_USER + 7;
-inline constexpr UINT kOpenFoundFileMessage = WM_USER + 8;
-
 bool registerBarClass(HINSTANCE instance);
 void unregisterBarClass(HINSTANCE instance);
 

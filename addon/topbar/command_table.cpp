@@ -8,6 +8,7 @@
 #include "addon/ide/help_file.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/editor_navigation.h"
+#include "addon/navigation/quick_find.h"
 #include "addon/navigation/title_commands.h"
 #include "addon/topbar/bar_commands.h"
 #include "addon/topbar/bar_menu.h"
@@ -56,6 +57,27 @@ bool paintButtons(const Command& command) {
   return true;
 }
 
+bool runSearch(const Command& command) {
+  if (quickFind != nullptr) {
+    quickFind->run(static_cast<Search>(command.position));
+  }
+  return true;
+}
+
+bool showMethodResults(const Command& command) {
+  if (quickFind != nullptr) {
+    quickFind->showMethodResults(command.bar);
+  }
+  return true;
+}
+
+bool chooseMethodResult(const Command& command) {
+  if (quickFind != nullptr) {
+    quickFind->chooseMethodResult(command.position);
+  }
+  return true;
+}
+
 bool openHelp(const Command&) {
   if (helpFile != nullptr) {
     helpFile->showTopic(kHelpContents);
@@ -99,11 +121,11 @@ constexpr CommandRange kCommands[] = {
     {171, 173, nullptr, nullptr},  // tasks
     {175, 176, nullptr, nullptr},  // groupware get, send
     {177, 177, [](const Command&) { return editDocumentation(); }, nullptr},
-    {184, 184, nullptr, nullptr},  // results of a method search
+    {184, 184, showMethodResults, nullptr},
     {187, 187, [](const Command& c) { return showIncludesPopup(c.bar); }, nullptr},
     {188, 188, [](const Command& c) { return showQuickFindPopup(c.bar); }, nullptr},
     {189, 189, [](const Command& c) { return showFunctionsPopup(c.bar); }, nullptr},
-    {190, 193, nullptr, nullptr},  // searches and cross reference
+    {190, 193, runSearch, nullptr},
     {194, 195, nullptr, nullptr},  // documentation site
     {196, 196, openHelp, "Open help window"},
     {197, 197, [](const Command& c) { return showDocumentationPopup(c.bar); }, nullptr},
@@ -112,7 +134,7 @@ constexpr CommandRange kCommands[] = {
     {300, 399, atPosition<runExecutable>, "Run ", executableName},
     {400, 599, atPosition<openRecentHeader>, "Open ", recentHeaderPath},
     {700, 799, [](const Command& c) { return chooseInclude(c.position); }, nullptr},
-    {800, 899, nullptr, nullptr},  // search results
+    {800, 899, chooseMethodResult, nullptr},
     {1000, 9999, [](const Command& c) { return chooseFunction(c.position); }, nullptr},
     {10000, 19999, atPosition<chooseProjectFile>, "Open ", projectFileName},
 };

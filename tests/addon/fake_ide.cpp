@@ -81,7 +81,7 @@ Ide::Ide() {
       {ideapi::kEditorService.Data1, &editor},   {ideapi::kStatusLineService.Data1, &status_line},
       {ideapi::kMakeService.Data1, &make},       {ideapi::kOptionsService.Data1, &options},
       {ideapi::kProjectService.Data1, &project}, {ideapi::kProjectSaveService.Data1, &project_save},
-      {ideapi::kToolService.Data1, &tools}};
+      {ideapi::kToolService.Data1, &tools},      {ideapi::kMessageService.Data1, &messages}};
 }
 
 HRESULT STDMETHODCALLTYPE Ide::QueryInterface(REFIID id, void** result) {

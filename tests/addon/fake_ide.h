@@ -252,6 +252,29 @@ class Options : public Counted<IOptionsService> {
   int STDMETHODCALLTYPE RemoveChapter(IMpdChapter*) override { return 1; }
 };
 
+// What was written into the message window, a line each.
+class Messages : public Counted<IMessageService> {
+ public:
+  std::vector<std::string> log;
+  MessageGroup STDMETHODCALLTYPE CreateGroup(IIdeString* name, IIdeString* menu_text) override {
+    log.push_back("group " + std::string(name->GetText()) + "|" + menu_text->GetText());
+    return 3;
+  }
+  MessageHandle STDMETHODCALLTYPE AddMessage(MessageGroup group, MessageHandle parent,
+                                             IIdeString* text) override {
+    log.push_back(std::to_string(group) + "," + std::to_string(parent) + " " + text->GetText());
+    return 40 + static_cast<MessageHandle>(log.size());
+  }
+  MessageHandle STDMETHODCALLTYPE AddLocatedMessage(MessageGroup group, MessageHandle parent,
+                                                    IIdeString* text, IIdeString* file, int line,
+                                                    short column, int kind) override {
+    log.push_back(std::to_string(group) + "," + std::to_string(parent) + " " + text->GetText() +
+                  "|" + file->GetText() + "|" + std::to_string(line) + "," +
+                  std::to_string(column) + "," + std::to_string(kind));
+    return 40 + static_cast<MessageHandle>(log.size());
+  }
+};
+
 // A file's bytes, and how its stream fails: reads answer negative_reads times with
 // a negative count first.
 struct StreamSource {
@@ -291,6 +314,7 @@ class Ide : public Counted<IIde> {
   Project project;
   ProjectSave project_save;
   Tools tools;
+  Messages messages;
   StreamSource stream;
   // Services by the first field of their identifier; erase one to take it away.
   std::map<unsigned long, IUnknown*> services;

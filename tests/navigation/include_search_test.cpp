@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "addon/foundation/path.h"
 #include "doctest.h"
 
 namespace kesto {

@@ -1,0 +1,25 @@
+// The IDE's message window as the cross reference writes into it: a group of its own,
+// a header a run, the references below it.
+#pragma once
+
+#include "addon/foundation/tableau.h"
+#include "addon/ide/access.h"
+#include "addon/navigation/quick_resu.h"
+
+namespace kesto {
+
+class CrossReferenceMessages {
+ public:
+  // Writes a run's references. An IDE without the message service gets none.
+  void write(const char* name, const Tableau<QuickResu>& references);
+
+ private:
+  bool open();
+
+  // Obtained at the first run, kept for the session.
+  ComPtr<IMessageService> service_;
+  MessageGroup group_ = 0;
+  MessageHandle header_ = 0;  // of the last run
+};
+
+}  // namespace kesto

@@ -1,0 +1,83 @@
+#include "addon/navigation/name_search.h"
+
+#include <cstring>
+
+#include "addon/ide/file_text.h"
+#include "addon/navigation/directory_listing.h"
+#include "addon/navigation/directory_walk.h"
+
+namespace kesto {
+namespace {
+
+class FirstHitVisitor : public FileVisitor {
+ public:
+  FirstHitVisitor(const NameMatcher& matcher, FirstHit& hit) : matcher_(matcher), hit_(hit) {}
+  bool visit(const char* path) override {
+    const FileText text = readFileText(path);
+    LineReader reader(text.view());
+    std::string_view shown;
+    if (!matcher_.findNext(reader, shown)) {
+      return false;
+    }
+    hit_ = {path, reader.number()};
+    return true;
+  }
+
+ private:
+  const NameMatcher& matcher_;
+  FirstHit& hit_;
+};
+
+class CollectingVisitor : public FileVisitor {
+ public:
+  CollectingVisitor(const NameMatcher& matcher, Tableau<QuickResu>& hits)
+      : matcher_(matcher), hits_(hits) {}
+  bool visit(const char* path) override {
+    const FileText text = readFileText(path);
+    LineReader reader(text.view());
+    std::string_view shown;
+    while (matcher_.findNext(reader, shown)) {
+      const size_t bytes = sizeof(QuickResu) + strlen(path) + shown.size();
+      if (bytes > bytes_left_) {
+        return true;
+      }
+      bytes_left_ -= bytes;
+      hits_.append(new QuickResu(reader.number(), path, shown));
+    }
+    return false;
+  }
+
+ private:
+  const NameMatcher& matcher_;
+  Tableau<QuickResu>& hits_;
+  size_t bytes_left_ = kHitBytesLimit;
+};
+
+bool walkPlan(const std::vector<SearchStep>& plan, bool recurse, FileVisitor& visitor) {
+  DirectoryListing listing;
+  for (const SearchStep& step : plan) {
+    if (walkDirectory(listing, step.directory, step.mask, recurse, visitor)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool findFirst(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
+               FirstHit& hit) {
+  FirstHitVisitor visitor(matcher, hit);
+  return walkPlan(plan, recurse, visitor);
+}
+
+void collectHits(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
+                 Tableau<QuickResu>& hits) {
+  constexpr int kStep = 256;
+  hits.clear();
+  hits.setStep(kStep);
+  CollectingVisitor visitor(matcher, hits);
+  walkPlan(plan, recurse, visitor);
+}
+
+}  // namespace kesto

@@ -1,0 +1,4 @@
+// Controls of the text prompt. Macros, as the resource compiler reads them too.
+#pragma once
+
+#define PROMPT_TEXT 101

@@ -1,0 +1,176 @@
+#include "addon/navigation/quick_find.h"
+
+#include <algorithm>
+
+#include "addon/ide/bar_messages.h"
+#include "addon/ide/current_project.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/header_recorder.h"
+#include "addon/ide/hook_set.h"
+#include "addon/ide/koptions.h"
+#include "addon/ide/status_line.h"
+#include "addon/navigation/name_search.h"
+#include "addon/navigation/text_prompt.h"
+
+namespace kesto {
+namespace {
+
+constexpr int kCommandMethodResults = 184;
+constexpr int kCommandFirstResult = 800;
+constexpr int kResultCommands = 100;
+
+struct SearchTexts {
+  const char* prompt;
+  const char* failure;
+};
+
+// In the order of Search.
+constexpr SearchTexts kTexts[kSearchCount] = {
+    {"Find as function...", "Sorry, cannot find function..."},
+    {"Find as method...", "Sorry, cannot find method ..."},
+    {"Find as class ...", "Sorry, cannot find class ..."},
+    {"Cross reference ...", "Sorry, cannot cross reference ..."}};
+
+// The wait cursor, and the arrow afterwards.
+class WaitCursor {
+ public:
+  WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_WAIT)); }
+  ~WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_ARROW)); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+std::string searchingText(const std::string& name) {
+  return "Searching " + name + " ...";
+}
+
+HWND targetEditor() {
+  return hookSet != nullptr ? hookSet->target().window : nullptr;
+}
+
+}  // namespace
+
+void QuickFind::run(Search search) {
+  if (asking_) {
+    return;
+  }
+  const SearchTexts& texts = kTexts[static_cast<int>(search)];
+  const HWND frame = findFrame();
+  asking_ = true;
+  const std::string name =
+      promptForText(frame != nullptr ? frame : owner_, targetEditor(), texts.prompt, history_);
+  asking_ = false;
+  if (!name.empty() && !searchFor(search, name)) {
+    soundBeep();
+    showStatus(texts.failure);
+  }
+}
+
+bool QuickFind::searchFor(Search search, const std::string& name) {
+  switch (search) {
+    case Search::kFunction:
+    case Search::kClass:
+      return findDefinition(search, name);
+    case Search::kMethod:
+      return findMethods(name);
+    case Search::kCross:
+      return crossReference(name);
+  }
+  return true;
+}
+
+std::vector<SearchStep> QuickFind::plan(Search search) const {
+  const std::string directory = projectDirectory();
+  const bool open = isProjectOpen();
+  String source_path;
+  String include_path;
+  if (open) {
+    const ProjectNode node = nodeOfFile(hookSet != nullptr ? hookSet->target().title : "");
+    getOptionText(node, kOptionSourcePath, source_path);
+    getOptionText(node, kOptionIncludePath, include_path);
+  }
+  return planSearch(search, {directory, open, source_path.view(), include_path.view(),
+                             function_mask_.view(), include_mask_.view()});
+}
+
+bool QuickFind::findDefinition(Search search, const std::string& name) {
+  FirstHit hit;
+  bool found = false;
+  {
+    const WaitCursor wait;
+    const std::string text = searchingText(name);
+    showStatus(text.c_str());
+    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit);
+    showStatus((text + (found ? " Found !" : " sorry !")).c_str());
+  }
+  if (!found) {
+    return false;
+  }
+  upperAscii(hit.file.data());
+  showStatus((hit.file + " : " + std::to_string(hit.line)).c_str());
+  if (openAndRecord(hit.file.c_str())) {
+    postFound(kGoToLineMessage, hit.file.c_str(), hit.line);
+  }
+  return true;
+}
+
+void QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
+  const WaitCursor wait;
+  showStatus(searchingText(name).c_str());
+  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits);
+}
+
+bool QuickFind::findMethods(const std::string& name) {
+  collect(Search::kMethod, name, method_results_);
+  const int found = method_results_.count();
+  if (found > 0) {
+    PostMessageA(owner_, WM_COMMAND,
+                 static_cast<WPARAM>(found == 1 ? kCommandFirstResult : kCommandMethodResults), 0);
+  }
+  return found > 0;
+}
+
+bool QuickFind::crossReference(const std::string& name) {
+  collect(Search::kCross, name, cross_results_);
+  if (cross_results_.count() == 0) {
+    soundBeep();
+    showStatus("Sorry, nothing found !");
+    return false;
+  }
+  messages_.write(name.c_str(), cross_results_);
+  soundBeep();
+  showStatus("References found, see Message Window");
+  return true;
+}
+
+void QuickFind::showMethodResults(HWND bar) {
+  const HMENU popup = CreatePopupMenu();
+  // Ids beyond the range of the results belong to other commands.
+  const int shown = std::min(method_results_.count(), kResultCommands);
+  for (int i = 0; i < shown; ++i) {
+    AppendMenuA(popup, MF_STRING, static_cast<UINT_PTR>(kCommandFirstResult + i),
+                method_results_.at(i)->text());
+  }
+  POINT mouse = {};
+  GetCursorPos(&mouse);
+  if (hookSet != nullptr && shown > 0) {
+    hookSet->suspend(true);
+    TrackPopupMenu(popup, TPM_LEFTALIGN, mouse.x, mouse.y, 0, bar, nullptr);
+    hookSet->suspend(false);
+  }
+  DestroyMenu(popup);
+}
+
+void QuickFind::chooseMethodResult(int index) {
+  if (index >= 0 && index < method_results_.count()) {
+    const QuickResu& result = *method_results_.at(index);
+    postFound(kOpenFoundFileMessage, result.file(), result.line());
+  }
+}
+
+void QuickFind::postFound(UINT message, const char* path, int line) {
+  lstrcpynA(found_path_, path, sizeof found_path_);
+  PostMessageA(owner_, message, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(found_path_));
+}
+
+}  // namespace kesto

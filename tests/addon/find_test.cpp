@@ -1,0 +1,179 @@
+// The shell of the searches: the selection by way of the clipboard, the files of a
+// tree on the disk, the message window.
+#include <windows.h>
+
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "addon/ide/access.h"
+#include "addon/ide/clipboard.h"
+#include "addon/navigation/cross_reference.h"
+#include "addon/navigation/directory_listing.h"
+#include "addon/navigation/name_search.h"
+#include "doctest.h"
+#include "tests/addon/fake_ide.h"
+
+namespace kesto {
+
+namespace {
+
+// A window that puts its title on the clipboard when asked to copy, as an editor does
+// with its selection; without a title it leaves the clipboard alone.
+class CopyingWindow {
+ public:
+  CopyingWindow()
+      : handle_(CreateWindowExA(0, "STATIC", "", 0, 0, 0, 9, 9, nullptr, nullptr,
+                                GetModuleHandleA(nullptr), nullptr)) {
+    SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+  }
+  ~CopyingWindow() { DestroyWindow(handle_); }
+  CopyingWindow(const CopyingWindow&) = delete;
+  CopyingWindow& operator=(const CopyingWindow&) = delete;
+  HWND handle() const { return handle_; }
+
+  static std::string selection;
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_COPY && !selection.empty()) {
+      Clipboard(window).setText(selection);
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+  }
+
+  HWND handle_;
+};
+
+std::string CopyingWindow::selection;
+
+// A folder of its own for a test, gone afterwards.
+class Folder {
+ public:
+  Folder() {
+    char temp[MAX_PATH] = "";
+    GetTempPathA(sizeof temp, temp);
+    path_ = std::string(temp) + "kesto-find";
+    for (const char* name : {"", "\\sub", "\\.hidden", "\\folder.cpp"}) {
+      CreateDirectoryA((path_ + name).c_str(), nullptr);
+    }
+    for (const char* name : kFiles) {
+      std::ofstream(path_ + name) << "x";
+    }
+  }
+  ~Folder() {
+    for (const char* name : kFiles) {
+      DeleteFileA((path_ + name).c_str());
+    }
+    for (const char* name : {"\\folder.cpp", "\\.hidden", "\\sub", ""}) {
+      RemoveDirectoryA((path_ + name).c_str());
+    }
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  const std::string& path() const { return path_; }
+
+ private:
+  static constexpr const char* kFiles[] = {"\\a.cpp", "\\a.h", "\\sub\\b.cpp", "\\.hidden\\c.cpp"};
+  std::string path_;
+};
+
+}  // namespace
+
+TEST_CASE("a selection is read and the clipboard's text survives") {
+  const CopyingWindow window;
+  const std::string long_text(100000, 's');
+  const struct {
+    const char* before;  // null: no text on the clipboard
+    std::string selection;
+  } cases[] = {{"kept", "name"}, {"kept", ""}, {nullptr, "name"}, {nullptr, ""}, {"", long_text}};
+  for (const auto& c : cases) {
+    {
+      Clipboard clipboard(window.handle());
+      REQUIRE(clipboard.isOpen());
+      clipboard.clear();
+      if (c.before != nullptr) {
+        clipboard.setText(c.before);
+      }
+    }
+    CopyingWindow::selection = c.selection;
+    CHECK(copySelection(window.handle(), window.handle()) == c.selection);
+    const std::optional<std::string> after = Clipboard(window.handle()).text();
+    CHECK(after.has_value() == (c.before != nullptr));
+    CHECK(after.value_or("") == (c.before != nullptr ? c.before : ""));
+  }
+}
+
+TEST_CASE("the files of a tree are searched as the IDE holds them") {
+  fake::Ide ide;
+  ide.AddRef();
+  storeIde(&ide);
+  ide.stream.disk = "int f()\n{\n  call();\n  call();\n}\n";
+  const Folder folder;
+  const std::vector<SearchStep> plan = {{folder.path(), "*.cpp"}, {folder.path() + "2", "*.cpp"}};
+  const NameMatcher matcher(Search::kCross, "call");
+  {
+    Tableau<QuickResu> hits;
+    collectHits(plan, true, matcher, hits);
+    REQUIRE(hits.count() == 4);
+    CHECK(hits[1]->line() == 4);
+    CHECK(hits[1]->file() == (folder.path() + "\\a.cpp").c_str());
+    CHECK(hits[2]->file() == (folder.path() + "\\sub\\b.cpp").c_str());
+    CHECK(hits[2]->text() == "  call();");
+    collectHits(plan, false, matcher, hits);
+    CHECK(hits.count() == 2);
+
+    // The file of the first reads cannot be read; the search goes on behind it.
+    ide.stream.negative_reads = 2;
+    FirstHit hit;
+    CHECK(findFirst(plan, true, matcher, hit));
+    CHECK(hit.file == folder.path() + "\\sub\\b.cpp");
+    CHECK(hit.line == 3);
+    CHECK_FALSE(findFirst(plan, true, NameMatcher(Search::kClass, "call"), hit));
+
+    // Hits without end are cut off before memory is.
+    ide.stream.disk.clear();
+    for (int i = 0; i < 2000; ++i) {
+      ide.stream.disk += " call" + std::string(40000, '.') + "\n";
+    }
+    collectHits(plan, true, matcher, hits);
+    CHECK(hits.count() > 1000);
+    CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
+  }
+  releaseIde();
+}
+
+TEST_CASE("references go into a group of their own, each run below its header") {
+  const int references = fake::live_references;
+  fake::Ide ide;
+  ide.AddRef();
+  storeIde(&ide);
+  {
+    CrossReferenceMessages messages;
+    Tableau<QuickResu> hits;
+    hits.append(new QuickResu(4, "C:\\P\\a.cpp", "    Paint(1);"));
+    hits.append(new QuickResu(9, "C:\\P\\b.cpp", "\tPaint(2);"));
+    messages.write("Paint", hits);
+    hits.removeAndDelete(1);
+    messages.write("Paint", hits);
+  }
+  const std::vector<std::string>& log = ide.messages.log;
+  REQUIRE(log.size() == 6);
+  CHECK(log[0] == "group Cross reference|&Cross reference");
+  CHECK(log[1].starts_with("3,0 "));
+  CHECK(log[1].find(" : cross reference \"Paint\"  (") != std::string::npos);
+  CHECK(log[1].ends_with(") : 2 founds"));
+  CHECK(log[2] == "3,42     Paint(1);|C:\\P\\a.cpp|4,1,5");
+  CHECK(log[3] == "3,42 \tPaint(2);|C:\\P\\b.cpp|9,1,5");
+  CHECK(log[4].ends_with(") : 1 found"));
+  CHECK(log[5] == "3,45     Paint(1);|C:\\P\\a.cpp|4,1,5");
+
+  // Without the service nothing is written.
+  ide.services.erase(ideapi::kMessageService.Data1);
+  CrossReferenceMessages().write("Paint", Tableau<QuickResu>());
+  CHECK(log.size() == 6);
+  releaseIde();
+  CHECK(fake::live_references == references);
+}
+
+}  // namespace kesto

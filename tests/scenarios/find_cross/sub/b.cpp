@@ -1,0 +1,9 @@
+int g()
+{
+    return Paint(3);
+}
+
+void once()
+{
+    only();
+}

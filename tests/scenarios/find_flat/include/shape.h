@@ -1,0 +1,6 @@
+class Shape : public Base
+{
+};
+class FooBar : public Foo
+{
+};

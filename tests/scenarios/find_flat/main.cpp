@@ -1,0 +1,5 @@
+int main()
+{
+    tool(1);
+    FooBar x;
+}

@@ -1,0 +1,11 @@
+int tool(int)
+{
+    local();
+}
+
+void Shape::draw()
+{
+}
+
+class Inner {
+};

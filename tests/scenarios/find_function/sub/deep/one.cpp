@@ -1,0 +1,5 @@
+#include "frame.h"
+
+void Frame::Paint(HDC dc)
+{
+}

@@ -1,0 +1,8 @@
+void Frame::Paint()
+{
+}
+
+int Frame::Size()
+{
+    return Paint();
+}

@@ -1,0 +1,8 @@
+
+int Window::Paint(int)
+{
+}
+
+void Other::Paint(long)
+{
+}
