@@ -121,11 +121,14 @@ TEST_CASE("a project is a tree of the folder's sources with its paths") {
   const unsigned int deep = project.find("c:/p/SRC/deep/D.rc");
   REQUIRE(deep != 0);
   CHECK(project.depth(deep) == 3);
-  REQUIRE(project.nodeOption(deep, kIncludePathKind) != nullptr);
-  CHECK(*project.nodeOption(deep, kIncludePathKind) == "C:\\P\\inc;C:\\P\\Include");
-  CHECK(*project.nodeOption(top->id, kSourcePathKind) == "C:\\P\\src");
-  CHECK(project.nodeOption(deep, 2) == nullptr);
-  CHECK(project.nodeOption(9999, kIncludePathKind) == nullptr);
+  std::string folders;
+  CHECK(project.nodeFolders(deep, kIncludePathKind, &folders));
+  CHECK(folders == "C:\\P\\inc;C:\\P\\Include");
+  CHECK(project.nodeFolders(top->id, kSourcePathKind, &folders));
+  CHECK(folders == "C:\\P\\src");
+  CHECK_FALSE(project.nodeFolders(deep, 2, &folders));
+  CHECK_FALSE(project.nodeFolders(9999, kIncludePathKind, &folders));
+  CHECK_FALSE(project.modified());
 }
 
 TEST_CASE("nodes come and go with their children") {
@@ -145,25 +148,23 @@ TEST_CASE("nodes come and go with their children") {
   CHECK(project.add(0, "C:\\P\\other", "Target") > added);
 }
 
-TEST_CASE("options hold bytes, change at commit, and outlive the project's closing") {
+TEST_CASE("options hold bytes, change at commit, and go with their project") {
   const std::string bytes("a\0b", 3);
   Project project;
   CHECK(project.prepareOption("N", bytes) == 0);
   project.load(sample());
   const unsigned int change = project.prepareOption("N", bytes);
   CHECK(project.option("N") == nullptr);
+  CHECK_FALSE(project.modified());
   CHECK(project.commitOption(change));
   CHECK_FALSE(project.commitOption(change));
   REQUIRE(project.option("N") != nullptr);
   CHECK(*project.option("N") == bytes);
   CHECK(project.option("n") == nullptr);
-  FolderContent other;
-  other.path = "C:\\Q";
-  project.load(other);
-  CHECK(project.option("N") == nullptr);
+  const unsigned int lost = project.prepareOption("M", bytes);
   project.load(sample());
-  REQUIRE(project.option("N") != nullptr);
-  CHECK(*project.option("N") == bytes);
+  CHECK(project.option("N") == nullptr);
+  CHECK_FALSE(project.commitOption(lost));
 }
 
 TEST_CASE("paths") {
@@ -191,6 +192,26 @@ TEST_CASE("paths") {
   }
   CHECK(samePath("C:\\\xC9t\xE9.c", "c:/\xE9T\xC9.C"));
   CHECK_FALSE(samePath("C:\\\xD7", "C:\\\xF7"));
+  const struct {
+    std::string_view from, to, relative;
+  } ways[] = {
+      {"C:\\p\\a", "C:\\P\\A\\b\\c.h", "b\\c.h"},
+      {"C:\\p\\a", "c:\\p\\x.h", "..\\x.h"},
+      {"C:\\p\\a", "C:\\p\\a", "."},
+      {"C:\\p\\a", "C:\\q\\x.h", "C:\\q\\x.h"},
+      {"C:\\p\\a", "D:\\p\\a\\x.h", "D:\\p\\a\\x.h"},
+      {"C:\\", "C:\\x.h", "x.h"},
+      {"\\\\h\\s\\p", "\\\\h\\s\\p\\x", "x"},
+      {"\\\\h\\s\\p", "\\\\h\\s\\q", "\\\\h\\s\\q"},
+  };
+  for (const auto& way : ways) {
+    CAPTURE(way.to);
+    CHECK(relativePath(way.from, way.to) == way.relative);
+  }
+  CHECK(normalPath("C:/a/./b\\..\\..\\c//d") == "C:\\c\\d");
+  CHECK(normalPath("C:\\a\\..\\..\\b") == "C:\\..\\b");
+  CHECK(normalPath("C:\\a\\..") == "C:\\");
+  CHECK(normalPath("\\\\h\\s\\a\\..\\b") == "\\\\h\\s\\b");
   CHECK(joinPath("C:\\", "a") == "C:\\a");
   CHECK(joinPath("C:\\a", "b") == "C:\\a\\b");
 }

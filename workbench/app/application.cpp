@@ -11,7 +11,10 @@ Application::Application()
     : editors_(store_, settings_),
       root_({*this, editors_, project_, messages_, live_}),
       frame_(*this),
-      message_window_(messages_, [this](const Message& message) { showPlace(message); }) {
+      message_window_(messages_, [this](const Message& message) { showPlace(message); }),
+      project_window_(project_, *this),
+      make_(messages_, *this) {
+  root_.project().setView(&project_window_);
   messages_.setListener([this](const MessageGroupInfo& group, const Message* added) {
     messagesChanged(group, added);
   });
@@ -31,7 +34,8 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   if (!TextWindow::registerClass(instance) || !EditorChild::registerClass(instance) ||
       !MessageWindow::registerClasses(instance) || !frame_.create(instance) ||
-      !message_window_.attach(frame_.mdiClient(), instance)) {
+      !message_window_.attach(frame_.mdiClient(), instance) ||
+      !project_window_.attach(frame_.mdiClient(), instance)) {
     return false;
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
@@ -67,15 +71,21 @@ void Application::frameClosing() {
     return;
   }
   closed_ = true;
+  make_.close();
   editors_.destroyAll();
   unloadProject();
+  root_.project().setView(nullptr);
   addon_.shutDown();
   root_.tools().setMenuListener({});
   root_.reportLeaks();
 }
 
 void Application::showError(const std::string& text) {
-  MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, MB_OK | MB_ICONERROR);
+  ask(text, MB_OK | MB_ICONERROR);
+}
+
+int Application::ask(const std::string& text, UINT buttons) {
+  return MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, buttons);
 }
 
 std::string Application::projectDirectory() {
@@ -103,10 +113,6 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
     child->setCaret(line, 1);
   }
   return announce(child);
-}
-
-EditorWindow* Application::editOrStart(const std::string& path) {
-  return announce(editors_.openOrStart(resolve(path)));
 }
 
 void Application::messagesChanged(const MessageGroupInfo& group, const Message* added) {
@@ -137,6 +143,10 @@ bool Application::showPlace(const Message& message) {
     editor->setCaret(message.line, message.column);
   }
   return editor != nullptr;
+}
+
+EditorWindow* Application::editOrStart(const std::string& path) {
+  return announce(editors_.openOrStart(resolve(path)));
 }
 
 EditorChild* Application::announce(EditorChild* child) {

@@ -14,14 +14,19 @@
 #include "workbench/editor/editor_set.h"
 #include "workbench/editor/editor_settings.h"
 #include "workbench/events/event_log.h"
+#include "workbench/make/make_run.h"
 #include "workbench/messages/message_window.h"
 #include "workbench/project/disk_lister_win.h"
 #include "workbench/project/project.h"
+#include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
 
 namespace workbench {
 
-class Application final : public Workbench, public FrameHandler {
+class Application final : public Workbench,
+                          public FrameHandler,
+                          public ProjectWindowHost,
+                          public MakeHost {
  public:
   Application();
   ~Application() override;
@@ -44,6 +49,8 @@ class Application final : public Workbench, public FrameHandler {
   HWND frame() override { return frame_.window(); }
   HWND mdiClient() override { return frame_.mdiClient(); }
   bool openPath(const std::string& path) override;
+  bool newProject(const std::string& folder) override;
+  bool saveProject() override;
   bool closeProject() override;
   bool hasProject() override { return project_.loaded(); }
   std::string projectDirectory() override;
@@ -58,7 +65,9 @@ class Application final : public Workbench, public FrameHandler {
   std::vector<ProjectEntry> projectEntries() override;
   bool readOption(const std::string& name, std::string* bytes) override;
   bool writeOption(const std::string& name, const std::string& bytes) override;
+  void setBuildCommand(const std::string& command) override { project_.setBuild(command); }
   void make(int result) override;
+  bool startMake() override;
   const MessageStore& messages() override { return messages_; }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
@@ -69,14 +78,33 @@ class Application final : public Workbench, public FrameHandler {
   std::string status() override { return frame_.statusBar().text(); }
   HWND addonBar() override { return FindWindowA("KADO", nullptr); }
 
+  void openNode(unsigned int node, bool alternative) override;
+  void renameFromWindow(unsigned int node, const std::string& name) override;
+  void projectWindowCommand(int id) override { frameCommand(id); }
+  bool projectCommandEnabled(int id) override { return commandEnabled(id); }
+
+  void makeStarted(const std::string& command) override;
+  void makeEnded(int result) override;
+
   void frameCommand(int id) override;
   bool commandEnabled(int id) override;
-  bool mayCloseFrame() override { return editors_.askToSaveAll(); }
+  bool mayCloseFrame() override {
+    return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
+  }
   void frameClosing() override;
   void programActivated() override { editors_.checkDisk(); }
+  HWND modelessDialog() override { return make_.window(); }
 
  private:
   bool openFolder(const std::string& folder);
+  bool openProjectFile(const std::string& file);
+  // The sources of the folder as a project of this file, fileFor's when empty.
+  bool openWalked(const std::string& folder, const std::string& file);
+  bool walk(const std::string& folder, FolderContent* content);
+  void projectOpened(const FileStamp& stamp);
+  // Asks when the project has changed; false when the user cancelled or the save failed.
+  bool askToSaveProject();
+  int ask(const std::string& text, UINT buttons);
   void unloadProject();
   void saveAll();
   // Tells that an editor opened or came to a line; null tells nothing.
@@ -92,6 +120,17 @@ class Application final : public Workbench, public FrameHandler {
   bool editCommand(int id, EditorChild* child);
   bool windowCommand(int id, EditorChild* child);
   bool projectCommand(int id);
+  bool nodeCommand(int id);
+  // Where a new node goes: the selected container, or the one around the selection.
+  unsigned int parentForNew() const;
+  void addFiles();
+  void addContainer();
+  void removeSelected();
+  void editSelected();
+  void editBuild();
+  // Asks when a make is running; false leaves it so.
+  bool mayStopMake();
+  void runTool(ToolHandle tool);
   void findNext(bool backward);
   void goToLine(EditorChild& child);
   void openProjectFile();
@@ -105,11 +144,14 @@ class Application final : public Workbench, public FrameHandler {
   bool keep_settings_ = false;
   EditorSet editors_;
   Project project_;
+  FileStamp project_stamp_;  // its file as it was last read or written
   MessageStore messages_;
   LiveObjects live_;
   IdeRoot root_;
   Frame frame_;
   MessageWindow message_window_;
+  ProjectWindow project_window_;
+  MakeRun make_;
   FindRequest find_;
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;

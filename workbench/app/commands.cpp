@@ -10,12 +10,13 @@
 #include "workbench/app/names.h"
 #include "workbench/app/options_dialog.h"
 #include "workbench/app/settings_store.h"
+#include "workbench/project/path_text.h"
 
 namespace workbench {
 
 void Application::frameCommand(int id) {
   EditorChild* child = editors_.active();
-  if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id)) {
+  if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id)) {
     return;
   }
   if (child != nullptr) {
@@ -28,20 +29,21 @@ bool Application::commandEnabled(int id) {
   switch (id) {
     case CM_FILE_SAVE:
     case CM_FILE_SAVE_AS:
-    case CM_FILE_CLOSE:
     case CM_EDIT_PASTE:
     case CM_EDIT_SELECT_ALL:
     case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
     case CM_EDIT_FIND_PREVIOUS:
     case CM_EDIT_GO_TO_LINE:
+    case CM_WINDOW_CLOSE_ALL:
+    case CM_WINDOW_NEW_VIEW:
+      return child != nullptr;
+    case CM_FILE_CLOSE:
     case CM_WINDOW_CASCADE:
     case CM_WINDOW_TILE:
     case CM_WINDOW_ARRANGE:
     case CM_WINDOW_NEXT:
-    case CM_WINDOW_CLOSE_ALL:
-    case CM_WINDOW_NEW_VIEW:
-      return child != nullptr;
+      return SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0) != 0;
     case CM_EDIT_UNDO:
       return child != nullptr && child->openFile().document.canUndo();
     case CM_EDIT_REDO:
@@ -50,9 +52,20 @@ bool Application::commandEnabled(int id) {
     case CM_EDIT_COPY:
     case CM_EDIT_DELETE:
       return child != nullptr && child->textView().hasSelection();
+    case CM_PROJECT_MAKE:
+      return hasProject() && !make_.running();
     case CM_PROJECT_OPEN_FILE:
     case CM_PROJECT_CLOSE:
+    case CM_PROJECT_SAVE:
+    case CM_PROJECT_BUILD_COMMAND:
+    case CM_NODE_ADD_FILES:
+    case CM_NODE_ADD_CONTAINER:
       return hasProject();
+    case CM_NODE_OPEN:
+    case CM_NODE_RENAME:
+    case CM_NODE_REMOVE:
+    case CM_NODE_PROPERTIES:
+      return project_window_.selected() != 0;
     default:
       return true;
   }
@@ -66,12 +79,23 @@ bool Application::fileCommand(int id, EditorChild* child) {
       return true;
     case CM_FILE_OPEN:
       if (askOpenName(frame_.window(), projectDirectory(), &path)) {
-        editFile(path, 0);
+        if (foldCase(extensionOf(path)) == ".ide") {
+          openPath(path);
+        } else {
+          editFile(path, 0);
+        }
       }
       return true;
     case CM_FILE_OPEN_FOLDER:
-      if (askFolder(frame_.window(), &path) && openPath(path)) {
+      if (askFolder(frame_.window(), "Open a folder of sources as a project", &path) &&
+          openPath(path)) {
         showFirstSource();
+      }
+      return true;
+    case CM_FILE_NEW_PROJECT:
+      if (askFolder(frame_.window(), "Make a project of a folder's sources", &path) &&
+          newProject(path)) {
+        project_window_.show();
       }
       return true;
     case CM_FILE_SAVE:
@@ -88,8 +112,8 @@ bool Application::fileCommand(int id, EditorChild* child) {
       saveAll();
       return true;
     case CM_FILE_CLOSE:
-      if (child != nullptr) {
-        SendMessageA(child->window(), WM_CLOSE, 0, 0);
+      if (const LRESULT active = SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0)) {
+        SendMessageA(reinterpret_cast<HWND>(active), WM_CLOSE, 0, 0);
       }
       return true;
     case CM_FILE_EXIT:
@@ -103,7 +127,9 @@ bool Application::fileCommand(int id, EditorChild* child) {
 void Application::saveAll() {
   std::vector<std::string> names;
   editors_.saveAll(&names);
-  root_.projectSave().clients().each([](IProjectSaveClient* client) { client->ProjectSaving(); });
+  if (project_.modified() && saveProject()) {
+    names.push_back(project_.file());
+  }
   if (!names.empty()) {
     const std::string count = std::to_string(names.size());
     setStatus(names.size() == 1 ? "Saved " + names[0] : "Saved " + count + " files");
@@ -216,6 +242,17 @@ bool Application::projectCommand(int id) {
     case CM_OPTIONS_ENVIRONMENT:
       editOptions();
       return true;
+    case CM_PROJECT_MAKE:
+      startMake();
+      return true;
+    case CM_PROJECT_SAVE:
+      if (saveProject()) {
+        setStatus("Saved " + project_.file());
+      }
+      return true;
+    case ideapi::kCommandShowProject:
+      project_window_.show();
+      return true;
     case ideapi::kCommandShowMessages:
       message_window_.show();
       return true;
@@ -226,7 +263,7 @@ bool Application::projectCommand(int id) {
       break;
   }
   if (id > CM_FIRST_TOOL && id <= CM_LAST_TOOL) {
-    root_.tools().runFromMenu(static_cast<ToolHandle>(id - CM_FIRST_TOOL));
+    runTool(static_cast<ToolHandle>(id - CM_FIRST_TOOL));
     return true;
   }
   return false;

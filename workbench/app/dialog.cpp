@@ -54,7 +54,7 @@ void Dialog::centre() {
 }
 
 std::string Dialog::text(int control) const {
-  char buffer[512] = {};
+  char buffer[1024] = {};
   GetDlgItemTextA(window_, control, buffer, sizeof buffer);
   return buffer;
 }

@@ -10,9 +10,12 @@
 namespace workbench {
 namespace {
 
+constexpr std::size_t kManyNames = 32000;  // bytes
+
 constexpr char kFilter[] =
     "C++ sources (*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh)\0*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh\0"
     "Resource scripts (*.rc;*.rh)\0*.rc;*.rh\0"
+    "Projects (*.ide)\0*.ide\0"
     "All files (*.*)\0*.*\0";
 
 // The system puts the dialog into its owner's corner, where an add-on's bar may lie.
@@ -61,6 +64,27 @@ bool askOpenName(HWND owner, const std::string& folder, std::string* path) {
   return true;
 }
 
+bool askOpenNames(HWND owner, const std::string& folder, std::vector<std::string>* paths) {
+  std::vector<char> buffer(kManyNames);
+  NameDialog dialog(owner, folder, OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT);
+  dialog.info.lpstrTitle = "Add files to the project";
+  dialog.info.lpstrFile = buffer.data();
+  dialog.info.nMaxFile = static_cast<DWORD>(buffer.size());
+  if (GetOpenFileNameA(&dialog.info) == 0) {
+    return false;
+  }
+  // One path, or the folder and the names, with two zeros at the end.
+  const std::string first = buffer.data();
+  for (const char* name = buffer.data() + first.size() + 1; *name != '\0';
+       name += std::strlen(name) + 1) {
+    paths->push_back(joinPath(first, name));
+  }
+  if (paths->empty()) {
+    paths->push_back(first);
+  }
+  return true;
+}
+
 bool askSaveName(HWND owner, std::string* path) {
   NameDialog dialog(owner, std::string(folderOf(*path)), OFN_OVERWRITEPROMPT);
   dialog.info.lpstrTitle = "Save file as";
@@ -74,12 +98,12 @@ bool askSaveName(HWND owner, std::string* path) {
   return true;
 }
 
-bool askFolder(HWND owner, std::string* path) {
+bool askFolder(HWND owner, const char* prompt, std::string* path) {
   char name[MAX_PATH] = {};
   BROWSEINFOA info = {};
   info.hwndOwner = owner;
   info.pszDisplayName = name;
-  info.lpszTitle = "Open a folder of sources as a project";
+  info.lpszTitle = prompt;
   info.ulFlags = BIF_RETURNONLYFSDIRS;
   LPITEMIDLIST list = SHBrowseForFolderA(&info);
   if (list == nullptr) {

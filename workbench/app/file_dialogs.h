@@ -5,12 +5,15 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace workbench {
 
 bool askOpenName(HWND owner, const std::string& folder, std::string* path);
+// Several files of one folder.
+bool askOpenNames(HWND owner, const std::string& folder, std::vector<std::string>* paths);
 // *path comes in as the proposal.
 bool askSaveName(HWND owner, std::string* path);
-bool askFolder(HWND owner, std::string* path);
+bool askFolder(HWND owner, const char* prompt, std::string* path);
 
 }  // namespace workbench

@@ -176,6 +176,10 @@ void Frame::setTitle(const std::string& title) {
 int Frame::run() {
   MSG message = {};
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    HWND dialog = handler_.modelessDialog();
+    if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
+      continue;
+    }
     if (mdi_client_ != nullptr &&
         (TranslateMDISysAccel(mdi_client_, &message) != 0 ||
          TranslateAcceleratorA(window_, accelerators_.get(), &message) != 0)) {

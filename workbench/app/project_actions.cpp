@@ -2,6 +2,7 @@
 #include "workbench/app/application.h"
 #include "workbench/app/names.h"
 #include "workbench/project/path_text.h"
+#include "workbench/project/project_file.h"
 
 namespace workbench {
 
@@ -12,9 +13,9 @@ bool Application::openPath(const std::string& path) {
   if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
     return openFolder(full);
   }
-  // A project's file stands for its folder and need not be there.
   if (foldCase(extensionOf(full)) == ".ide") {
-    return openFolder(std::string(folderOf(full)));
+    // Not there means that it was never saved: it stands for its folder.
+    return exists ? openProjectFile(full) : openWalked(std::string(folderOf(full)), full);
   }
   if (!exists) {
     showError(describeFault(FileFault::kMissing, full));
@@ -28,28 +29,127 @@ bool Application::openFolder(const std::string& folder) {
   if (path.size() > 3 && (path.back() == '\\' || path.back() == '/')) {
     path.pop_back();
   }
-  HCURSOR old_cursor = SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
-  FolderContent content;
-  const bool readable = walkFolder(lister_, path, WalkLimits(), &content);
-  SetCursor(old_cursor);
-  if (!readable) {
-    showError("The folder " + path + " cannot be read.");
+  std::vector<FolderEntry> entries;
+  lister_.list(path, &entries);
+  std::vector<std::string> projects;
+  for (const FolderEntry& entry : entries) {
+    if (!entry.folder && foldCase(extensionOf(entry.name)) == ".ide") {
+      projects.push_back(joinPath(path, entry.name));
+    }
+  }
+  return projects.size() == 1 ? openProjectFile(projects.front()) : openWalked(path, {});
+}
+
+bool Application::openProjectFile(const std::string& file) {
+  std::string bytes;
+  const FileStamp stamp = store_.stamp(file);
+  const FileFault fault = store_.read(file, kLargestProjectFile, &bytes);
+  if (fault != FileFault::kNone) {
+    showError(describeFault(fault, file));
+    return false;
+  }
+  ProjectTree tree;
+  tree.last_id = project_.lastId();
+  ProjectFault wrong;
+  if (!readProjectFile(bytes, std::string(folderOf(file)), &tree, &wrong)) {
+    showError(file + ", line " + std::to_string(wrong.line) + ":\n" + wrong.reason +
+              "\n\nThe project was not opened, and its file is unchanged.");
     return false;
   }
   if (!closeProject()) {
     return false;
   }
-  project_.load(content);
-  showTitle();
-  events_.emit(Event("project").text("action", "opened").text("file", project_.file()));
-  root_.project().announceOpened();
+  project_.load(file, std::move(tree));
+  projectOpened(stamp);
   return true;
 }
 
-bool Application::closeProject() {
-  if (!editors_.closeAll()) {
+bool Application::walk(const std::string& folder, FolderContent* content) {
+  HCURSOR old_cursor = SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
+  const bool readable = walkFolder(lister_, folder, WalkLimits(), content);
+  SetCursor(old_cursor);
+  if (!readable) {
+    showError("The folder " + folder + " cannot be read.");
+  }
+  return readable;
+}
+
+bool Application::openWalked(const std::string& folder, const std::string& file) {
+  FolderContent content;
+  if (!walk(folder, &content) || !closeProject()) {
     return false;
   }
+  project_.load(content, file);
+  projectOpened(FileStamp());
+  return true;
+}
+
+bool Application::newProject(const std::string& folder) {
+  FolderContent content;
+  if (!walk(resolve(folder), &content)) {
+    return false;
+  }
+  const std::string file = Project::fileFor(content.path);
+  const FileStamp stamp = store_.stamp(file);
+  if (stamp.exists && ask(file + " exists already.\n\nReplace it by a new project?",
+                          MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) != IDYES) {
+    return false;
+  }
+  if (!closeProject()) {
+    return false;
+  }
+  project_.load(content, file);
+  projectOpened(stamp);
+  return saveProject();
+}
+
+// stamp: the file as it was read, or as the user agreed to replace it.
+void Application::projectOpened(const FileStamp& stamp) {
+  project_stamp_ = stamp;
+  showTitle();
+  project_window_.projectChanged();
+  events_.emit(Event("project").text("action", "opened").text("file", project_.file()));
+  root_.project().announceOpened();
+}
+
+bool Application::saveProject() {
+  if (!project_.loaded()) {
+    return false;
+  }
+  root_.projectSave().clients().each([](IProjectSaveClient* client) { client->ProjectSaving(); });
+  const std::string file = project_.file();
+  const FileStamp now = store_.stamp(file);
+  if (now.exists && !now.sameContent(project_stamp_) &&
+      ask(file + " was written by another program.\n\nOverwrite it?",
+          MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
+    return false;
+  }
+  const FileFault fault =
+      saveFile(store_, file, writeProjectFile(project_.tree(), project_.folder()));
+  if (fault != FileFault::kNone) {
+    showError("The project was not saved. " + describeFault(fault, file));
+    return false;
+  }
+  project_stamp_ = store_.stamp(file);
+  project_.markSaved();
+  events_.emit(Event("project").text("action", "saved").text("file", file));
+  return true;
+}
+
+bool Application::askToSaveProject() {
+  if (!project_.modified()) {
+    return true;
+  }
+  const int answer =
+      ask("Save changes to the project " + project_.file() + "?", MB_YESNOCANCEL | MB_ICONQUESTION);
+  return answer == IDNO || (answer == IDYES && saveProject());
+}
+
+bool Application::closeProject() {
+  if (!mayStopMake() || !editors_.askToSaveAll() || !askToSaveProject()) {
+    return false;
+  }
+  editors_.destroyAll();
   unloadProject();
   return true;
 }
@@ -59,9 +159,10 @@ void Application::unloadProject() {
     return;
   }
   const std::string file = project_.file();
-  root_.projectSave().clients().each([](IProjectSaveClient* client) { client->ProjectSaving(); });
+  make_.close();
   root_.project().announceClosed();
   project_.close();
+  project_window_.projectChanged();
   showTitle();
   events_.emit(Event("project").text("action", "closed").text("file", file));
 }
@@ -70,7 +171,8 @@ void Application::showTitle() {
   std::string title = kFrameTitle;
   if (project_.loaded()) {
     title += " - ";
-    title += fileName(project_.folder());
+    const std::string_view name = fileName(project_.file());
+    title += name.substr(0, name.size() - extensionOf(name).size());
   }
   if (frame_.window() != nullptr) {
     frame_.setTitle(title);
@@ -133,12 +235,6 @@ bool Application::readOption(const std::string& name, std::string* bytes) {
 
 bool Application::writeOption(const std::string& name, const std::string& bytes) {
   return project_.commitOption(project_.prepareOption(name, bytes));
-}
-
-void Application::make(int result) {
-  ClientList<IMakeClient>& clients = root_.make().clients();
-  clients.each([](IMakeClient* client) { client->MakeStarted(); });
-  clients.each([result](IMakeClient* client) { client->MakeEnded(result); });
 }
 
 }  // namespace workbench

@@ -31,10 +31,16 @@ class Workbench {
   virtual HWND frame() = 0;
   virtual HWND mdiClient() = 0;
 
-  // Opens a folder as a project, or a source file in an editor. A project that is
+  // Opens a project file, a folder as a project, or a source file in an editor. A project that is
   // open is closed first. Returns false when it cannot be opened, or when the
   // user kept an unsaved file; the reason has been shown.
   virtual bool openPath(const std::string& path) = 0;
+  // Makes a project of the folder's sources, saves it there, and opens it. False
+  // when that cannot be done (the reason has been shown) or the user declined.
+  virtual bool newProject(const std::string& folder) = 0;
+  // Writes the project's file after its save clients have been told. False
+  // without a project, or when it was not written (the reason has been shown).
+  virtual bool saveProject() = 0;
   // Returns false when the user kept an unsaved file.
   virtual bool closeProject() = 0;
   virtual bool hasProject() = 0;
@@ -60,6 +66,12 @@ class Workbench {
   // no project (write: no project).
   virtual bool readOption(const std::string& name, std::string* bytes) = 0;
   virtual bool writeOption(const std::string& name, const std::string& bytes) = 0;
+  // The command that make runs; empty for none.
+  virtual void setBuildCommand(const std::string& command) = 0;
+  // Saves what is modified and starts the build command; its output and its end
+  // come later. False when it could not start with it: no project, a make that is
+  // running, or a file that was not saved.
+  virtual bool startMake() = 0;
   // Tells the make clients that a make started and ended with this MakeResult.
   virtual void make(int result) = 0;
 

@@ -1,6 +1,7 @@
 #include "workbench/project/path_text.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace workbench {
 namespace {
@@ -64,6 +65,63 @@ std::string_view extensionOf(std::string_view path) {
   const std::string_view name = fileName(path);
   const std::size_t dot = name.rfind('.');
   return dot == std::string_view::npos ? std::string_view() : name.substr(dot);
+}
+
+namespace {
+
+std::vector<std::string_view> partsOf(std::string_view path) {
+  std::vector<std::string_view> parts;
+  while (!path.empty()) {
+    const std::size_t slash = path.find_first_of("\\/");
+    parts.push_back(path.substr(0, slash));
+    path.remove_prefix(slash == std::string_view::npos ? path.size() : slash + 1);
+  }
+  return parts;
+}
+
+}  // namespace
+
+std::string normalPath(std::string_view path) {
+  // The drive, or the two empty parts, the host and the share of a network path.
+  const bool network = path.size() > 1 && isSeparator(path[0]) && isSeparator(path[1]);
+  const std::size_t root = network ? 4 : 1;
+  std::vector<std::string_view> kept;
+  for (const std::string_view part : partsOf(path)) {
+    if (part == ".." && kept.size() > root && kept.back() != "..") {
+      kept.pop_back();
+    } else if (kept.size() < root || (part != "." && !part.empty())) {
+      kept.push_back(part);
+    }
+  }
+  std::string result;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    result += i == 0 ? "" : "\\";
+    result += kept[i];
+  }
+  // A drive alone means another folder than its root.
+  return kept.size() == 1 && !network ? result + "\\" : result;
+}
+
+std::string relativePath(std::string_view folder, std::string_view path) {
+  const std::vector<std::string_view> from = partsOf(folder);
+  const std::vector<std::string_view> to = partsOf(path);
+  std::size_t common = 0;
+  while (common < from.size() && common < to.size() && samePath(from[common], to[common])) {
+    ++common;
+  }
+  const bool network = path.size() > 1 && isSeparator(path[0]) && isSeparator(path[1]);
+  if (common < (network ? 5U : 2U) && common < from.size()) {
+    return std::string(path);
+  }
+  std::string result;
+  for (std::size_t i = common; i < from.size(); ++i) {
+    result += result.empty() ? ".." : "\\..";
+  }
+  for (std::size_t i = common; i < to.size(); ++i) {
+    result += result.empty() ? "" : "\\";
+    result += to[i];
+  }
+  return result.empty() ? "." : result;
 }
 
 bool isAbsolutePath(std::string_view path) {

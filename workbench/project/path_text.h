@@ -17,6 +17,11 @@ std::string_view fileName(std::string_view path);
 std::string_view folderOf(std::string_view path);
 // From the last "." of the file name on, or empty.
 std::string_view extensionOf(std::string_view path);
+// Without "." and ".." between its parts, where that can be done, and with "\\".
+std::string normalPath(std::string_view path);
+// How to get from the folder to the path, "." for the folder itself; the full path
+// when they share no more than the drive. Both are full and normal.
+std::string relativePath(std::string_view folder, std::string_view path);
 bool isAbsolutePath(std::string_view path);
 // Whether a file could have that name: no ":" after the drive's, no wildcard, quote
 // or redirection.

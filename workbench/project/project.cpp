@@ -8,8 +8,6 @@
 namespace workbench {
 namespace {
 
-constexpr char kFolderType[] = "Folder";
-
 bool isIncludeFolder(std::string_view name) {
   const std::string folded = foldCase(name);
   return folded == "include" || folded == "inc" || folded == "includes" || folded == "headers";
@@ -33,38 +31,44 @@ bool isContainer(const NodeInfo& node) {
 }
 
 std::string Project::fullName(const std::string& name, const std::string& type) const {
-  const bool path = (!type.empty() && type[0] == '.') || type == kFolderType;
-  if (!path || name.empty() || name[0] == '#' || isAbsolutePath(name)) {
-    return name;
-  }
-  return joinPath(folder_, name);
+  const bool whole = name.empty() || !isPathName(name, type) || isAbsolutePath(name);
+  return whole ? name : normalPath(joinPath(folder_, name));
 }
 
-void Project::load(const FolderContent& content) {
+std::string Project::fileFor(const std::string& folder) {
+  const std::string_view name = fileName(folder);
+  // A drive's root has no name of its own.
+  return joinPath(folder, std::string(name.empty() ? "project" : name) + ".ide");
+}
+
+void Project::load(const FolderContent& content, const std::string& file) {
   close();
   folder_ = content.path;
-  std::string_view name = fileName(content.path);
-  // A drive's root has no name of its own.
-  file_ = joinPath(content.path, std::string(name.empty() ? "project" : name) + ".ide");
-  options_ = remembered_[foldCase(file_)];
+  file_ = file.empty() ? fileFor(folder_) : file;
   addFolder(0, content);
   setPaths(content);
+  modified_ = false;
+}
+
+void Project::load(const std::string& file, ProjectTree tree) {
+  close();
+  file_ = file;
+  folder_ = folderOf(file);
+  tree_ = std::move(tree);
 }
 
 void Project::close() {
-  if (loaded()) {
-    remembered_[foldCase(file_)] = std::move(options_);
-  }
-  options_.clear();
+  ProjectTree none;
+  none.last_id = tree_.last_id;
+  tree_ = std::move(none);
   prepared_.clear();
-  nodes_.clear();
-  top_nodes_.clear();
   file_.clear();
   folder_.clear();
+  modified_ = false;
 }
 
 void Project::addFolder(unsigned int parent, const FolderContent& content) {
-  const unsigned int id = add(parent, content.path, kFolderType);
+  const unsigned int id = add(parent, content.path, ProjectTree::kFolderType);
   for (const std::string& file : content.files) {
     add(id, file, std::string(extensionOf(file)));
   }
@@ -79,27 +83,21 @@ void Project::setPaths(const FolderContent& content) {
   for (const FolderContent& folder : content.folders) {
     const std::string_view name = fileName(folder.path);
     if (isIncludeFolder(name)) {
-      append(&include, folder.path);
+      append(&include, std::string(name));
     } else if (isSourceFolder(name)) {
-      append(&source, folder.path);
+      append(&source, std::string(name));
     }
   }
-  NodeInfo& top_node = nodes_[top_nodes_.front()];
-  if (!include.empty()) {
-    top_node.options[kIncludePathKind] = include;
-  }
-  if (!source.empty()) {
-    top_node.options[kSourcePathKind] = source;
-  }
+  setNodeOption(top(), kIncludePathKind, include);
+  setNodeOption(top(), kSourcePathKind, source);
 }
 
 const NodeInfo* Project::node(unsigned int id) const {
-  const auto found = nodes_.find(id);
-  return found == nodes_.end() ? nullptr : &found->second;
+  return tree_.find(id);
 }
 
 unsigned int Project::top() const {
-  return top_nodes_.empty() ? 0 : top_nodes_.front();
+  return tree_.top.empty() ? 0 : tree_.top.front();
 }
 
 unsigned int Project::firstChild(unsigned int id) const {
@@ -107,19 +105,14 @@ unsigned int Project::firstChild(unsigned int id) const {
   return info == nullptr || info->children.empty() ? 0 : info->children.front();
 }
 
-const std::vector<unsigned int>& Project::siblingsOf(const NodeInfo& info) const {
-  const NodeInfo* parent = node(info.parent);
-  return parent == nullptr ? top_nodes_ : parent->children;
-}
-
 unsigned int Project::nextSibling(unsigned int id) const {
   const NodeInfo* info = node(id);
   if (info == nullptr) {
     return 0;
   }
-  const std::vector<unsigned int>& siblings = siblingsOf(*info);
-  auto place = std::find(siblings.begin(), siblings.end(), id);
-  return place == siblings.end() || ++place == siblings.end() ? 0 : *place;
+  const NodeInfo* parent = node(info->parent);
+  const std::vector<unsigned int>& siblings = parent == nullptr ? tree_.top : parent->children;
+  return info->place + 1 < siblings.size() ? siblings[info->place + 1] : 0;
 }
 
 void Project::collect(const std::vector<unsigned int>& ids,
@@ -133,17 +126,12 @@ void Project::collect(const std::vector<unsigned int>& ids,
 
 std::vector<const NodeInfo*> Project::nodes() const {
   std::vector<const NodeInfo*> result;
-  collect(top_nodes_, &result);
+  collect(tree_.top, &result);
   return result;
 }
 
 int Project::depth(unsigned int id) const {
-  int result = 0;
-  for (const NodeInfo* info = node(id); info != nullptr && info->parent != 0;
-       info = node(info->parent)) {
-    ++result;
-  }
-  return result;
+  return tree_.level(id) - 1;
 }
 
 unsigned int Project::find(const std::string& name) const {
@@ -156,63 +144,55 @@ unsigned int Project::find(const std::string& name) const {
 }
 
 unsigned int Project::add(unsigned int parent, const std::string& name, const std::string& type) {
-  if (!loaded() || (parent != 0 && node(parent) == nullptr)) {
+  const NodeInfo* added = loaded() ? tree_.add(parent, name, type) : nullptr;
+  if (added == nullptr) {
     return 0;
   }
-  const unsigned int id = ++last_id_;
-  NodeInfo& info = nodes_[id];
-  info.id = id;
-  info.parent = parent;
-  info.name = name;
-  info.type = type;
-  (parent == 0 ? top_nodes_ : nodes_[parent].children).push_back(id);
-  return id;
+  modified_ = true;
+  return added->id;
 }
 
 bool Project::remove(unsigned int id) {
-  const NodeInfo* info = node(id);
-  if (info == nullptr) {
+  if (node(id) == nullptr) {
     return false;
   }
-  const unsigned int parent = info->parent;
-  std::erase(parent == 0 ? top_nodes_ : nodes_[parent].children, id);
-  std::vector<unsigned int> doomed = {id};
-  while (!doomed.empty()) {
-    const auto found = nodes_.find(doomed.back());
-    doomed.pop_back();
-    doomed.insert(doomed.end(), found->second.children.begin(), found->second.children.end());
-    nodes_.erase(found);
-  }
+  tree_.remove(id);
+  modified_ = true;
   return true;
 }
 
+void Project::assign(std::string* value, const std::string& text) {
+  modified_ = modified_ || *value != text;
+  *value = text;
+}
+
 bool Project::rename(unsigned int id, const std::string& name) {
-  const auto found = nodes_.find(id);
-  if (found == nodes_.end() || name.empty()) {
+  NodeInfo* info = tree_.find(id);
+  if (info == nullptr || name.empty()) {
     return false;
   }
-  found->second.name = name;
+  assign(&info->name, name);
   return true;
 }
 
 bool Project::describe(unsigned int id, const std::string& description) {
-  const auto found = nodes_.find(id);
-  if (found == nodes_.end()) {
+  NodeInfo* info = tree_.find(id);
+  if (info == nullptr) {
     return false;
   }
-  found->second.description = description;
+  assign(&info->description, description);
   return true;
 }
 
 bool Project::setNodeOption(unsigned int id, int kind, const std::string& text) {
-  const auto found = nodes_.find(id);
-  if (found == nodes_.end()) {
+  NodeInfo* info = tree_.find(id);
+  if (info == nullptr) {
     return false;
   }
   if (text.empty()) {
-    found->second.options.erase(kind);
+    modified_ = info->options.erase(kind) > 0 || modified_;
   } else {
-    found->second.options[kind] = text;
+    assign(&info->options[kind], text);
   }
   return true;
 }
@@ -227,9 +207,34 @@ const std::string* Project::nodeOption(unsigned int id, int kind) const {
   return nullptr;
 }
 
+bool Project::nodeFolders(unsigned int id, int kind, std::string* folders) const {
+  const std::string* text = nodeOption(id, kind);
+  if (text == nullptr) {
+    return false;
+  }
+  folders->clear();
+  std::string_view rest = *text;
+  while (!rest.empty()) {
+    const std::size_t end = rest.find(';');
+    const std::string_view folder = rest.substr(0, end);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    if (!folder.empty()) {
+      append(folders,
+             isAbsolutePath(folder) ? std::string(folder) : normalPath(joinPath(folder_, folder)));
+    }
+  }
+  return true;
+}
+
+void Project::setBuild(const std::string& command) {
+  if (loaded()) {
+    assign(&tree_.build, command);
+  }
+}
+
 const std::string* Project::option(const std::string& name) const {
-  const auto found = options_.find(name);
-  return found == options_.end() ? nullptr : &found->second;
+  const auto found = tree_.options.find(name);
+  return found == tree_.options.end() ? nullptr : &found->second;
 }
 
 unsigned int Project::prepareOption(const std::string& name, const std::string& bytes) {
@@ -245,7 +250,9 @@ bool Project::commitOption(unsigned int change) {
   if (found == prepared_.end()) {
     return false;
   }
-  options_[found->second.first] = std::move(found->second.second);
+  const auto [option, added] = tree_.options.emplace(found->second.first, std::string());
+  modified_ = modified_ || added;
+  assign(&option->second, found->second.second);
   prepared_.erase(found);
   return true;
 }

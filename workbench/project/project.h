@@ -1,40 +1,35 @@
-// The open project: its tree of nodes and the options kept in it. In memory only;
-// the options of a project closed are there again when it is reopened in the same
-// run. Plain values, one thread.
+// The open project: its tree of nodes and the options kept in it, whether from a
+// project file or made of a folder's sources. It knows what has changed since it
+// was loaded or saved. Plain values, one thread.
 #pragma once
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "workbench/project/folder_walk.h"
+#include "workbench/project/project_tree.h"
 
 namespace workbench {
-
-// Of a node: the folders searched for headers and for sources, separated by ";".
-inline constexpr int kIncludePathKind = 1;
-inline constexpr int kSourcePathKind = 3;
-
-struct NodeInfo {
-  unsigned int id = 0;
-  unsigned int parent = 0;  // 0 at the top level
-  std::string name;         // a file's full path, a folder's for a container
-  std::string type;         // a file's extension with ".", else a word
-  std::string description;
-  std::vector<unsigned int> children;
-  std::map<int, std::string> options;
-};
 
 // Whether other nodes may stand below it: a program, a library, or a word.
 bool isContainer(const NodeInfo& node);
 
 class Project {
  public:
-  // Fills the project from a walked folder, closing what was open.
-  void load(const FolderContent& content);
+  // FOLDER\NAME.ide, as the project of a folder is called.
+  static std::string fileFor(const std::string& folder);
+  // Fills the project from a walked folder, closing what was open; an empty file
+  // name means that of fileFor.
+  void load(const FolderContent& content, const std::string& file = {});
+  // Takes over what the project file held, closing what was open. The tree's ids
+  // must go on from lastId().
+  void load(const std::string& file, ProjectTree tree);
+  unsigned int lastId() const { return tree_.last_id; }
   void close();
   bool loaded() const { return !file_.empty(); }
-  // FOLDER\NAME.ide, empty without a project; no such file need exist.
+  // Full path, empty without a project; the file need not exist.
   const std::string& file() const { return file_; }
   const std::string& folder() const { return folder_; }
   // What a node of that type is called: the full path for a file or folder, which
@@ -62,29 +57,33 @@ class Project {
 
   // Own or inherited; null when none is set.
   const std::string* nodeOption(unsigned int id, int kind) const;
+  // The same with full paths. False when none is set.
+  bool nodeFolders(unsigned int id, int kind, std::string* folders) const;
   const std::string* option(const std::string& name) const;
+  const std::string& build() const { return tree_.build; }
+  void setBuild(const std::string& command);
+  // What is written to the project file.
+  const ProjectTree& tree() const { return tree_; }
+  // Whether it differs from what was loaded or saved.
+  bool modified() const { return modified_; }
+  void markSaved() { modified_ = false; }
   // Prepares a change; 0 without a project.
   unsigned int prepareOption(const std::string& name, const std::string& bytes);
   // Carries the change out; false for a change that is not there.
   bool commitOption(unsigned int change);
 
  private:
-  using Options = std::map<std::string, std::string>;
-
   void addFolder(unsigned int parent, const FolderContent& content);
   void setPaths(const FolderContent& content);
-  const std::vector<unsigned int>& siblingsOf(const NodeInfo& node) const;
   void collect(const std::vector<unsigned int>& ids, std::vector<const NodeInfo*>* result) const;
+  void assign(std::string* value, const std::string& text);
 
   std::string file_;
   std::string folder_;
-  std::map<unsigned int, NodeInfo> nodes_;
-  std::vector<unsigned int> top_nodes_;
-  unsigned int last_id_ = 0;  // never reused within a run
-  Options options_;
+  ProjectTree tree_;  // its last_id is never reused within a run
+  bool modified_ = false;
   std::map<unsigned int, std::pair<std::string, std::string>> prepared_;
   unsigned int last_change_ = 0;
-  std::map<std::string, Options> remembered_;  // by file name in lower case
 };
 
 }  // namespace workbench

@@ -70,6 +70,24 @@ Event optionEvent(const std::string& name, const std::string& bytes) {
 
 }  // namespace
 
+StepResult stepNewProject(StepTry& step) {
+  const bool made = step.stage.workbench.newProject(step.arg(0));
+  return made ? StepResult::kDone : step.fail("no project was made of " + step.arg(0));
+}
+
+StepResult stepSaveProject(StepTry& step) {
+  const bool saved = step.stage.workbench.saveProject();
+  return saved ? StepResult::kDone : step.fail("the project was not saved");
+}
+
+StepResult stepBuildCommand(StepTry& step) {
+  if (!step.stage.workbench.hasProject()) {
+    return noProject(step);
+  }
+  step.stage.workbench.setBuildCommand(step.arg(0));
+  return StepResult::kDone;
+}
+
 StepResult stepOption(StepTry& step) {
   Workbench& workbench = step.stage.workbench;
   if (!workbench.hasProject()) {

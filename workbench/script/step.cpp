@@ -27,6 +27,8 @@ Step stepOf(Verb verb) {
       return stepAddNode;
     case Verb::kAnswer:
       return stepAnswer;
+    case Verb::kBuildCommand:
+      return stepBuildCommand;
     case Verb::kCaret:
       return stepCaret;
     case Verb::kCheck:
@@ -71,6 +73,8 @@ Step stepOf(Verb verb) {
       return stepMessageOpen;
     case Verb::kMinimize:
       return stepMinimize;
+    case Verb::kNewProject:
+      return stepNewProject;
     case Verb::kNodePath:
       return stepNodePath;
     case Verb::kOpen:
@@ -95,6 +99,8 @@ Step stepOf(Verb verb) {
       return stepRightClickTitle;
     case Verb::kSave:
       return stepSave;
+    case Verb::kSaveProject:
+      return stepSaveProject;
     case Verb::kScreenshot:
       return stepScreenshot;
     case Verb::kSelect:

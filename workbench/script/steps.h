@@ -20,6 +20,9 @@ StepResult stepActivate(StepTry& step);
 StepResult stepDeactivate(StepTry& step);
 
 // project_steps.cpp: the project's tree and options, the message window
+StepResult stepNewProject(StepTry& step);
+StepResult stepSaveProject(StepTry& step);
+StepResult stepBuildCommand(StepTry& step);
 StepResult stepOption(StepTry& step);
 StepResult stepAddNode(StepTry& step);
 StepResult stepRenameNode(StepTry& step);

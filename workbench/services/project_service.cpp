@@ -3,6 +3,7 @@
 #include "workbench/app/workbench.h"
 #include "workbench/project/path_text.h"
 #include "workbench/project/project.h"
+#include "workbench/project/tool_table.h"
 #include "workbench/services/ide_string.h"
 #include "workbench/services/tool_service.h"
 
@@ -100,6 +101,9 @@ ProjectNode ProjectService::add(ProjectNode parent, const std::string& name,
                                 const std::string& type) {
   const unsigned int node = name.empty() ? 0 : context_.project.add(parent, name, type);
   if (node != 0) {
+    if (view_ != nullptr) {
+      view_->nodeAdded(node);
+    }
     clients_.each([node](IProjectClient* client) { client->NodeAdded(node); });
   }
   return node;
@@ -122,6 +126,9 @@ bool ProjectService::describe(ProjectNode node, const std::string& description) 
 }
 
 void ProjectService::tellChanged(ProjectNode node) {
+  if (view_ != nullptr) {
+    view_->nodeChanged(node);
+  }
   clients_.each([node](IProjectClient* client) { client->NodeChanged(node); });
   const NodeInfo* info = context_.project.node(node);
   if (info != nullptr && isContainer(*info)) {
@@ -143,17 +150,22 @@ int STDMETHODCALLTYPE ProjectService::RemoveNode(ProjectNode node) {
   }
   // Told while the node can still be asked for its name.
   clients_.each([node](IProjectClient* client) { client->NodeRemoved(node); });
-  return context_.project.remove(node) ? 1 : 0;
+  const bool removed = context_.project.remove(node);
+  if (removed && view_ != nullptr) {
+    view_->nodeRemoved(node);
+  }
+  return removed ? 1 : 0;
 }
 
-int STDMETHODCALLTYPE ProjectService::OpenNode(ProjectNode node, int) {
+int STDMETHODCALLTYPE ProjectService::OpenNode(ProjectNode node, int alternative) {
   const NodeInfo* info = context_.project.node(node);
-  if (info == nullptr || info->type.empty() || info->type[0] != '.') {
+  if (info == nullptr) {
     return kToolNotHandled;
   }
-  const std::string type = foldCase(info->type);
-  const char* tool = type == ".exe" ? "RunExecutable" : type == ".ide" ? "Project" : "EditText";
-  return tools_.run(tool, info->name);
+  const char* tool = alternative != 0 ? kEditTool : toolForType(info->type);
+  // The tool may change the tree.
+  const std::string name = info->name;
+  return tool == nullptr ? kToolNotHandled : tools_.run(tool, name);
 }
 
 int STDMETHODCALLTYPE ProjectService::GetOption(IIdeString* name, const void** data) {

@@ -11,6 +11,17 @@ namespace workbench {
 
 class ToolService;
 
+// Whoever shows the tree: it follows each change before the clients hear of it.
+class ProjectView {
+ public:
+  virtual void nodeAdded(unsigned int node) = 0;
+  virtual void nodeRemoved(unsigned int node) = 0;
+  virtual void nodeChanged(unsigned int node) = 0;
+
+ protected:
+  ~ProjectView() = default;
+};
+
 class ProjectService final : public Service<IProjectService> {
  public:
   // The tools must outlive the service.
@@ -44,6 +55,8 @@ class ProjectService final : public Service<IProjectService> {
   // The project was loaded, or is about to be closed: tell the clients.
   void announceOpened();
   void announceClosed();
+  // Null for none; it must outlive the service otherwise.
+  void setView(ProjectView* view) { view_ = view; }
   ClientList<IProjectClient>& clients() { return clients_; }
 
  private:
@@ -53,6 +66,7 @@ class ProjectService final : public Service<IProjectService> {
   ServiceContext context_;
   ToolService& tools_;
   ClientList<IProjectClient> clients_;
+  ProjectView* view_ = nullptr;
   std::string option_read_;  // what GetOption last pointed into
 };
 

@@ -17,8 +17,9 @@ OptionsService::OptionsService(const ServiceContext& context)
     : Service(context.live, "options service", ideapi::kOptionsService), context_(context) {}
 
 IIdeString* STDMETHODCALLTYPE OptionsService::GetNodeOption(ProjectNode node, int kind) {
-  const std::string* text = context_.project.nodeOption(node, kind);
-  return text != nullptr ? handOut(context_.live, *text) : nullptr;
+  std::string folders;
+  return context_.project.nodeFolders(node, kind, &folders) ? handOut(context_.live, folders)
+                                                            : nullptr;
 }
 
 int STDMETHODCALLTYPE OptionsService::AddChapter(IMpdChapter* chapter) {

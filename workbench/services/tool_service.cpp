@@ -7,6 +7,7 @@
 #include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
 #include "workbench/project/path_text.h"
+#include "workbench/project/tool_table.h"
 #include "workbench/services/client_list.h"
 #include "workbench/services/ide_string.h"
 
@@ -14,7 +15,7 @@ namespace workbench {
 
 ToolService::ToolService(const ServiceContext& context)
     : Service(context.live, "tool service", ideapi::kToolService), context_(context) {
-  for (const char* name : {"EditText", "Project", "RunExecutable"}) {
+  for (const char* name : kOwnTools) {
     tools_.push_back({++last_handle_, name, "", nullptr});
   }
 }
@@ -47,8 +48,13 @@ int ToolService::run(const std::string& name, const std::string& file) {
   return result;
 }
 
-int ToolService::runFromMenu(ToolHandle handle) {
-  return runTool(find(handle), nullptr);
+int ToolService::runFromMenu(ToolHandle handle, const std::string& file) {
+  IIdeString* text = file.empty() ? nullptr : handOut(context_.live, file);
+  const int result = runTool(find(handle), text);
+  if (text != nullptr) {
+    text->Release();
+  }
+  return result;
 }
 
 int ToolService::runTool(const Tool* tool, IIdeString* file) {
@@ -71,24 +77,45 @@ int ToolService::runTool(const Tool* tool, IIdeString* file) {
 }
 
 int ToolService::runOwn(const std::string& name, const std::string& file) {
+  Workbench& workbench = context_.workbench;
   if (file.empty()) {
     return kToolNotHandled;
   }
-  if (name == "EditText") {
-    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
+  if (name == kEditTool) {
+    return workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   if (name == "Project") {
-    return context_.workbench.openPath(file) ? kToolDone : kToolErrors;
+    return workbench.openPath(file) ? kToolDone : kToolErrors;
   }
-  return runExecutable(context_.workbench.resolve(file));
+  if (name == "RunExecutable") {
+    return openWithSystem(workbench.resolve(file)) ? kToolDone : kToolErrors;
+  }
+  if (name == "ClassExpert") {
+    return kToolNotHandled;
+  }
+  return view(workbench.resolve(file));
 }
 
-int ToolService::runExecutable(const std::string& file) {
+// Resource scripts are texts; the rest is for whatever program the system has.
+int ToolService::view(const std::string& file) {
+  const std::string type = foldCase(extensionOf(file));
+  if (type == ".rc" || type == ".dlg" || type == ".rh") {
+    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
+  }
+  return openWithSystem(file) ? kToolDone : kToolNotHandled;
+}
+
+bool ToolService::openWithSystem(const std::string& file) {
   const std::string folder(folderOf(file));
-  const HINSTANCE result = ShellExecuteA(context_.workbench.frame(), "open", file.c_str(), nullptr,
-                                         folder.c_str(), SW_SHOWNORMAL);
-  // Values up to 32 are errors.
-  return reinterpret_cast<INT_PTR>(result) > 32 ? kToolDone : kToolErrors;
+  SHELLEXECUTEINFOA info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SEE_MASK_FLAG_NO_UI;
+  info.hwnd = context_.workbench.frame();
+  info.lpVerb = "open";
+  info.lpFile = file.c_str();
+  info.lpDirectory = folder.c_str();
+  info.nShow = SW_SHOWNORMAL;
+  return ShellExecuteExA(&info) != 0;
 }
 
 ToolHandle STDMETHODCALLTYPE ToolService::AddTool(IIdeString* name, IIdeString* menu_text,

@@ -1,5 +1,4 @@
-// The tools of the IDE: its own ("EditText", "Project", "RunExecutable") and
-// those that add-ons bring. User-interface thread only.
+// The tools of the IDE: its own and those that add-ons bring. User-interface thread only.
 #pragma once
 
 #include <functional>
@@ -28,8 +27,8 @@ class ToolService final : public Service<IToolService> {
   void STDMETHODCALLTYPE RemoveTool(ToolHandle tool) override;
 
   int run(const std::string& name, const std::string& file);
-  // Runs a tool of the menu on no file.
-  int runFromMenu(ToolHandle tool);
+  // Runs a tool of the menu; an empty file is none.
+  int runFromMenu(ToolHandle tool, const std::string& file);
   std::vector<MenuTool> menuTools() const;
   // Called when a tool of the menu came or went.
   void setMenuListener(std::function<void()> listener) { menu_changed_ = std::move(listener); }
@@ -47,7 +46,8 @@ class ToolService final : public Service<IToolService> {
   const Tool* find(ToolHandle handle) const;
   int runOwn(const std::string& name, const std::string& file);
   int runTool(const Tool* tool, IIdeString* file);
-  int runExecutable(const std::string& file);
+  int view(const std::string& file);
+  bool openWithSystem(const std::string& file);
 
   ServiceContext context_;
   std::vector<Tool> tools_;

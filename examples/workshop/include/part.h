@@ -1,0 +1,7 @@
+// A part of the workshop's stock.
+#pragma once
+
+struct Part {
+  const char* name;
+  int length;  // millimetres
+};

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle01() {
+  return Part{"axle 1", 5};
+}

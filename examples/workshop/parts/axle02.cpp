@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle02() {
+  return Part{"axle 2", 10};
+}

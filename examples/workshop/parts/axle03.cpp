@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle03() {
+  return Part{"axle 3", 15};
+}

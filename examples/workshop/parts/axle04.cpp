@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle04() {
+  return Part{"axle 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle06() {
+  return Part{"axle 6", 30};
+}

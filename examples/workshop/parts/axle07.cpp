@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle07() {
+  return Part{"axle 7", 35};
+}

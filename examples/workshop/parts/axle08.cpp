@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle08() {
+  return Part{"axle 8", 40};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part axle09() {
+  return Part{"axle 9", 45};
+}

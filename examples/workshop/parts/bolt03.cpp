@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt03() {
+  return Part{"bolt 3", 15};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt04() {
+  return Part{"bolt 4", 20};
+}

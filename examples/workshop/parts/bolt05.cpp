@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt05() {
+  return Part{"bolt 5", 25};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt06() {
+  return Part{"bolt 6", 30};
+}

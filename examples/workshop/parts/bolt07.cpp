@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt07() {
+  return Part{"bolt 7", 35};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bolt10() {
+  return Part{"bolt 10", 50};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket01() {
+  return Part{"bracket 1", 5};
+}

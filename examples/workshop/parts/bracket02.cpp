@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket02() {
+  return Part{"bracket 2", 10};
+}

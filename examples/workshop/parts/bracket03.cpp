@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket03() {
+  return Part{"bracket 3", 15};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket05() {
+  return Part{"bracket 5", 25};
+}

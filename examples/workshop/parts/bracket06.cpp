@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket06() {
+  return Part{"bracket 6", 30};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket08() {
+  return Part{"bracket 8", 40};
+}

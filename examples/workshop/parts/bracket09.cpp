@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part bracket09() {
+  return Part{"bracket 9", 45};
+}

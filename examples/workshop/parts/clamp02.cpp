@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp02() {
+  return Part{"clamp 2", 10};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp04() {
+  return Part{"clamp 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp06() {
+  return Part{"clamp 6", 30};
+}

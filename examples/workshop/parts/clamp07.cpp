@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp07() {
+  return Part{"clamp 7", 35};
+}

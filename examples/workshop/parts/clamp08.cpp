@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp08() {
+  return Part{"clamp 8", 40};
+}

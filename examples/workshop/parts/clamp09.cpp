@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part clamp09() {
+  return Part{"clamp 9", 45};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part gear02() {
+  return Part{"gear 2", 10};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part gear04() {
+  return Part{"gear 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part gear06() {
+  return Part{"gear 6", 30};
+}

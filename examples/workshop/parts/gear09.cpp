@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part gear09() {
+  return Part{"gear 9", 45};
+}

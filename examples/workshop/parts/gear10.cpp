@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part gear10() {
+  return Part{"gear 10", 50};
+}

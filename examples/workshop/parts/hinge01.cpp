@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part hinge01() {
+  return Part{"hinge 1", 5};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part hinge04() {
+  return Part{"hinge 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part hinge05() {
+  return Part{"hinge 5", 25};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part hinge06() {
+  return Part{"hinge 6", 30};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part hinge08() {
+  return Part{"hinge 8", 40};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part nut01() {
+  return Part{"nut 1", 5};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part nut03() {
+  return Part{"nut 3", 15};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part nut06() {
+  return Part{"nut 6", 30};
+}

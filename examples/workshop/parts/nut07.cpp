@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part nut07() {
+  return Part{"nut 7", 35};
+}

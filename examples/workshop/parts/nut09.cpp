@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part nut09() {
+  return Part{"nut 9", 45};
+}

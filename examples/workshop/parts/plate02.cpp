@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part plate02() {
+  return Part{"plate 2", 10};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part plate04() {
+  return Part{"plate 4", 20};
+}

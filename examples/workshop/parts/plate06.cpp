@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part plate06() {
+  return Part{"plate 6", 30};
+}

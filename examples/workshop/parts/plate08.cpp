@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part plate08() {
+  return Part{"plate 8", 40};
+}

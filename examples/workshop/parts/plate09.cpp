@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part plate09() {
+  return Part{"plate 9", 45};
+}

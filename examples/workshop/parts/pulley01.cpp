@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley01() {
+  return Part{"pulley 1", 5};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley02() {
+  return Part{"pulley 2", 10};
+}

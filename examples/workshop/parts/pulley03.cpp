@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley03() {
+  return Part{"pulley 3", 15};
+}

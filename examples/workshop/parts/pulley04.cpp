@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley04() {
+  return Part{"pulley 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley05() {
+  return Part{"pulley 5", 25};
+}

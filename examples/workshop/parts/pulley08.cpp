@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part pulley08() {
+  return Part{"pulley 8", 40};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod01() {
+  return Part{"rod 1", 5};
+}

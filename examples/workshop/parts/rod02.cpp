@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod02() {
+  return Part{"rod 2", 10};
+}

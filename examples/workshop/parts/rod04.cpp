@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod04() {
+  return Part{"rod 4", 20};
+}

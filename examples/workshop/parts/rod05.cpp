@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod05() {
+  return Part{"rod 5", 25};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod07() {
+  return Part{"rod 7", 35};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod08() {
+  return Part{"rod 8", 40};
+}

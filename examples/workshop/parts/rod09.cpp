@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod09() {
+  return Part{"rod 9", 45};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part rod10() {
+  return Part{"rod 10", 50};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part spring02() {
+  return Part{"spring 2", 10};
+}

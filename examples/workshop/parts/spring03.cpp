@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part spring03() {
+  return Part{"spring 3", 15};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part spring04() {
+  return Part{"spring 4", 20};
+}

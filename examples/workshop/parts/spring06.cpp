@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part spring06() {
+  return Part{"spring 6", 30};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part spring10() {
+  return Part{"spring 10", 50};
+}

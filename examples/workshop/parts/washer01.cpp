@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer01() {
+  return Part{"washer 1", 5};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer03() {
+  return Part{"washer 3", 15};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer04() {
+  return Part{"washer 4", 20};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer05() {
+  return Part{"washer 5", 25};
+}

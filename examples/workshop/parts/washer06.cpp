@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer06() {
+  return Part{"washer 6", 30};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer08() {
+  return Part{"washer 8", 40};
+}

@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer09() {
+  return Part{"washer 9", 45};
+}

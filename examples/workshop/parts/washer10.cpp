@@ -1,0 +1,5 @@
+#include "part.h"
+
+Part washer10() {
+  return Part{"washer 10", 50};
+}

@@ -1,0 +1,116 @@
+#include "workbench/make/output_line.h"
+
+#include <string>
+#include <vector>
+
+#include "doctest.h"
+#include "workbench/messages/message_store.h"
+
+using namespace workbench;
+
+TEST_CASE("places in a compiler's output") {
+  const struct {
+    const char* line;
+    const char* file;
+    int number;
+    int column;
+    int kind;
+    const char* text;
+  } cases[] = {
+      {"a.cpp:12:7: error: no", "a.cpp", 12, 7, kMessageError, "error: no"},
+      {"C:\\p\\a.cpp:12: warning: odd", "C:\\p\\a.cpp", 12, 0, kMessageWarning, "warning: odd"},
+      {"src/my file.h:3: note: here", "src/my file.h", 3, 0, kMessageInformation, "note: here"},
+      {"D:\\a.c(4): error C2065: x", "D:\\a.c", 4, 0, kMessageError, "error C2065: x"},
+      {"a (1)\\b.c(4,9) : warning: y", "a (1)\\b.c", 4, 9, kMessageWarning, "warning: y"},
+      {"Error E2451 a.cpp 8: Undefined symbol", "a.cpp", 8, 0, kMessageError, "Undefined symbol"},
+      {"Warning my dir\\a.cpp 8: unused", "my dir\\a.cpp", 8, 0, kMessageWarning, "unused"},
+      {"Fatal F1003 a.h 2: gone", "a.h", 2, 0, kMessageError, "gone"},
+      {"a.cpp:12:x", "a.cpp", 12, 0, kMessageInformation, "x"},
+      // No places.
+      {"make: *** [all] Error 2", "", 0, 0, kMessageInformation, "make: *** [all] Error 2"},
+      {"12:30:15: started", "", 0, 0, kMessageInformation, "12:30:15: started"},
+      {"a.cpp:0: zero", "", 0, 0, kMessageInformation, "a.cpp:0: zero"},
+      {"a.cpp:99999999999: far", "", 0, 0, kMessageInformation, "a.cpp:99999999999: far"},
+      {"a.cpp(12", "", 0, 0, kMessageInformation, "a.cpp(12"},
+      {"error: no input files", "", 0, 0, kMessageError, "error: no input files"},
+      {"Warning", "", 0, 0, kMessageWarning, "Warning"},
+      {"C:", "", 0, 0, kMessageInformation, "C:"},
+      {"", "", 0, 0, kMessageInformation, ""},
+  };
+  for (const auto& each : cases) {
+    CAPTURE(each.line);
+    const OutputLine line = parseOutputLine(each.line);
+    CHECK(line.file == each.file);
+    CHECK(line.line == each.number);
+    CHECK(line.column == each.column);
+    CHECK(line.kind == each.kind);
+    CHECK(line.text == each.text);
+  }
+}
+
+TEST_CASE("lines are the same however their bytes arrive") {
+  const std::string bytes = "one\r\ntwo\n\nthree\rfour\r\n\r\nlast";
+  const std::vector<std::string> expected = {"one", "two", "", "three", "four", "", "last"};
+  for (std::size_t piece = 1; piece <= bytes.size(); ++piece) {
+    LineSplitter splitter;
+    std::vector<std::string> lines;
+    for (std::size_t at = 0; at < bytes.size(); at += piece) {
+      splitter.add(std::string_view(bytes).substr(at, piece), &lines);
+    }
+    splitter.finish(&lines);
+    splitter.finish(&lines);
+    CHECK(lines == expected);
+  }
+  LineSplitter splitter;
+  std::vector<std::string> parts;
+  splitter.add(std::string(2 * LineSplitter::kLongestLine + 1, 'x'), &parts);
+  splitter.finish(&parts);
+  CHECK(parts.size() == 3);
+}
+
+TEST_CASE("commands for the interpreter") {
+  for (const char* command : {"echo hello", "ECHO", "a.exe > b", "one&two", "build.bat all",
+                              "\"C:\\my tools\\build.CMD\" x", "type \"a\"", "%TOOL% x"}) {
+    CAPTURE(command);
+    CHECK(needsInterpreter(command));
+  }
+  for (const char* command : {"make all", "echoes x", "\"C:\\my tools\\set.exe\" x", "bat", ""}) {
+    CAPTURE(command);
+    CHECK_FALSE(needsInterpreter(command));
+  }
+}
+
+TEST_CASE("messages stand below their parents") {
+  MessageStore store;
+  const auto add = [&store](unsigned int group, unsigned int parent, const char* text) {
+    Message message;
+    message.parent = parent;
+    message.text = text;
+    return store.add(group, message);
+  };
+  const unsigned int build = MessageStore::kBuildGroup;
+  const unsigned int other = store.createGroup("Other", "&Other");
+  REQUIRE(store.group(other) != nullptr);
+  const unsigned int first = add(build, 0, "1");
+  add(build, 0, "2");
+  const unsigned int inner = add(build, first, "1.1");
+  const unsigned int last = add(build, first, "1.2");
+  add(build, inner, "1.1.1");
+  add(build, last, "1.2.1");
+  add(other, first, "not its group");
+  add(build, 4711, "no such parent");
+  CHECK(add(77, 0, "no such group") == 0);
+  CHECK(add(0, 0, "no group") == 0);
+  std::string shown;
+  for (const Message& message : store.group(build)->messages) {
+    shown += std::string(static_cast<std::size_t>(message.depth), ' ') + message.text + "|";
+  }
+  CHECK(shown == "1| 1.1|  1.1.1| 1.2|  1.2.1|2|no such parent|");
+  CHECK(store.group(other)->messages[0].depth == 0);
+
+  store.clear(build);
+  CHECK(store.group(build)->messages.empty());
+  CHECK(add(build, inner, "its parent is gone") != 0);
+  CHECK(store.group(build)->messages[0].depth == 0);
+  CHECK(store.group(other)->messages.size() == 1);
+}

@@ -1,0 +1,179 @@
+// What the commands about the project's nodes do; they work on the node that is
+// selected in the project window.
+#include "workbench/app/application.h"
+#include "workbench/app/command_ids.h"
+#include "workbench/app/file_dialogs.h"
+#include "workbench/app/node_dialogs.h"
+#include "workbench/project/path_text.h"
+
+namespace workbench {
+namespace {
+
+std::string ownOption(const NodeInfo& node, int kind) {
+  const auto found = node.options.find(kind);
+  return found == node.options.end() ? std::string() : found->second;
+}
+
+}  // namespace
+
+bool Application::nodeCommand(int id) {
+  if (id < CM_NODE_OPEN || id > CM_PROJECT_BUILD_COMMAND || !commandEnabled(id)) {
+    return false;
+  }
+  switch (id) {
+    case CM_NODE_OPEN:
+      openNode(project_window_.selected(), false);
+      return true;
+    case CM_NODE_ADD_FILES:
+      addFiles();
+      return true;
+    case CM_NODE_ADD_CONTAINER:
+      addContainer();
+      return true;
+    case CM_NODE_RENAME:
+      project_window_.beginRename();
+      return true;
+    case CM_NODE_REMOVE:
+      removeSelected();
+      return true;
+    case CM_NODE_PROPERTIES:
+      editSelected();
+      return true;
+    case CM_PROJECT_BUILD_COMMAND:
+      editBuild();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Application::openNode(unsigned int node, bool alternative) {
+  const NodeInfo* info = project_.node(node);
+  if (info == nullptr) {
+    return;
+  }
+  const std::string name = info->name;
+  if (root_.project().OpenNode(node, alternative ? 1 : 0) == kToolNotHandled) {
+    setStatus("No tool opens " + name);
+  }
+}
+
+// The last part of a path is what was edited.
+void Application::renameFromWindow(unsigned int node, const std::string& name) {
+  const NodeInfo* info = project_.node(node);
+  if (info == nullptr) {
+    return;
+  }
+  const bool path =
+      isPathName(info->name, info->type) && fileName(name).size() == name.size() && name[0] != '#';
+  renameNode(node, path ? joinPath(folderOf(info->name), name) : name);
+}
+
+unsigned int Application::parentForNew() const {
+  unsigned int id = project_window_.selected();
+  if (id == 0) {
+    id = project_.top();
+  }
+  const NodeInfo* info = project_.node(id);
+  while (info != nullptr && !isContainer(*info)) {
+    info = project_.node(info->parent);
+  }
+  return info != nullptr ? info->id : 0;
+}
+
+void Application::addFiles() {
+  std::vector<std::string> paths;
+  if (!askOpenNames(frame_.window(), project_.folder(), &paths)) {
+    return;
+  }
+  const unsigned int parent = parentForNew();
+  int added = 0;
+  for (const std::string& path : paths) {
+    std::string type(extensionOf(path));
+    // A file without an extension is a text like any other.
+    added += addNode(parent, path, type.empty() ? ".txt" : type) != 0 ? 1 : 0;
+  }
+  setStatus("Added " + std::to_string(added) + (added == 1 ? " file" : " files"));
+}
+
+void Application::addContainer() {
+  NodeFields fields;
+  fields.type = "Group";
+  if (!askNode(frame_.window(), true, &fields)) {
+    return;
+  }
+  // Targets stand at the top, groups where one is.
+  const bool target = !fields.type.empty() && fields.type[0] == '.';
+  const unsigned int node = addNode(target ? 0 : parentForNew(), fields.name, fields.type);
+  if (node == 0) {
+    showError(fields.name + " cannot be added here.");
+    return;
+  }
+  if (!fields.description.empty()) {
+    describeNode(node, fields.description);
+  }
+  setNodePath(node, kIncludePathKind, fields.include);
+  setNodePath(node, kSourcePathKind, fields.source);
+}
+
+void Application::removeSelected() {
+  const NodeInfo* info = project_.node(project_window_.selected());
+  if (info == nullptr) {
+    return;
+  }
+  const unsigned int id = info->id;
+  std::string question = "Remove " + info->name;
+  question += info->children.empty() ? "" : " and all that is below it";
+  question += " from the project?\n\nFiles stay on the disk.";
+  if (ask(question, MB_YESNO | MB_ICONQUESTION) == IDYES) {
+    removeNode(id);
+  }
+}
+
+void Application::editSelected() {
+  const NodeInfo* info = project_.node(project_window_.selected());
+  if (info == nullptr) {
+    return;
+  }
+  const unsigned int id = info->id;
+  const NodeFields before = {info->name, info->type, info->description,
+                             ownOption(*info, kIncludePathKind), ownOption(*info, kSourcePathKind)};
+  NodeFields fields = before;
+  if (!askNode(frame_.window(), false, &fields)) {
+    return;
+  }
+  if (fields.name != before.name) {
+    renameNode(id, fields.name);
+  }
+  if (fields.description != before.description) {
+    describeNode(id, fields.description);
+  }
+  if (fields.include != before.include) {
+    setNodePath(id, kIncludePathKind, fields.include);
+  }
+  if (fields.source != before.source) {
+    setNodePath(id, kSourcePathKind, fields.source);
+  }
+}
+
+void Application::editBuild() {
+  std::string command = project_.build();
+  if (askBuild(frame_.window(), &command)) {
+    project_.setBuild(command);
+  }
+}
+
+// On the file that is being worked on: that of the active editor, or the one
+// selected in the project window while that is active.
+void Application::runTool(ToolHandle tool) {
+  std::string file;
+  if (EditorChild* child = editors_.active()) {
+    file = child->file();
+  } else if (project_window_.active()) {
+    const NodeInfo* info = project_.node(project_window_.selected());
+    file = info != nullptr ? info->name : std::string();
+  }
+  root_.tools().runFromMenu(tool, file);
+}
+
+}  // namespace workbench
