@@ -5,6 +5,7 @@
 #include <new>
 
 #include "addon/addon_hook_host.h"
+#include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/access.h"
@@ -12,10 +13,15 @@
 #include "addon/ide/help_file.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
+#include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
+#include "addon/ide/tool_table.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
+#include "addon/project_order.h"
+#include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
+#include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
 
 namespace kesto {
@@ -26,6 +32,7 @@ constexpr char kSettingsRoot[] = R"(SOFTWARE\Borland\Borland C++\5.0\Ide\AddOns\
 HWND barWindow = nullptr;
 bool oleInitialised = false;
 AddonHookHost hookHost;
+MenuFeatures menuFeatures;
 
 // A slot that memory was too short for stays null, and the start goes on.
 template <class T, class... Arguments>
@@ -77,27 +84,52 @@ void startAddon(IIde* ide) {
   create(helpFile, instance, barWindow);
   create(editorNavigation, barWindow, new_shell);
   create(topBar, new_shell, barWindow);
+  create(barMenu, barWindow, menuFeatures);
   create(completionSettings);
+  create(generalBehaviours);
   create(editorServiceHolder);
   create(statusLineServiceHolder);
+  create(toolTable);
 
   ShowWindow(barWindow, topBar->enabled() ? SW_SHOW : SW_HIDE);
   create(hookSet, barWindow, hookHost);
+  projectOrder = &kProjectOrder;
+  makeOrder = &kMakeOrder;
+  create(projectTestA);
+  if (projectTestA != nullptr) {
+    projectTestA->registerClients();
+  }
+  create(recentFiles, barWindow);
   create(optionsServiceHolder);
+  // The IDE may have no project to tell of; the menus come without one as well.
+  PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);
 }
 
 void stopAddon() {
+  if (recentFiles != nullptr) {
+    recentFiles->save();
+  }
+  destroy(recentFiles);
   destroy(quickFind);
   destroy(hookSet);
   destroy(helpFile);
   destroy(editorNavigation);
+  destroy(barMenu);
   destroy(topBar);
   destroy(completionSettings);
   destroy(editorServiceHolder);
+  destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
+  destroy(toolTable);
   DestroyWindow(barWindow);
   barWindow = nullptr;
+  if (projectTestA != nullptr) {
+    projectTestA->unregisterClients();
+  }
   destroy(optionsServiceHolder);
+  destroy(projectTestA);
+  projectOrder = nullptr;
+  makeOrder = nullptr;
   releaseIde();
 }
 

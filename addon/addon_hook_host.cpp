@@ -1,5 +1,6 @@
 #include "addon/addon_hook_host.h"
 
+#include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
@@ -36,6 +37,12 @@ bool AddonHookHost::barWatchesProjectView() const {
 
 bool AddonHookHost::barStaysOnTop() const {
   return topBar != nullptr && topBar->alwaysOnTop();
+}
+
+void AddonHookHost::resetAutoSave() {
+  if (generalBehaviours != nullptr) {
+    generalBehaviours->resetAutoSave();
+  }
 }
 
 }  // namespace kesto

@@ -15,6 +15,7 @@ class AddonHookHost : public HookHost {
   bool barFollowsFrame() const override;
   bool barWatchesProjectView() const override;
   bool barStaysOnTop() const override;
+  void resetAutoSave() override;
 };
 
 }  // namespace kesto

@@ -142,11 +142,11 @@ int SettingsStore::readInteger(const char* section, const char* name, int defaul
   return parseInteger(text, default_value);
 }
 
-void SettingsStore::readList(const char* section, const char* list,
-                             Tableau<String>& entries) const {
+void SettingsStore::readList(const char* section, const char* list, Tableau<String>& entries,
+                             int limit) const {
   const String count_name = joined("Nb", "", list);
   const String subsection = joined(section, "\\", list);
-  const int count = std::min(readInteger(section, count_name, 0), kListLimit);
+  const int count = std::min({readInteger(section, count_name, 0), limit, kListLimit});
   entries.clear();
   for (int i = 0; i < count; ++i) {
     char text[kValueSize];

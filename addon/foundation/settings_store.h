@@ -38,9 +38,10 @@ class SettingsStore {
   int readInteger(const char* section, const char* name, int default_value) const;
 
   // A list: its count in the section as "Nb" + list, its entries as "Entry0" and so
-  // on in the section's subsection list. Reading replaces the entries; one that is
-  // missing reads as "not found".
-  void readList(const char* section, const char* list, Tableau<String>& entries) const;
+  // on in the section's subsection list. Reading replaces the entries by at most limit
+  // of them; one that is missing reads as "not found".
+  void readList(const char* section, const char* list, Tableau<String>& entries,
+                int limit = kListLimit) const;
   bool writeList(const char* section, const char* list, const Tableau<String>& entries);
 
  private:

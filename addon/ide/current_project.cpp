@@ -8,13 +8,8 @@
 namespace kesto {
 namespace {
 
-ComPtr<IProjectService> loadedProjectService() {
-  ComPtr<IProjectService> service = getService<IProjectService>(ideapi::kProjectService);
-  if (service && service->IsProjectLoaded() == 0) {
-    service.reset();
-  }
-  return service;
-}
+bool openFlag = false;
+std::string openFileName;
 
 std::string currentDirectory() {
   char directory[MAX_PATH] = "";
@@ -29,13 +24,24 @@ std::string currentDirectory() {
 }  // namespace
 
 bool isProjectOpen() {
-  return static_cast<bool>(loadedProjectService());
+  return openFlag;
+}
+
+void setProjectOpen(bool open) {
+  openFlag = open;
+}
+
+const std::string& projectFile() {
+  return openFileName;
+}
+
+void setProjectFile(std::string file) {
+  openFileName = std::move(file);
 }
 
 std::string projectDirectory() {
-  if (const ComPtr<IProjectService> service = loadedProjectService()) {
-    const std::unique_ptr<char[]> file = takeIdeString(service->GetProjectFile());
-    const std::string_view directory = directoryPart(file != nullptr ? file.get() : "");
+  if (openFlag) {
+    const std::string_view directory = directoryPart(openFileName);
     if (!directory.empty()) {
       return std::string(directory);
     }
@@ -44,7 +50,8 @@ std::string projectDirectory() {
 }
 
 ProjectNode nodeOfFile(const char* file) {
-  const ComPtr<IProjectService> service = loadedProjectService();
+  const ComPtr<IProjectService> service =
+      openFlag ? getService<IProjectService>(ideapi::kProjectService) : ComPtr<IProjectService>();
   if (!service) {
     return 0;
   }

@@ -1,5 +1,5 @@
-// The project that is open in the IDE, as the searches need it. What is
-// returned is the caller's copy. User-interface thread only.
+// The project that is open in the IDE. The project client fills the slots.
+// User-interface thread only.
 #pragma once
 
 #include <string>
@@ -8,9 +8,15 @@
 
 namespace kesto {
 
-// True while a project is loaded.
+// True from the end of a successful opening to the project's closing.
 bool isProjectOpen();
-// The folder of the project file, else the current directory; no trailing separator.
+void setProjectOpen(bool open);
+// Full path of the project file that was opened last.
+const std::string& projectFile();
+void setProjectFile(std::string file);
+
+// The folder of the open project's file, else the current directory; no trailing
+// separator.
 std::string projectDirectory();
 // The node of the file, or the project's top node when the file is not in it;
 // 0 when no project is open.

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "addon/foundation/path.h"
-#include "addon/ide/access.h"
 #include "addon/ide/find_window.h"
-#include "addon/ide/status_line.h"
+#include "addon/ide/tool_runs.h"
+#include "ideapi/ide_identifiers.h"
 
 namespace kesto {
 namespace {
@@ -14,33 +14,7 @@ constexpr int kTitleSize = 512;
 
 bool openInOtherView = false;
 
-int runTool(const char* tool_name, const char* path) {
-  const ComPtr<IToolService> service = getService<IToolService>(ideapi::kToolService);
-  const ComPtr<IIdeString> name = makeIdeString(tool_name);
-  const ComPtr<IIdeString> file = makeIdeString(path);
-  if (!service || !name || !file) {
-    return kToolNotHandled;
-  }
-  const ToolHandle tool = service->FindTool(name.get());
-  return tool != 0 ? service->RunTool(tool, file.get()) : static_cast<int>(kToolNotHandled);
-}
-
 }  // namespace
-
-const char* toolResultText(int result) {
-  switch (result) {
-    case kToolNotHandled:
-      return "Tool non handled";
-    case kToolWarnings:
-      return "Tool: Warnings";
-    case kToolErrors:
-      return "Tool: Errors";
-    case kToolFatal:
-      return "Tool: Fatal error";
-    default:
-      return nullptr;
-  }
-}
 
 HWND findEditorTitled(const char* path, HWND other_than) {
   std::string wanted(path);
@@ -70,20 +44,19 @@ void setOpenInOtherView(bool on) {
   openInOtherView = on;
 }
 
+bool wantsOtherView() {
+  return openInOtherView || GetKeyState(VK_SHIFT) < 0;
+}
+
 bool openFile(const char* path) {
-  if (!openInOtherView && GetKeyState(VK_SHIFT) >= 0) {
+  if (!wantsOtherView()) {
     if (const HWND editor = findEditorTitled(path, nullptr)) {
       raiseEditor(editor);
       SetActiveWindow(editor);
       return true;
     }
   }
-  const int result = runTool("EditText", path);
-  if (const char* text = toolResultText(result)) {
-    showStatus(text);
-    return false;
-  }
-  return true;
+  return runTool("EditText", path);
 }
 
 }  // namespace kesto

@@ -13,8 +13,9 @@ bool openFile(const char* path);
 // Whether a file that is open already gets another view; off at start.
 void setOpenInOtherView(bool on);
 
-// The status text of a tool's result, null for a success.
-const char* toolResultText(int result);
+// Whether a file that is open gets another view now: by that setting, or by the
+// Shift key.
+bool wantsOtherView();
 
 // The editor window whose title is the path, regardless of case and other than
 // the given one (null: any); null when there is none.

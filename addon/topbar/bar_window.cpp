@@ -1,5 +1,6 @@
 #include "addon/topbar/bar_window.h"
 
+#include "addon/behaviours/general_behaviours.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/header_recorder.h"
@@ -12,6 +13,8 @@ namespace kesto {
 namespace {
 
 constexpr UINT kStartUpItem = 99;
+constexpr UINT_PTR kTimer = 1;
+constexpr UINT kTimerPeriod = 1000;  // milliseconds
 constexpr char kStartUpText[] = "Kesto Addon for Borland C++ 5.0 initializing...";
 
 bool isTitlePopupOpen() {
@@ -47,6 +50,17 @@ void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
 
 LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_CREATE:
+      SetTimer(bar, kTimer, kTimerPeriod, nullptr);
+      break;
+    case WM_DESTROY:
+      KillTimer(bar, kTimer);
+      break;
+    case WM_TIMER:
+      if (generalBehaviours != nullptr) {
+        generalBehaviours->timerTick();
+      }
+      return 0;
     case WM_COMMAND: {
       const int id = LOWORD(wParam);
       if (id != kCommandPaintButtons) {

@@ -10,6 +10,8 @@
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/navigation/title_commands.h"
+#include "addon/topbar/bar_commands.h"
+#include "addon/topbar/bar_menu.h"
 #include "addon/topbar/caption_window.h"
 #include "ideapi/ide_identifiers.h"
 
@@ -30,6 +32,7 @@ struct CommandRange {
   int last;
   Handler handler;     // null: nothing answers to these ids
   const char* status;  // text while the item is highlighted, null for a blank line
+  std::string (*subject)(int position) = nullptr;  // what the text goes on with
 };
 
 bool completeWord(const Command&) {
@@ -90,10 +93,29 @@ bool openOptions(const Command&) {
   return true;
 }
 
+bool newEditor(const Command& command) {
+  onEditorCreated(reinterpret_cast<HWND>(command.lParam));
+  return true;
+}
+
+bool rebuildMenu(const Command&) {
+  if (barMenu != nullptr) {
+    barMenu->rebuild();
+  }
+  return true;
+}
+
+// A command whose work knows its position alone.
+template <void (*Work)(int)>
+bool atPosition(const Command& command) {
+  Work(command.position);
+  return true;
+}
+
 constexpr CommandRange kCommands[] = {
-    {101, 101, nullptr, nullptr},  // an editor was created
+    {101, 101, newEditor, nullptr},
     {102, 102, completeWord, nullptr},
-    {103, 103, nullptr, nullptr},  // rebuild the bar's menu
+    {103, 103, rebuildMenu, nullptr},
     {104, 104, placeCaption, nullptr},
     {111, 111, paintButtons, nullptr},
     {171, 173, nullptr, nullptr},  // tasks
@@ -108,13 +130,13 @@ constexpr CommandRange kCommands[] = {
     {196, 196, openHelp, "Open help window"},
     {197, 197, [](const Command& c) { return showDocumentationPopup(c.bar); }, nullptr},
     {199, 199, openOptions, "Open options dialog"},
-    {200, 299, nullptr, nullptr},  // recent projects
-    {300, 399, nullptr, nullptr},  // executables
-    {400, 599, nullptr, nullptr},  // recent headers
+    {200, 299, atPosition<switchToProject>, "Switch to project ", recentProjectPath},
+    {300, 399, atPosition<runExecutable>, "Run ", executableName},
+    {400, 599, atPosition<openRecentHeader>, "Open ", recentHeaderPath},
     {700, 799, [](const Command& c) { return chooseInclude(c.position); }, nullptr},
     {800, 899, chooseMethodResult, nullptr},
     {1000, 9999, [](const Command& c) { return chooseFunction(c.position); }, nullptr},
-    {10000, 19999, nullptr, nullptr},  // project files
+    {10000, 19999, atPosition<chooseProjectFile>, "Open ", projectFileName},
 };
 
 const CommandRange* findRange(int id) {
@@ -139,7 +161,15 @@ void showCommandStatus(int id, unsigned flags) {
     return;
   }
   const CommandRange* range = findRange(id);
-  showStatus(range != nullptr && range->status != nullptr ? range->status : " ");
+  if (range == nullptr || range->status == nullptr) {
+    showStatus(" ");
+    return;
+  }
+  std::string text(range->status);
+  if (range->subject != nullptr) {
+    text += range->subject(id - range->first);
+  }
+  showStatus(text.c_str());
 }
 
 }  // namespace kesto

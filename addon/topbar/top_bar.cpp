@@ -34,13 +34,12 @@ TopBar::TopBar(bool new_shell, HWND bar) : new_shell_(new_shell), bar_(bar) {
   SettingsStore& store = settings();
   enabled_ = store.readInteger(kSection, "Enabled", 1);
   hide_with_ide_ = store.readInteger(kSection, "HideWithBCW", 1);
-  hide_with_view_ = store.readInteger(kSection, "HideWithView", 0);
   always_on_top_ = store.readInteger(kSection, "AlwaysOnTop", 0);
   edit_other_view_ = store.readInteger(kSection, "EditOtherView", 0);
   left_margin_ = store.readInteger(kSection, "LeftMargin", new_shell ? -1 : 17);
   right_margin_ = store.readInteger(kSection, "RightMargin", new_shell ? 58 : 37);
   menu_size_ = store.readInteger(kSection, "MenuSize", 50);
-  construction_ = store.readInteger(kSection, "Hierarchical", 0);
+  readMenuSettings();
   setOpenInOtherView(edit_other_view_ != 0);
 }
 
@@ -48,13 +47,18 @@ TopBar::~TopBar() {
   SettingsStore& store = settings();
   store.writeInteger(kSection, "Enabled", enabled_);
   store.writeInteger(kSection, "HideWithBCW", hide_with_ide_);
-  store.writeInteger(kSection, "HideWithView", hide_with_view_);
+  store.writeInteger(kSection, "HideWithView", stored_hide_with_view_);
   store.writeInteger(kSection, "AlwaysOnTop", always_on_top_);
   store.writeInteger(kSection, "EditOtherView", edit_other_view_);
   store.writeInteger(kSection, "LeftMargin", left_margin_);
   store.writeInteger(kSection, "RightMargin", right_margin_);
   store.writeInteger(kSection, "MenuSize", menu_size_);
-  store.writeInteger(kSection, "Hierarchical", construction_);
+  store.writeInteger(kSection, "Hierarchical", stored_construction_);
+}
+
+void TopBar::readMenuSettings() {
+  stored_construction_ = construction_ = settings().readInteger(kSection, "Hierarchical", 0);
+  stored_hide_with_view_ = hide_with_view_ = settings().readInteger(kSection, "HideWithView", 0);
 }
 
 void TopBar::place(bool expanded) {
@@ -95,6 +99,14 @@ void TopBar::collapse() {
   if (expanded_) {
     place(false);
     expanded_ = false;
+  }
+}
+
+void TopBar::placeFirst() {
+  if (!placed_) {
+    place(false);
+    expanded_ = false;
+    placed_ = true;
   }
 }
 

@@ -27,12 +27,20 @@ class TopBar {
   BarConstruction construction() const { return static_cast<BarConstruction>(construction_); }
   int menuSize() const { return menu_size_; }
 
+  // Takes construction and hiding from the settings, as a project opens.
+  void readMenuSettings();
+  // What the open project says of them; the settings stay as they are.
+  void useConstruction(int construction) { construction_ = construction; }
+  void useHidesWithView(int hides) { hide_with_view_ = hides; }
+
   // Moves the bar between its margins with one menu row, or with all rows.
   void place(bool expanded);
   // Shows every row of a wrapped menu bar.
   void expand();
   // Back to one row; a bar that is not expanded stays as it is.
   void collapse();
+  // To its one row between the margins, the first time it is asked to.
+  void placeFirst();
   // The rows are counted anew at the next expansion.
   void forgetExpandedHeight() { expanded_height_ = 0; }
 
@@ -42,15 +50,18 @@ class TopBar {
   bool new_shell_;
   HWND bar_;
   bool expanded_ = false;
+  bool placed_ = false;
   int enabled_;
   int hide_with_ide_;
-  int hide_with_view_;
+  int hide_with_view_;  // in force
+  int stored_hide_with_view_;
   int always_on_top_;
   int edit_other_view_;
   int left_margin_;   // pixels, may be negative
   int right_margin_;  // pixels, may be negative
   int menu_size_;     // items per column
-  int construction_;
+  int construction_;  // in force
+  int stored_construction_;
   int expanded_height_ = 0;  // pixels, 0 while unknown
 };
 

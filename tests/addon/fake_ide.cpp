@@ -30,12 +30,58 @@ long STDMETHODCALLTYPE Stream::Read(void* buffer, long count) {
   return left;
 }
 
+void Project::open(const std::string& file) {
+  project.file = file;
+  for (IProjectClient* client : std::vector<IProjectClient*>(clients)) {
+    client->ProjectOpened(&project);
+  }
+}
+
+void Project::close() {
+  for (IProjectClient* client : std::vector<IProjectClient*>(clients)) {
+    client->ProjectClosed();
+  }
+  loaded = false;
+}
+
+ProjectNode Project::after(ProjectNode node, ProjectNode parent) const {
+  for (ProjectNode next = node + 1; next <= nodes.size(); ++next) {
+    if (exists(next) && nodes[next - 1].parent == parent) {
+      return next;
+    }
+  }
+  return 0;
+}
+
+int STDMETHODCALLTYPE Project::GetOption(IIdeString* name, const void** data) {
+  asked.emplace_back(name->GetText());
+  const auto option = options.find(name->GetText());
+  if (option == options.end()) {
+    return 0;
+  }
+  *data = option->second.data();
+  return static_cast<int>(option->second.size());
+}
+
+OptionHandle STDMETHODCALLTYPE Project::SetOption(IIdeString* name, const void* data, int size) {
+  pending_name_ = name->GetText();
+  pending_.assign(static_cast<const char*>(data), static_cast<size_t>(size));
+  return 9;
+}
+
+void STDMETHODCALLTYPE Project::CommitOption(OptionHandle option) {
+  if (option == 9) {
+    committed.push_back(pending_name_);
+    options[pending_name_] = pending_;
+  }
+}
+
 Ide::Ide() {
-  services = {{ideapi::kEditorService.Data1, &editor},
-              {ideapi::kStatusLineService.Data1, &status_line},
-              {ideapi::kMakeService.Data1, &make},
-              {ideapi::kOptionsService.Data1, &options},
-              {ideapi::kMessageService.Data1, &messages}};
+  services = {
+      {ideapi::kEditorService.Data1, &editor},   {ideapi::kStatusLineService.Data1, &status_line},
+      {ideapi::kMakeService.Data1, &make},       {ideapi::kOptionsService.Data1, &options},
+      {ideapi::kProjectService.Data1, &project}, {ideapi::kProjectSaveService.Data1, &project_save},
+      {ideapi::kToolService.Data1, &tools},      {ideapi::kMessageService.Data1, &messages}};
 }
 
 HRESULT STDMETHODCALLTYPE Ide::QueryInterface(REFIID id, void** result) {

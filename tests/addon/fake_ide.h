@@ -94,7 +94,17 @@ class Editor : public Counted<IEditorService> {
   void STDMETHODCALLTYPE InsertText(IIdeString* text) override {
     lines[static_cast<size_t>(line) - 1].insert(static_cast<size_t>(column) - 1, text->GetText());
   }
-  int STDMETHODCALLTYPE SaveModified(IIdeString**) override { return 0; }
+  int STDMETHODCALLTYPE SaveModified(IIdeString** names) override {
+    ++savings;
+    if (modified.empty()) {
+      return 0;
+    }
+    *names = new Text(modified);
+    modified.clear();
+    return 1;
+  }
+  std::string modified;  // names of what there is to save
+  int savings = 0;
 };
 
 class StatusLine : public Counted<IStatusLineService> {
@@ -114,6 +124,123 @@ class Make : public Counted<IMakeService> {
     client->Release();
     std::erase(clients, client);
   }
+};
+
+class LoadedProject : public Counted<IProject> {
+ public:
+  std::string file;
+  IIdeString* STDMETHODCALLTYPE GetFileName() override { return new Text(file); }
+};
+
+struct Node {
+  ProjectNode parent = 0;
+  std::string name;
+  std::string type;
+  std::string description;
+  bool removed = false;
+};
+
+// The open project: its nodes, numbered from 1, and its options by name.
+class Project : public Counted<IProjectService> {
+ public:
+  LoadedProject project;
+  bool loaded = false;
+  std::vector<Node> nodes;
+  std::map<std::string, std::string> options;
+  std::vector<std::string> asked;      // names of options read
+  std::vector<std::string> committed;  // names of options written
+  std::vector<ProjectNode> opened_alternatively;
+  std::vector<IProjectClient*> clients;
+
+  // Tells the clients, as an IDE does.
+  void open(const std::string& file);
+  void close();
+
+  void STDMETHODCALLTYPE AddClient(IProjectClient* client) override {
+    client->AddRef();
+    clients.push_back(client);
+  }
+  void STDMETHODCALLTYPE RemoveClient(IProjectClient* client) override {
+    std::erase(clients, client);
+    client->Release();
+  }
+  int STDMETHODCALLTYPE IsProjectLoaded() override { return loaded ? 1 : 0; }
+  IIdeString* STDMETHODCALLTYPE GetProjectFile() override { return new Text(project.file); }
+  ProjectNode STDMETHODCALLTYPE GetTopNode() override { return after(0, 0); }
+  ProjectNode STDMETHODCALLTYPE GetFirstChild(ProjectNode node) override { return after(0, node); }
+  ProjectNode STDMETHODCALLTYPE GetNextSibling(ProjectNode node) override {
+    return after(node, nodes[node - 1].parent);
+  }
+  ProjectNode STDMETHODCALLTYPE FindNode(IIdeString*) override { return 0; }
+  IIdeString* STDMETHODCALLTYPE GetNodeName(ProjectNode node) override {
+    return exists(node) ? new Text(nodes[node - 1].name) : nullptr;
+  }
+  IIdeString* STDMETHODCALLTYPE GetNodeType(ProjectNode node) override {
+    return exists(node) ? new Text(nodes[node - 1].type) : nullptr;
+  }
+  IIdeString* STDMETHODCALLTYPE GetNodeDescription(ProjectNode node) override {
+    return exists(node) ? new Text(nodes[node - 1].description) : nullptr;
+  }
+  ProjectNode STDMETHODCALLTYPE AddNode(ProjectNode, IIdeString*, IIdeString*) override {
+    return 0;
+  }
+  int STDMETHODCALLTYPE RemoveNode(ProjectNode node) override {
+    nodes[node - 1].removed = true;
+    return 1;
+  }
+  int STDMETHODCALLTYPE OpenNode(ProjectNode node, int alternative) override {
+    if (alternative != 0) {
+      opened_alternatively.push_back(node);
+    }
+    return kToolDone;
+  }
+  int STDMETHODCALLTYPE GetOption(IIdeString* name, const void** data) override;
+  OptionHandle STDMETHODCALLTYPE SetOption(IIdeString* name, const void* data, int size) override;
+  void STDMETHODCALLTYPE CommitOption(OptionHandle option) override;
+
+ private:
+  bool exists(ProjectNode node) const {
+    return node >= 1 && node <= nodes.size() && !nodes[node - 1].removed;
+  }
+  ProjectNode after(ProjectNode node, ProjectNode parent) const;
+
+  std::string pending_name_;
+  std::string pending_;
+};
+
+class ProjectSave : public Counted<IProjectSaveService> {
+ public:
+  std::vector<IProjectSaveClient*> clients;
+  void STDMETHODCALLTYPE AddClient(IProjectSaveClient* client) override {
+    client->AddRef();
+    clients.push_back(client);
+  }
+  void STDMETHODCALLTYPE RemoveClient(IProjectSaveClient* client) override {
+    std::erase(clients, client);
+    client->Release();
+  }
+};
+
+// Every name is a tool; what was run is "NAME FILE".
+class Tools : public Counted<IToolService> {
+ public:
+  std::vector<std::string> runs;
+  int result = kToolDone;
+  ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) override {
+    name_ = name->GetText();
+    return 1;
+  }
+  int STDMETHODCALLTYPE RunTool(ToolHandle, IIdeString* file) override {
+    runs.push_back(name_ + ' ' + file->GetText());
+    return result;
+  }
+  ToolHandle STDMETHODCALLTYPE AddTool(IIdeString*, IIdeString*, IToolImplementor*) override {
+    return 0;
+  }
+  void STDMETHODCALLTYPE RemoveTool(ToolHandle) override {}
+
+ private:
+  std::string name_;
 };
 
 class Options : public Counted<IOptionsService> {
@@ -184,6 +311,9 @@ class Ide : public Counted<IIde> {
   StatusLine status_line;
   Make make;
   Options options;
+  Project project;
+  ProjectSave project_save;
+  Tools tools;
   Messages messages;
   StreamSource stream;
   // Services by the first field of their identifier; erase one to take it away.

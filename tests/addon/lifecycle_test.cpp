@@ -1,6 +1,8 @@
 // The built DLL itself, loaded as an IDE loads it.
 #include <windows.h>
 
+#include <string>
+
 #include <cstring>
 
 #include "addon/foundation/settings_store.h"
@@ -52,10 +54,16 @@ void drain() {
   }
 }
 
+// The add-on's own root: the built DLL knows no other.
+constexpr char kRoot[] = "SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob";
+
 // The built DLL between its two calls.
 class Session {
  public:
   explicit Session(fake::Ide& ide) : module_(LoadLibraryA("Kestoaob.dll")) {
+    // A frame that is there already would be another IDE's.
+    kesto::settings().setRoot(kRoot);
+    kesto::settings().writeInteger("General", "Unic", 0);
     REQUIRE(module_ != nullptr);
     entry_ = reinterpret_cast<ideapi::AddonEntry>(
         reinterpret_cast<void*>(GetProcAddress(module_, ideapi::kAddonEntryName)));
@@ -68,6 +76,7 @@ class Session {
   ~Session() {
     entry_(0);
     CHECK(ownBar() == nullptr);
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\General").c_str());
     FreeLibrary(module_);
     CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
   }
@@ -219,9 +228,8 @@ TEST_CASE("the project view rebuilds the bar's menu only when the settings want 
     int construction;
     int rebuilds;  // one as the view comes, one as it goes
   } rows[] = {{1, 1, 0, 2}, {1, 1, 1, 2}, {1, 1, 2, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}};
-  // The add-on's own root: the built DLL knows no other.
   kesto::SettingsStore& store = kesto::settings();
-  store.setRoot("SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob");
+  store.setRoot(kRoot);
   for (const auto& row : rows) {
     CAPTURE(row.enabled);
     CAPTURE(row.hide_with_view);
@@ -248,4 +256,28 @@ TEST_CASE("the project view rebuilds the bar's menu only when the settings want 
   store.writeInteger("TopBar", "Enabled", 1);
   store.writeInteger("TopBar", "HideWithView", 0);
   store.writeInteger("TopBar", "Hierarchical", 0);
+}
+
+TEST_CASE("another IDE gives way to the one that runs") {
+  const WindowFixture windows;
+  char command[] = "workbench.exe . --addon Kestoaob.dll";
+  STARTUPINFOA start = {};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process = {};
+  REQUIRE(CreateProcessA(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                         &process));
+  // The other one brings this process's frame forward, which takes answers.
+  const DWORD deadline = GetTickCount() + 20000;
+  DWORD waited = WAIT_TIMEOUT;
+  while (waited != WAIT_OBJECT_0 && GetTickCount() < deadline) {
+    waited = MsgWaitForMultipleObjects(1, &process.hProcess, FALSE, 1000, QS_ALLINPUT);
+    drain();
+  }
+  CHECK(waited == WAIT_OBJECT_0);
+  DWORD code = 9;
+  GetExitCodeProcess(process.hProcess, &code);
+  CHECK(code == 0);
+  TerminateProcess(process.hProcess, 1);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
 }

@@ -3,12 +3,13 @@
 #include "addon/foundation/message_box.h"
 
 std::vector<RecordedBox> recorded_boxes;
+int box_answer = kesto::kAnswerOk;
 
 namespace kesto {
 
 int showMessage(void*, const char* text, const char* caption, unsigned flags) {
   recorded_boxes.push_back({text, caption, flags});
-  return kAnswerOk;
+  return box_answer;
 }
 
 }  // namespace kesto

@@ -11,3 +11,5 @@ struct RecordedBox {
 };
 
 extern std::vector<RecordedBox> recorded_boxes;
+// How each is answered.
+extern int box_answer;

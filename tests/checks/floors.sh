@@ -8,6 +8,7 @@ ideapi 0
 addon/foundation 0
 addon/ide 1
 addon/navigation 2
+addon/behaviours 2
 addon/completion 2
 addon/delivery 2
 addon/tasks 2

@@ -1,0 +1,211 @@
+#include "addon/behaviours/general_behaviours.h"
+
+#include <string>
+
+#include "addon/foundation/settings_store.h"
+#include "addon/ide/current_project.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/service_holder.h"
+#include "addon/ide/status_line.h"
+
+namespace kesto {
+
+GeneralBehaviours* generalBehaviours = nullptr;
+
+namespace {
+
+constexpr char kSection[] = "General";
+constexpr char kDialogClass[] = "#32770";
+constexpr int kSecondsPerMinute = 60;
+// A point on the first tab of the message window.
+constexpr int kFirstTabX = 20;
+constexpr int kFirstTabY = 11;
+
+void leaveToRunningIde() {
+  const HWND running = findFrame();
+  if (running == nullptr) {
+    return;
+  }
+  if (IsIconic(running)) {
+    ShowWindow(running, SW_SHOW);
+  }
+  SetActiveWindow(running);
+  // Activation alone stays within the calling thread.
+  SetForegroundWindow(running);
+  ExitProcess(0);
+}
+
+HWND childOf(HWND parent, const char* window_class) {
+  // Without a parent the enumeration would walk the desktop.
+  return parent != nullptr ? findChildWindow(parent, window_class, nullptr) : nullptr;
+}
+
+HWND documentWindow(const char* window_class) {
+  return childOf(findMdiClient(), window_class);
+}
+
+void sendCommand(HWND window, int command) {
+  if (window != nullptr) {
+    SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
+  }
+}
+
+BOOL CALLBACK takeDialog(HWND window, LPARAM parameter) {
+  if (!isWindowOfClass(window, kDialogClass)) {
+    return TRUE;
+  }
+  *reinterpret_cast<HWND*>(parameter) = window;
+  return FALSE;
+}
+
+// The IDE's own dialogs only: those of other programs are none of its business.
+HWND topLevelDialog() {
+  HWND dialog = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), takeDialog, reinterpret_cast<LPARAM>(&dialog));
+  return dialog;
+}
+
+HWND findStatusBox() {
+  HWND box = documentWindow(kDialogClass);
+  if (box == nullptr) {
+    box = topLevelDialog();
+  }
+  if (box == nullptr) {
+    box = GetActiveWindow();
+  }
+  return box != nullptr && isWindowOfClass(box, kDialogClass) ? box : nullptr;
+}
+
+}  // namespace
+
+GeneralBehaviours::GeneralBehaviours() {
+  SettingsStore& store = settings();
+  clear_on_make_ = store.readInteger(kSection, "ClearOnMake", 1);
+  close_on_make_ = store.readInteger(kSection, "CloseOnMake", 1);
+  close_project_on_make_ = store.readInteger(kSection, "CloseProjectOnMake", 1);
+  iconize_status_on_make_ = store.readInteger(kSection, "IconizeStatusOnMake", 1);
+  view_on_open_ = store.readInteger(kSection, "ViewOnOpen", 0);
+  timer_save_ = store.readInteger(kSection, "TimerSave", 1);
+  timer_count_ = store.readInteger(kSection, "TimerCount", 5);
+  unique_ = store.readInteger(kSection, "Unic", 1);
+  if (unique_ != 0) {
+    leaveToRunningIde();
+  }
+}
+
+void GeneralBehaviours::writeOptions() const {
+  SettingsStore& store = settings();
+  store.writeInteger(kSection, "ClearOnMake", clear_on_make_);
+  store.writeInteger(kSection, "CloseOnMake", close_on_make_);
+  store.writeInteger(kSection, "CloseProjectOnMake", close_project_on_make_);
+  store.writeInteger(kSection, "IconizeStatusOnMake", iconize_status_on_make_);
+  store.writeInteger(kSection, "ViewOnOpen", view_on_open_);
+  store.writeInteger(kSection, "TimerSave", timer_save_);
+  store.writeInteger(kSection, "TimerCount", timer_count_);
+  store.writeInteger(kSection, "Unic", unique_);
+}
+
+void GeneralBehaviours::makeStarted() {
+  if (clear_on_make_ != 0) {
+    clearMessages();
+  }
+  if (close_on_make_ != 0) {
+    close(ideapi::kMessageClass, messages_);
+  }
+  if (close_project_on_make_ != 0) {
+    close(ideapi::kProjectClass, project_);
+  }
+  if (iconize_status_on_make_ != 0) {
+    minimiseStatusBox();
+  }
+}
+
+void GeneralBehaviours::clearMessages() const {
+  sendCommand(findFrame(), ideapi::kCommandShowMessages);
+  const HWND pane = childOf(documentWindow(ideapi::kMessageClass), ideapi::kOwlWindowClass);
+  if (const HWND tabs = childOf(pane, ideapi::kNoteTabClass)) {
+    SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(kFirstTabX, kFirstTabY));
+  }
+  sendCommand(childOf(pane, ideapi::kMessageViewerClass), ideapi::kCommandClearMessages);
+}
+
+void GeneralBehaviours::close(const char* window_class, ClosedWindow& closed) {
+  closed.window = documentWindow(window_class);
+  if (closed.window != nullptr) {
+    GetWindowRect(closed.window, &closed.place);
+    SendMessageA(closed.window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+}
+
+void GeneralBehaviours::minimiseStatusBox() {
+  status_box_ = findStatusBox();
+  if (status_box_ != nullptr) {
+    SendMessageA(status_box_, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  }
+}
+
+void GeneralBehaviours::makeEnded() {
+  if (close_project_on_make_ != 0 && project_.window != nullptr) {
+    reopen(ideapi::kCommandShowProject, ideapi::kProjectClass, project_);
+  }
+  if (close_on_make_ != 0 && messages_.window != nullptr) {
+    reopen(ideapi::kCommandShowMessages, ideapi::kMessageClass, messages_);
+  }
+  if (iconize_status_on_make_ != 0 && status_box_ != nullptr) {
+    SendMessageA(status_box_, WM_SYSCOMMAND, SC_RESTORE, 0);
+  }
+  status_box_ = nullptr;
+}
+
+void GeneralBehaviours::reopen(int command, const char* window_class, const ClosedWindow& closed) {
+  sendCommand(findFrame(), command);
+  const HWND client = findMdiClient();
+  const HWND window = childOf(client, window_class);
+  if (window == nullptr) {
+    return;
+  }
+  POINT corner = {closed.place.left, closed.place.top};
+  ScreenToClient(client, &corner);
+  SetWindowPos(window, nullptr, corner.x, corner.y, closed.place.right - closed.place.left,
+               closed.place.bottom - closed.place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void GeneralBehaviours::viewOnOpen() const {
+  const HWND frame = view_on_open_ != 0 ? findFrame() : nullptr;
+  if (frame != nullptr && IsWindowEnabled(frame)) {
+    PostMessageA(frame, WM_COMMAND, ideapi::kCommandShowProject, 0);
+  }
+}
+
+void GeneralBehaviours::timerTick() {
+  if (timer_save_ == 0) {
+    return;
+  }
+  ++ticks_;
+  if (ticks_ / kSecondsPerMinute >= timer_count_) {
+    ticks_ = 0;
+    autoSave();
+  }
+}
+
+void GeneralBehaviours::autoSave() {
+  const HWND frame = findFrame();
+  if (!isProjectOpen() || frame == nullptr || !IsWindowEnabled(frame)) {
+    return;
+  }
+  IEditorService* editors = editorService();
+  if (editors == nullptr) {
+    return;
+  }
+  IIdeString* saved = nullptr;
+  const int count = editors->SaveModified(&saved);
+  const std::unique_ptr<char[]> names = takeIdeString(saved);
+  if (count <= 0) {
+    return;
+  }
+  const std::string text = "Auto-save (" + std::to_string(timer_count_) +
+                           " min) : " + (names != nullptr ? names.get() : "") + ".";
+  showStatus(text.c_str());
+}
+
+}  // namespace kesto

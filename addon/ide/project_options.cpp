@@ -1,0 +1,80 @@
+#include "addon/ide/project_options.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace kesto {
+namespace {
+
+constexpr int kIntegerSize = 4;
+static_assert(sizeof(std::int32_t) == kIntegerSize);
+
+// No text of an option is longer, whatever its size says.
+constexpr int kLongestText = 65535;
+
+}  // namespace
+
+bool readInteger(ProjectOptionStore& store, const char* name, int& value) {
+  const void* data = nullptr;
+  if (store.get(name, &data) != kIntegerSize || data == nullptr) {
+    return false;
+  }
+  std::int32_t stored = 0;
+  memcpy(&stored, data, sizeof stored);
+  value = stored;
+  return true;
+}
+
+bool readText(ProjectOptionStore& store, const char* name, std::string& value) {
+  const void* data = nullptr;
+  const int size = store.get(name, &data);
+  if (size <= 0 || data == nullptr) {
+    return false;
+  }
+  const char* text = static_cast<const char*>(data);
+  value.clear();
+  if (*text == '\0') {
+    return true;
+  }
+  // One by one: what lies behind the terminator may not be there at all.
+  const int end = std::min(size, kLongestText);
+  for (int i = 1; i < end && text[i] != '\0'; ++i) {
+    value += text[i];
+  }
+  return true;
+}
+
+void writeInteger(ProjectOptionStore& store, const char* name, int value) {
+  const std::int32_t stored = value;
+  store.set(name, &stored, kIntegerSize);
+}
+
+void writeText(ProjectOptionStore& store, const char* name, char marker, const std::string& text) {
+  const std::string stored = marker + text;
+  store.set(name, stored.c_str(), static_cast<int>(strlen(stored.c_str())) + 1);
+}
+
+void IntegerOption::read(ProjectOptionStore& store) {
+  value = default_value;
+  readInteger(store, name, value);
+}
+
+void IntegerOption::write(ProjectOptionStore& store) const {
+  writeInteger(store, name, value);
+}
+
+void TextOption::read(ProjectOptionStore& store) {
+  value = default_value;
+  readText(store, name, value);
+}
+
+void TextOption::write(ProjectOptionStore& store) const {
+  writeText(store, name, marker, value);
+}
+
+std::string entryOptionName(const char* stem, int index) {
+  return stem + std::to_string(index);
+}
+
+}  // namespace kesto

@@ -1,0 +1,143 @@
+#include "addon/project_order.h"
+
+#include "addon/behaviours/general_behaviours.h"
+#include "addon/delivery/mail_project_options.h"
+#include "addon/delivery/project_options.h"
+#include "addon/groupware/project_options.h"
+#include "addon/html/project_options.h"
+#include "addon/ide/make_registration.h"
+#include "addon/rcgen/project_options.h"
+#include "addon/topbar/bar_menu.h"
+#include "addon/topbar/project_options.h"
+#include "addon/topbar/recent_files.h"
+#include "addon/topbar/top_bar.h"
+
+namespace kesto {
+namespace {
+
+using Work = const ProjectWork&;
+
+// The bar is created wider than its margins; the first project puts it in its place.
+void placeBar(Work) {
+  if (topBar != nullptr) {
+    topBar->placeFirst();
+  }
+}
+
+void collapseBar(Work) {
+  if (topBar != nullptr) {
+    topBar->collapse();
+  }
+}
+
+void forgetRecentProject(Work work) {
+  if (recentFiles != nullptr) {
+    recentFiles->projects().remove(work.file);
+  }
+}
+
+void recordRecentProject(Work work) {
+  if (recentFiles != nullptr) {
+    recentFiles->projects().addNew(work.file);
+  }
+}
+
+void resetAutoSave(Work) {
+  if (generalBehaviours != nullptr) {
+    generalBehaviours->resetAutoSave();
+  }
+}
+
+void readBarSettings(Work) {
+  if (topBar != nullptr) {
+    topBar->readMenuSettings();
+  }
+}
+
+void viewProject(Work) {
+  if (generalBehaviours != nullptr) {
+    generalBehaviours->viewOnOpen();
+  }
+}
+
+void rebuildBarMenu(Work) {
+  if (barMenu != nullptr) {
+    barMenu->rebuild();
+  }
+}
+
+constexpr ProjectStep kAnnounced[] = {placeBar, forgetRecentProject, resetAutoSave,
+                                      readBarSettings};
+
+constexpr ProjectStep kOpened[] = {
+    enterProjectDirectory,
+    viewProject,
+    [](Work) { registerMakeClient(createMakeClient); },
+    [](Work work) { readBarConstruction(work.options); },
+    [](Work work) { readBarHidesWithView(work.options); },
+    [](Work work) { rcgenProjectOptions.dialog_classes.read(work.options); },
+    [](Work work) { rcgenProjectOptions.version_stamping.read(work.options); },
+    [](Work work) { htmlProjectOptions.enabled.read(work.options); },
+    [](Work work) { htmlProjectOptions.automatic.read(work.options); },
+    [](Work work) { htmlProjectOptions.filters.read(work.options); },
+    [](Work work) { deliveryProjectOptions.readCount(work.options); },
+    [](Work work) { deliveryProjectOptions.tool_present.read(work.options); },
+    [](Work work) { deliveryProjectOptions.readGroups(work.options); },
+    [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
+    [](Work work) { mailProjectOptions.read(work.options); },
+};
+
+constexpr ProjectStep kSettled[] = {rebuildBarMenu};
+
+constexpr ProjectStep kClosing[] = {collapseBar};
+
+constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
+                                          recordRecentProject};
+
+constexpr ProjectStep kClosed[] = {[](Work) { mailProjectOptions.recipients.clear(); }};
+
+// The project's own menus go with it.
+constexpr ProjectStep kGone[] = {rebuildBarMenu};
+
+constexpr ProjectStep kSaved[] = {
+    [](Work work) { writeBarConstruction(work.options); },
+    [](Work work) { writeBarHidesWithView(work.options); },
+    [](Work work) { deliveryProjectOptions.tool_present.write(work.options); },
+    [](Work work) { deliveryProjectOptions.writeGroups(work.options); },
+    [](Work work) { mailProjectOptions.write(work.options); },
+    [](Work work) { groupwareProjectOptions.server_directory.write(work.options); },
+    [](Work work) { rcgenProjectOptions.dialog_classes.write(work.options); },
+    [](Work work) { rcgenProjectOptions.version_stamping.write(work.options); },
+    [](Work work) { htmlProjectOptions.enabled.write(work.options); },
+    [](Work work) { htmlProjectOptions.automatic.write(work.options); },
+    [](Work work) { htmlProjectOptions.filters.write(work.options); },
+};
+
+void nodeChanged(ProjectNode node, const char* name) {
+  if (barMenu != nullptr) {
+    barMenu->nodeChanged(node, name);
+  }
+}
+
+void startMake() {
+  if (generalBehaviours != nullptr) {
+    generalBehaviours->makeStarted();
+  }
+}
+
+void endMake() {
+  if (generalBehaviours != nullptr) {
+    generalBehaviours->makeEnded();
+  }
+}
+
+constexpr MakeStep kMakeStarted[] = {startMake};
+constexpr MakeStep kMakeEnded[] = {endMake};
+
+}  // namespace
+
+constinit const ProjectOrder kProjectOrder = {
+    kAnnounced, kOpened, kSettled, kClosing, kClosingLoaded, kClosed, kGone, kSaved, nodeChanged};
+constinit const MakeOrder kMakeOrder = {kMakeStarted, kMakeEnded};
+
+}  // namespace kesto

@@ -1,0 +1,12 @@
+// What the features do when a project opens, closes, changes and is saved.
+#pragma once
+
+#include "addon/ide/make_client.h"
+#include "addon/ide/project_client.h"
+
+namespace kesto {
+
+extern const ProjectOrder kProjectOrder;
+extern const MakeOrder kMakeOrder;
+
+}  // namespace kesto

@@ -1,0 +1,7 @@
+#include "addon/rcgen/project_options.h"
+
+namespace kesto {
+
+RcgenProjectOptions rcgenProjectOptions;
+
+}  // namespace kesto

@@ -1,0 +1,15 @@
+// What the resource class generator keeps in a project.
+#pragma once
+
+#include "addon/ide/project_options.h"
+
+namespace kesto {
+
+struct RcgenProjectOptions {
+  IntegerOption dialog_classes{"Kesto_EWindows", 0};  // generate them at Make
+  IntegerOption version_stamping{"Kesto_GenRC", 0};   // stamp versions at Make
+};
+
+extern RcgenProjectOptions rcgenProjectOptions;
+
+}  // namespace kesto

@@ -1,0 +1,144 @@
+#include "addon/topbar/bar_commands.h"
+
+#include "addon/foundation/message_box.h"
+#include "addon/foundation/path.h"
+#include "addon/ide/find_window.h"
+#include "addon/ide/open_file.h"
+#include "addon/ide/project_nodes.h"
+#include "addon/ide/status_line.h"
+#include "addon/ide/tool_runs.h"
+#include "addon/ide/tool_table.h"
+#include "addon/topbar/bar_menu.h"
+#include "addon/topbar/recent_files.h"
+
+namespace kesto {
+namespace {
+
+constexpr char kNotEnoughFiles[] = "Internal error: not enough files";
+constexpr char kBadFile[] = "Internal error: bad file";
+constexpr int kTitleSize = 512;
+
+// Whether the node can be worked on; the status line says why when it cannot.
+bool isUsable(const ProjectNodes& nodes, unsigned node) {
+  if (node == 0) {
+    showStatus(kNotEnoughFiles);
+    return false;
+  }
+  if (!nodes.exists(node)) {
+    showStatus(kBadFile);
+    return false;
+  }
+  return true;
+}
+
+std::string extensionOf(std::string_view path) {
+  const std::string_view name = fileNamePart(path);
+  const size_t dot = name.rfind('.');
+  return std::string(dot != std::string_view::npos ? name.substr(dot) : name.substr(0, 0));
+}
+
+void runToolOfNode(const ProjectNodes& nodes, unsigned node) {
+  if (toolTable == nullptr) {
+    return;
+  }
+  const std::string file = nodes.name(node);
+  std::string kind = nodes.type(node);
+  if (kind.empty()) {
+    kind = extensionOf(file);
+  }
+  runTool(toolTable->findTool(kind.c_str(), nullptr), file.c_str());
+}
+
+void askToRemove(const ProjectNodes& nodes, unsigned node, const std::string& name) {
+  const std::string question = "Okay to remove\n" + name + " ?";
+  if (showMessage(nullptr, question.c_str(), "Confirmation", kMessageYesNo) == kAnswerYes) {
+    nodes.remove(node);
+  }
+}
+
+std::string recentPath(const RecentList& list, int position) {
+  const char* path = list.at(position);
+  return path != nullptr ? path : "";
+}
+
+}  // namespace
+
+void onEditorCreated(HWND editor) {
+  if (recentFiles == nullptr || !IsWindow(editor)) {
+    return;
+  }
+  char title[kTitleSize] = "";
+  GetWindowTextA(editor, title, sizeof title);
+  if (recentFiles->headerUsed(title, editor) == 0) {
+    PostMessageA(editor, WM_CLOSE, 0, 0);
+  }
+}
+
+void switchToProject(int position) {
+  activateFrame();
+  const std::string path = recentProjectPath(position);
+  if (recentFiles == nullptr || recentFiles->projects().at(position) == nullptr) {
+    showStatus(kNotEnoughFiles);
+  } else {
+    runTool("Project", path.c_str());
+  }
+}
+
+void openRecentHeader(int position) {
+  activateFrame();
+  if (recentFiles == nullptr || recentFiles->headers().at(position) == nullptr) {
+    return;
+  }
+  // A copy: opening moves the entries.
+  const std::string path = recentHeaderPath(position);
+  openFile(path.c_str());
+  recentFiles->headerUsed(path.c_str(), nullptr);
+}
+
+void runExecutable(int position) {
+  const ProjectNodes nodes;
+  const unsigned node = barMenu != nullptr ? barMenu->tool(position) : 0;
+  if (isUsable(nodes, node)) {
+    showStatus("Running");
+    runToolOfNode(nodes, node);
+  }
+}
+
+void chooseProjectFile(int position) {
+  const bool alt = GetKeyState(VK_MENU) < 0;
+  const bool ctrl = GetKeyState(VK_CONTROL) < 0;
+  const ProjectNodes nodes;
+  const unsigned node = barMenu != nullptr ? barMenu->file(position) : 0;
+  if (isUsable(nodes, node)) {
+    if (alt && ctrl) {
+      if (const char* text = toolResultText(nodes.openAlternatively(node))) {
+        showStatus(text);
+      }
+    } else if (alt) {
+      barMenu->features().quickAdd(node);
+    } else if (ctrl) {
+      askToRemove(nodes, node, projectFileName(position));
+    } else {
+      runToolOfNode(nodes, node);
+    }
+  }
+  activateFrame();
+}
+
+std::string recentProjectPath(int position) {
+  return recentFiles != nullptr ? recentPath(recentFiles->projects(), position) : "";
+}
+
+std::string recentHeaderPath(int position) {
+  return recentFiles != nullptr ? recentPath(recentFiles->headers(), position) : "";
+}
+
+std::string executableName(int position) {
+  return barMenu != nullptr ? barMenu->toolName(position) : "";
+}
+
+std::string projectFileName(int position) {
+  return barMenu != nullptr ? barMenu->fileName(position) : "";
+}
+
+}  // namespace kesto

@@ -1,0 +1,160 @@
+// The bar's menus and their commands, with a project in the played IDE.
+#include "addon/topbar/bar_commands.h"
+
+#include "addon/topbar/command_table.h"
+#include "addon/topbar/recent_files.h"
+#include "doctest.h"
+#include "tests/addon/bar_session.h"
+#include "tests/addon/recorded_boxes.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class Adding : public kesto::MenuFeatures {
+ public:
+  unsigned added = 0;
+  void quickAdd(unsigned node) override { added = node; }
+};
+
+struct Project : BarSession {
+  Project() {
+    create();
+    ide.project.nodes = {{0, "C:\\p\\prog.exe", ".exe", "the program"},
+                         {1, "C:\\p\\a.cpp", ".cpp", ""},
+                         {1, "C:\\p\\b.rc", ".rc", "dialogs"},
+                         {1, "C:\\p\\c.cpp", ".cpp", ""}};
+    openProject("C:\\p.ide");
+  }
+  std::string statusOf(int id, unsigned flags = 0) {
+    kesto::showCommandStatus(id, flags);
+    return lastStatus();
+  }
+  void command(int id) { kesto::dispatchCommand(windows.bar, id, 0); }
+};
+
+// Keys as GetKeyState sees them on this thread.
+class Held {
+ public:
+  explicit Held(std::initializer_list<int> keys) {
+    BYTE state[256] = {};
+    for (const int key : keys) {
+      state[key] = 0x80;
+    }
+    SetKeyboardState(state);
+  }
+  ~Held() {
+    BYTE state[256] = {};
+    SetKeyboardState(state);
+  }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+};
+
+}  // namespace
+
+TEST_CASE("status texts name what an item would do") {
+  Project session;
+  kesto::recentFiles->projects().addNew("C:\\old\\q.ide");
+  kesto::recentFiles->headers().use("C:\\p\\a.h");
+  session.ide.project.nodes[3].removed = true;
+  const struct {
+    int id;
+    const char* text;
+  } rows[] = {{200, "Switch to project C:\\old\\q.ide"},
+              {300, "Run prog.exe : the program"},
+              {301, "Run nothing !"},
+              {400, "Open C:\\p\\a.h"},
+              {10000, "Open a.cpp"},
+              {10001, "Open b.rc : dialogs"},
+              {10002, "Open a bad file in the project ..."},
+              {10003, "Open a file in the project ..."},
+              {19999, "Open a file in the project ..."},
+              {171, " "},
+              {20000, " "}};
+  for (const auto& row : rows) {
+    CAPTURE(row.id);
+    CHECK(session.statusOf(row.id) == row.text);
+  }
+  const size_t texts = session.ide.status_line.texts.size();
+  kesto::showCommandStatus(300, MF_POPUP);
+  kesto::showCommandStatus(0, MF_SEPARATOR);
+  CHECK(session.ide.status_line.texts.size() == texts);
+}
+
+TEST_CASE("items run the tools of what they name") {
+  Project session;
+  kesto::recentFiles->projects().addNew("C:\\old\\q.ide");
+  session.ide.project.nodes[3].removed = true;
+  const struct {
+    int id;
+    const char* run;     // null: nothing
+    const char* status;  // null: says nothing
+  } rows[] = {{200, "Project C:\\old\\q.ide", nullptr},
+              {201, nullptr, "Internal error: not enough files"},
+              {300, "RunExecutable C:\\p\\prog.exe", "Running"},
+              {301, nullptr, "Internal error: not enough files"},
+              {10000, "EditText C:\\p\\a.cpp", nullptr},
+              {10001, "EditResource C:\\p\\b.rc", nullptr},
+              {10002, nullptr, "Internal error: bad file"},
+              {10003, nullptr, "Internal error: not enough files"}};
+  for (const auto& row : rows) {
+    CAPTURE(row.id);
+    session.ide.tools.runs.clear();
+    session.ide.status_line.texts.clear();
+    session.command(row.id);
+    CHECK(session.ide.tools.runs == (row.run != nullptr ? Texts{row.run} : Texts{}));
+    CHECK(session.ide.status_line.texts == (row.status != nullptr ? Texts{row.status} : Texts{}));
+  }
+  session.ide.tools.result = kToolErrors;
+  session.command(10000);
+  CHECK(session.lastStatus() == "Tool: Errors");
+}
+
+TEST_CASE("keys held make other commands of a project file") {
+  Project session;
+  Adding adding;
+  delete kesto::barMenu;
+  kesto::barMenu = new kesto::BarMenu(session.windows.bar, adding);
+  kesto::barMenu->rebuild();
+  {
+    const Held alt({VK_MENU});
+    session.command(10000);
+    CHECK(adding.added == 2);
+  }
+  {
+    const Held ctrl({VK_CONTROL});
+    session.command(10001);
+    REQUIRE(recorded_boxes.size() == 1);
+    CHECK(recorded_boxes[0].text == "Okay to remove\nb.rc : dialogs ?");
+    CHECK(recorded_boxes[0].caption == "Confirmation");
+    CHECK(recorded_boxes[0].flags == 4);
+    CHECK(!session.ide.project.nodes[2].removed);
+    box_answer = 6;
+    session.command(10001);
+    CHECK(session.ide.project.nodes[2].removed);
+  }
+  {
+    const Held both({VK_MENU, VK_CONTROL});
+    session.command(10002);
+    CHECK(session.ide.project.opened_alternatively == std::vector<ProjectNode>{4});
+  }
+  CHECK(session.ide.tools.runs.empty());
+}
+
+TEST_CASE("a renamed node takes its item along") {
+  Project session;
+  CHECK(session.barTexts() == Texts{"Kesto", "prog.exe"});
+  const auto rename = [&](ProjectNode node, const char* name) {
+    session.ide.project.nodes[node - 1].name = name;
+    session.ide.project.clients.at(0)->NodeChanged(node);
+  };
+  rename(3, "C:\\p\\new.rc");
+  rename(1, "C:\\p\\other.exe");
+  CHECK(session.barTexts() == Texts{"Kesto", "other.exe"});
+  const HMENU files = GetSubMenu(GetMenu(session.windows.bar), 1);
+  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp"});
+  CHECK(GetMenuItemID(files, 1) == 10001);
+  session.ide.project.close();
+  CHECK(session.barTexts() == Texts{"Kesto"});
+}

@@ -1,0 +1,137 @@
+#include "addon/ide/project_client.h"
+
+#include <cstring>
+
+#include "addon/delivery/mail_project_options.h"
+#include "addon/delivery/project_options.h"
+#include "addon/foundation/settings_store.h"
+#include "addon/groupware/project_options.h"
+#include "addon/html/project_options.h"
+#include "addon/ide/current_project.h"
+#include "addon/rcgen/project_options.h"
+#include "addon/topbar/recent_files.h"
+#include "addon/topbar/top_bar.h"
+#include "doctest.h"
+#include "tests/addon/bar_session.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+std::string number(int value) {
+  std::string bytes(4, '\0');
+  memcpy(bytes.data(), &value, 4);
+  return bytes;
+}
+
+std::string text(const char* with_marker) {
+  return std::string(with_marker, strlen(with_marker) + 1);
+}
+
+std::string currentDirectory() {
+  char directory[MAX_PATH] = "";
+  GetCurrentDirectoryA(sizeof directory, directory);
+  return directory;
+}
+
+}  // namespace
+
+TEST_CASE("a project without options opens with the defaults") {
+  BarSession session;
+  kesto::settings().writeInteger("TopBar", "Hierarchical", 1);
+  kesto::settings().writeInteger("TopBar", "HideWithView", 1);
+  session.create();
+  CHECK(!kesto::isProjectOpen());
+  CHECK(session.ide.make.clients.empty());
+  session.openProject("C:\\windows\\p.ide");
+  CHECK(kesto::isProjectOpen());
+  CHECK(kesto::projectFile() == "C:\\windows\\p.ide");
+  CHECK(kesto::projectDirectory() == "C:\\windows");
+  CHECK(lstrcmpiA(currentDirectory().c_str(), "C:\\windows") == 0);
+  CHECK(session.ide.make.clients.size() == 1);
+  CHECK(session.ide.project.asked == Names{"Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_EWindows",
+                                           "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU",
+                                           "Kesto_HTMLFI", "Kesto_NB_ODR", "Kesto_WITHDELIVERY",
+                                           "KestoGroupwareServer", "Kesto_NB_MAIL"});
+  CHECK(kesto::topBar->construction() == kesto::BarConstruction::kHierarchical);
+  CHECK(!kesto::topBar->hidesWithView());
+  CHECK(kesto::rcgenProjectOptions.dialog_classes.value == 0);
+  CHECK(kesto::htmlProjectOptions.enabled.value == 1);
+  CHECK(kesto::htmlProjectOptions.automatic.value == 0);
+  CHECK(kesto::htmlProjectOptions.filters.value == "*.cpp;*.h");
+  CHECK(kesto::deliveryProjectOptions.tool_present.value == 1);
+  CHECK(kesto::groupwareProjectOptions.server_directory.value.empty());
+
+  // The place of the project file is a drive's root.
+  session.ide.project.open("C:\\q.ide");
+  CHECK(lstrcmpiA(currentDirectory().c_str(), "C:\\") == 0);
+  session.ide.project.close();
+  CHECK(!kesto::isProjectOpen());
+  CHECK(session.ide.make.clients.empty());
+  session.destroy();
+  // What the project says of the menus is no setting.
+  CHECK(kesto::settings().readInteger("TopBar", "HideWithView", 0) == 1);
+}
+
+TEST_CASE("saving a project gives back what it stores, in order") {
+  BarSession session;
+  session.create();
+  const std::map<std::string, std::string> options = {{"Kesto_HIERARCH", number(1)},
+                                                      {"Kesto_HIDEWITHVIEW", number(1)},
+                                                      {"Kesto_EWindows", number(1)},
+                                                      {"Kesto_GenRC", number(1)},
+                                                      {"Kesto_HTMLEN", number(0)},
+                                                      {"Kesto_HTMLAU", number(1)},
+                                                      {"Kesto_HTMLFI", text("~*.cc")},
+                                                      {"Kesto_WITHDELIVERY", number(0)},
+                                                      {"Kesto_NB_ODR", number(1)},
+                                                      {"Kesto_ODR_TYP_0", text("+.exe")},
+                                                      {"Kesto_ODR_REP_0", text("+D:\\out")},
+                                                      {"KestoGroupwareServer", text("~Z:\\srv")},
+                                                      {"Kesto_NB_MAIL", number(1)},
+                                                      {"Kesto_MAIL_PJ_0", text("+anna")},
+                                                      {"Other", "untouched"}};
+  session.ide.project.options = options;
+  session.openProject("C:\\p.ide");
+  REQUIRE(session.ide.project_save.clients.size() == 1);
+  session.ide.project_save.clients[0]->ProjectSaving();
+  CHECK(session.ide.project.options == options);
+  CHECK(session.ide.project.committed ==
+        Names{"Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_WITHDELIVERY", "Kesto_NB_ODR",
+              "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0",
+              "KestoGroupwareServer", "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN",
+              "Kesto_HTMLAU", "Kesto_HTMLFI"});
+  session.ide.project.close();
+  CHECK(kesto::mailProjectOptions.recipients.empty());
+}
+
+TEST_CASE("the open project is no recent one, and is the newest once closed") {
+  BarSession session;
+  session.create();
+  kesto::RecentList& projects = kesto::recentFiles->projects();
+  projects.addNew("C:\\old.ide");
+  projects.addNew("C:\\p.ide");
+  session.openProject("C:\\old.ide");
+  CHECK(session.mainTexts()[0] == "p.ide");
+  CHECK(projects.count() == 1);
+  session.ide.project.close();
+  CHECK(session.mainTexts()[0] == "old.ide");
+  CHECK(session.mainTexts()[1] == "p.ide");
+  // Told of, but not loaded: nothing of a project, and nothing to close.
+  session.ide.project.open("C:\\p.ide");
+  CHECK(!kesto::isProjectOpen());
+  CHECK(session.ide.project.asked.size() == 11);
+  CHECK(session.barTexts() == Names{"Kesto"});
+  CHECK(projects.count() == 1);
+  session.ide.project.close();
+  CHECK(projects.count() == 1);
+}
+
+TEST_CASE("an IDE without the services has no clients to tell") {
+  BarSession session;
+  session.ide.services.erase(ideapi::kProjectService.Data1);
+  session.ide.services.erase(ideapi::kProjectSaveService.Data1);
+  session.create();
+  kesto::saveProjectOptions();
+  CHECK(session.barTexts() == Names{"Kesto"});
+}

@@ -1,0 +1,131 @@
+#include "addon/topbar/recent_files.h"
+
+#include "addon/foundation/settings_store.h"
+#include "addon/topbar/bar_commands.h"
+#include "doctest.h"
+#include "tests/addon/bar_session.h"
+
+namespace {
+
+void storeEntries(const char* subsection, int count, const std::string& text) {
+  for (int i = 0; i < count; ++i) {
+    kesto::settings().writeString(subsection, ("Entry" + std::to_string(i)).c_str(),
+                                  (text + std::to_string(i)).c_str());
+  }
+}
+
+std::string stored(const char* section, const char* name) {
+  char text[kesto::SettingsStore::kValueSize];
+  kesto::settings().readString(section, name, text, sizeof text, "(none)");
+  return text;
+}
+
+}  // namespace
+
+TEST_CASE("counts and maxima of any kind give lists of what is there") {
+  const struct {
+    const char* count;
+    const char* maximum;
+    int entries;
+    int loaded;
+  } rows[] = {{"5", "50", 3, 3},
+              {"2", "50", 3, 2},
+              {"5", "2", 5, 2},
+              {"-1", "50", 3, 0},
+              {"2000000000", "50", 3, 3},
+              {"many", "50", 3, 0},
+              {"9", "2000000000", 9, 9},
+              {"9", "-1", 9, 0},
+              {"9", "text", 9, 9},
+              {"500", "500", 250, 199},
+              {"3", "0", 3, 0}};
+  for (const auto& row : rows) {
+    const OwnSettings settings;
+    CAPTURE(row.count);
+    CAPTURE(row.maximum);
+    kesto::settings().writeString("TopBar", "NbINC", row.count);
+    kesto::settings().writeString("TopBar", "MaxINC", row.maximum);
+    storeEntries("TopBar\\INC", row.entries, "h");
+    kesto::RecentFiles files(nullptr);
+    CHECK(files.headers().count() == row.loaded);
+    CHECK(files.projects().count() == 0);
+    CHECK(files.projects().maximum() == 10);
+  }
+}
+
+TEST_CASE("lists come back as they were saved; long entries are cut or end the list") {
+  const OwnSettings settings;
+  kesto::settings().writeInteger("TopBar", "NbIDE", 3);
+  kesto::settings().writeString("TopBar\\IDE", "Entry0", std::string(1999, 'p').c_str());
+  kesto::settings().writeString("TopBar\\IDE", "Entry1", "C:\\b.ide");
+  kesto::settings().writeString("TopBar\\IDE", "Entry2", std::string(2000, 'q').c_str());
+  {
+    kesto::RecentFiles files(nullptr);
+    REQUIRE(files.projects().count() == 2);
+    CHECK(std::string(files.projects().at(0)) == std::string(255, 'p'));
+    files.projects().setMaximum(1);
+    files.headers().use("C:\\a.h");
+    files.save();
+  }
+  CHECK(stored("TopBar", "NbIDE") == "1");
+  CHECK(stored("TopBar", "MaxIDE") == "1");
+  CHECK(stored("TopBar\\IDE", "Entry0") == std::string(255, 'p'));
+  CHECK(stored("TopBar\\IDE", "Entry1") == "C:\\b.ide");  // beyond the count: left alone
+  CHECK(stored("TopBar", "NbINC") == "1");
+  CHECK(stored("TopBar", "MaxINC") == "50");
+  CHECK(stored("TopBar\\INC", "Entry0") == "C:\\a.h");
+}
+
+TEST_CASE("a header that was used shows in its submenu with its whole path") {
+  BarSession session;
+  session.create();
+  kesto::RecentFiles& files = *kesto::recentFiles;
+  CHECK(files.headerUsed("C:\\p\\a.h:2", nullptr) == 1);
+  CHECK(files.headerUsed("C:\\p\\b.h", nullptr) == 1);
+  CHECK(files.headerUsed("C:\\p\\c.cpp", nullptr) == 1);
+  CHECK(files.headerUsed("C:\\P\\A.H", nullptr) == 1);
+  const HMENU headers = GetSubMenu(GetSubMenu(GetMenu(session.windows.bar), 0), 0);
+  CHECK(BarSession::texts(headers) == std::vector<std::string>{"C:\\P\\A.H", "C:\\p\\b.h"});
+  CHECK(GetMenuItemID(headers, 1) == 401);
+  kesto::barMenu->rebuild();
+  CHECK(BarSession::texts(GetSubMenu(GetSubMenu(GetMenu(session.windows.bar), 0), 0)) ==
+        std::vector<std::string>{"A.H", "b.h"});
+
+  // What a bar without these menus says; the list is in order all the same.
+  const HMENU full = GetMenu(session.windows.bar);
+  const HMENU bar = CreateMenu();
+  const auto said = [&](HMENU menu) {
+    SetMenu(session.windows.bar, menu);
+    files.headerUsed("C:\\p\\d.h", nullptr);
+    return session.lastStatus();
+  };
+  CHECK(said(nullptr) == "Pas de bar");
+  AppendMenuA(bar, MF_STRING, 99, "initializing...");
+  CHECK(said(bar) == "Pas de mnu");
+  const HMENU popup = CreatePopupMenu();
+  InsertMenuA(bar, 0, MF_BYPOSITION | MF_POPUP, reinterpret_cast<UINT_PTR>(popup), "Kesto");
+  CHECK(said(bar) == "mnu.taille=0");
+  AppendMenuA(popup, MF_STRING, 199, "Options...");
+  CHECK(said(bar) == "Pas de hh");
+  CHECK(files.headers().count() == 3);
+  SetMenu(session.windows.bar, full);
+  DestroyMenu(bar);
+}
+
+TEST_CASE("a second editor of a file makes way for the first") {
+  BarSession session;
+  session.create();
+  const HWND first = session.windows.editor("C:\\P\\A.H");
+  const HWND other = session.windows.editor("C:\\p\\b.h");
+  const HWND second = session.windows.editor("c:\\p\\a.h:2");
+  kesto::onEditorCreated(second);
+  session.windows.drain();
+  CHECK(!IsWindow(second));
+  CHECK(GetWindow(session.windows.client, GW_CHILD) == first);
+  CHECK(kesto::recentFiles->headers().count() == 0);
+  kesto::onEditorCreated(other);
+  session.windows.drain();
+  CHECK(IsWindow(other));
+  CHECK(kesto::recentFiles->headers().count() == 1);
+  kesto::onEditorCreated(second);
+}

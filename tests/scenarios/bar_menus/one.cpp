@@ -1,0 +1,2 @@
+// Source one.
+int one() { return 1; }
