@@ -87,8 +87,14 @@ bool Application::walk(const std::string& folder, FolderContent* content) {
 
 bool Application::openWalked(const std::string& folder, const std::string& file) {
   FolderContent content;
+  const std::string before = project_.file();
   if (!walk(folder, &content) || !closeProject()) {
     return false;
+  }
+  const std::string name = file.empty() ? Project::fileFor(folder) : file;
+  if (samePath(before, name) && store_.stamp(name).exists) {
+    // Closing has just saved it.
+    return openProjectFile(name);
   }
   project_.load(content, file);
   projectOpened(FileStamp());
