@@ -50,9 +50,13 @@ HWND targetEditor() {
   return hookSet != nullptr ? hookSet->target().window : nullptr;
 }
 
-// A click left the file there, a shortcut the editor's whole title.
+// A click left the file there, a shortcut the editor's title as it is.
 std::string targetFile() {
-  return hookSet != nullptr ? std::string(fileOfTitle(hookSet->target().title)) : std::string();
+  if (hookSet == nullptr) {
+    return {};
+  }
+  const std::string_view title = hookSet->target().title;
+  return std::string(fileOfTitle(title, title.size()));
 }
 
 }  // namespace
