@@ -34,8 +34,8 @@ String joinPath(std::string_view directory, std::string_view name) {
   return path;
 }
 
-std::string_view fileOfTitle(std::string_view title) {
-  std::string_view file = title.substr(0, kTitleLimit);
+std::string_view fileOfTitle(std::string_view title, std::size_t limit) {
+  std::string_view file = title.substr(0, limit);
   for (std::size_t i = file.size(); i-- > kDriveCharacters;) {
     const char c = file[i];
     if (c == ':' || c == '*' || (c == ' ' && i + 1 == file.size())) {

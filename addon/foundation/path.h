@@ -14,7 +14,7 @@ inline constexpr std::size_t kPathLimit = 259;
 // Directories that a walk below one of them looks into.
 inline constexpr int kDirectoryLimit = 20000;
 
-// Characters of an editor's title that are looked at.
+// Characters of a clicked editor's title that are looked at.
 inline constexpr std::size_t kTitleLimit = 178;
 
 // What follows the last "\" or "/"; the whole path when it has none.
@@ -27,8 +27,8 @@ String joinPath(std::string_view directory, std::string_view name);
 
 // The file that an editor's title names: the IDE's ":n" view number, its "*" and a
 // blank before them are cut, from the end down to the third character, so that a
-// drive's colon survives. Titles beyond kTitleLimit are cut there first.
-std::string_view fileOfTitle(std::string_view title);
+// drive's colon survives. A title beyond the limit is cut there first.
+std::string_view fileOfTitle(std::string_view title, std::size_t limit = kTitleLimit);
 // The title without the blanks and "*" at its end.
 std::string_view documentationTitle(std::string_view title);
 // The file without ":" suffixes, down to the third character.

@@ -18,6 +18,8 @@ namespace {
 constexpr int kCommandMethodResults = 184;
 constexpr int kCommandFirstResult = 800;
 constexpr int kResultCommands = 100;
+// A menu's ids have 16 bits.
+constexpr int kMostResultItems = 0x10000 - kCommandFirstResult;
 
 struct SearchTexts {
   const char* prompt;
@@ -46,6 +48,15 @@ std::string searchingText(const std::string& name) {
 
 HWND targetEditor() {
   return hookSet != nullptr ? hookSet->target().window : nullptr;
+}
+
+// A click left the file there, a shortcut the editor's title as it is.
+std::string targetFile() {
+  if (hookSet == nullptr) {
+    return {};
+  }
+  const std::string_view title = hookSet->target().title;
+  return std::string(fileOfTitle(title, title.size()));
 }
 
 }  // namespace
@@ -85,7 +96,7 @@ std::vector<SearchStep> QuickFind::plan(Search search) const {
   String source_path;
   String include_path;
   if (open) {
-    const ProjectNode node = nodeOfFile(hookSet != nullptr ? hookSet->target().title : "");
+    const ProjectNode node = nodeOfFile(targetFile().c_str());
     getOptionText(node, kOptionSourcePath, source_path);
     getOptionText(node, kOptionIncludePath, include_path);
   }
@@ -145,10 +156,11 @@ bool QuickFind::crossReference(const std::string& name) {
 
 void QuickFind::showMethodResults(HWND bar) {
   const HMENU popup = CreatePopupMenu();
-  // Ids beyond the range of the results belong to other commands.
-  const int shown = std::min(method_results_.count(), kResultCommands);
+  const int shown = std::min(method_results_.count(), kMostResultItems);
   for (int i = 0; i < shown; ++i) {
-    AppendMenuA(popup, MF_STRING, static_cast<UINT_PTR>(kCommandFirstResult + i),
+    // Ids beyond the range of the results belong to other commands: those are only shown.
+    const UINT state = i < kResultCommands ? MF_ENABLED : MF_GRAYED;
+    AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
                 method_results_.at(i)->text());
   }
   POINT mouse = {};

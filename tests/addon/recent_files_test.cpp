@@ -74,6 +74,11 @@ TEST_CASE("lists come back as they were saved; long entries are cut or end the l
   CHECK(stored("TopBar", "NbINC") == "1");
   CHECK(stored("TopBar", "MaxINC") == "50");
   CHECK(stored("TopBar\\INC", "Entry0") == "C:\\a.h");
+  kesto::RecentFiles next_run(nullptr);
+  CHECK(next_run.projects().count() == 1);
+  CHECK(next_run.projects().maximum() == 1);
+  REQUIRE(next_run.headers().count() == 1);
+  CHECK(std::string(next_run.headers().at(0)) == "C:\\a.h");
 }
 
 TEST_CASE("a header that was used shows in its submenu with its whole path") {

@@ -49,6 +49,7 @@ TEST_CASE("what a title names") {
   }
   const std::string longer = "C:" + std::string(177, 'x') + "y:2 *";
   CHECK(fileOfTitle(longer) == longer.substr(0, 178));
+  CHECK(fileOfTitle(longer, longer.size()) == longer.substr(0, 180));
 
   CHECK(documentationTitle("C:\\A.CPP:2 * *") == "C:\\A.CPP:2");
   CHECK(documentationTitle(" * ").empty());

@@ -208,15 +208,4 @@ TEST_CASE("a name is found wherever it lies in a long text") {
   CHECK(NameFinder(long_name).find(std::string(1000, 'x') + "y", 0) == 700);
 }
 
-TEST_CASE("lines are read one after the other as well") {
-  const std::string text = "one\r\n\r\n\ntwo\rthree";
-  LineReader reader(text);
-  std::vector<std::string> lines;
-  while (reader.next() < text.size()) {
-    reader.readLineAt(reader.next());
-    lines.push_back(std::to_string(reader.number()) + std::string(reader.line()));
-  }
-  CHECK(lines == std::vector<std::string>{"1one", "2", "3", "4two", "5three"});
-}
-
 }  // namespace kesto

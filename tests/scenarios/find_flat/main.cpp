@@ -1,5 +1,4 @@
 int main()
 {
     tool(1);
-    FooBar x;
 }

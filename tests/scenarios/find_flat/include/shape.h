@@ -1,6 +1,3 @@
 class Shape : public Base
 {
 };
-class FooBar : public Foo
-{
-};
