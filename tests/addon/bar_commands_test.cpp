@@ -3,6 +3,7 @@
 
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/recent_files.h"
+#include "addon/topbar/top_bar.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
 #include "tests/addon/recorded_boxes.h"
@@ -140,6 +141,31 @@ TEST_CASE("keys held make other commands of a project file") {
     CHECK(session.ide.project.opened_alternatively == std::vector<ProjectNode>{4});
   }
   CHECK(session.ide.tools.runs.empty());
+}
+
+TEST_CASE("an open project view stands in for the project's menus") {
+  const struct {
+    int construction;
+    int hides;
+    bool menus_beside_view;
+    bool menus;
+  } rows[] = {{0, 0, true, true},     {1, 0, true, true},     {0, 1, false, true},
+              {1, 1, false, true},    {2, 0, false, false},   {2, 1, false, false},
+              {-50, 1, false, false}, {-49, 1, false, false}, {2147483647, 1, false, false}};
+  for (const auto& row : rows) {
+    CAPTURE(row.construction);
+    CAPTURE(row.hides);
+    Project session;
+    kesto::topBar->useConstruction(row.construction);
+    kesto::topBar->useHidesWithView(row.hides);
+    const HWND view =
+        session.windows.create(ideapi::kProjectClass, "", WS_CHILD, session.windows.client);
+    session.command(103);
+    CHECK((session.barTexts().size() == 2) == row.menus_beside_view);
+    DestroyWindow(view);
+    session.command(103);
+    CHECK((session.barTexts().size() == 2) == row.menus);
+  }
 }
 
 TEST_CASE("a renamed node takes its item along") {
