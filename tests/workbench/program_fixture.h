@@ -42,6 +42,7 @@ class ScratchFolder {
       SetFileAttributesA(file(name).c_str(), FILE_ATTRIBUTE_NORMAL);
       DeleteFileA(file(name).c_str());
     }
+    DeleteFileA(projectFile().c_str());
     RemoveDirectoryA(file("inc").c_str());
     RemoveDirectoryA(path_.c_str());
   }
@@ -49,6 +50,8 @@ class ScratchFolder {
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
   const std::string& path() const { return path_; }
+  // What the folder's project is called.
+  std::string projectFile() const { return Project::fileFor(path_); }
   std::string file(const std::string& name) const { return joinPath(path_, name); }
 
  private:

@@ -60,9 +60,11 @@ class ProjectClientFake final : public Client<IProjectClient> {
   void STDMETHODCALLTYPE NodeRemoved(ProjectNode node) override {
     calls += "removed " + take(service->GetNodeName(node)) + " ";
   }
-  void STDMETHODCALLTYPE NodeOptionsChanged(ProjectNode) override {}
-  void STDMETHODCALLTYPE NodeChanged(ProjectNode) override {}
-  void STDMETHODCALLTYPE TargetChanged(ProjectNode) override {}
+  void STDMETHODCALLTYPE NodeOptionsChanged(ProjectNode) override { calls += "options "; }
+  void STDMETHODCALLTYPE NodeChanged(ProjectNode node) override {
+    calls += "changed " + take(service->GetNodeName(node)) + " ";
+  }
+  void STDMETHODCALLTYPE TargetChanged(ProjectNode) override { calls += "target "; }
 };
 
 class ToolFake final : public Client<IToolImplementor> {
@@ -251,6 +253,10 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   IIdeString* type = program.text(".cpp");
   const ProjectNode node = service->AddNode(service->GetTopNode(), name, type);
   CHECK(service->FindNode(name) == node);
+  program.application.describeNode(node, "new");
+  program.application.setNodePath(node, kOptionSourcePath, "src");
+  const unsigned int group = program.application.addNode(0, "Group", "Group");
+  program.application.renameNode(group, "Renamed");
   CHECK(service->RemoveNode(node) == 1);
   CHECK(service->RemoveNode(node) == 0);
   CHECK(service->GetNodeName(node) == nullptr);
@@ -274,8 +280,11 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   CHECK(options->GetNodeOption(service->GetTopNode(), kOptionSourcePath) == nullptr);
   options->Release();
 
+  REQUIRE(program.application.saveProject());
   program.application.closeProject();
-  CHECK(client.calls == "opened " + file + " added removed C:\\NEW.CPP closed ");
+  CHECK(client.calls == "opened " + file +
+                            " added changed C:\\NEW.CPP options added changed Renamed target "
+                            "removed C:\\NEW.CPP closed ");
   service->RemoveClient(&client);
   CHECK(client.references == 1);
   REQUIRE(program.application.openPath(folder.path()));
@@ -311,7 +320,11 @@ TEST_CASE("tools") {
   CHECK(tool.references == 2);
   CHECK(tools->RunTool(handle, file) == kToolWarnings);
   SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
-  CHECK(tool.calls == folder.file("inc\\b.h") + "(none)");
+  // From the menu it gets the file of the active editor, and none without one.
+  CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h"));
+  SendMessageA(program.application.activeEditor()->window(), WM_CLOSE, 0, 0);
+  SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
+  CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h") + "(none)");
   tools->RemoveTool(handle);
   CHECK(tool.references == 1);
   CHECK(tools->RunTool(handle, file) == kToolNotHandled);

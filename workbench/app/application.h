@@ -98,6 +98,8 @@ class Application final : public Workbench,
  private:
   bool openFolder(const std::string& folder);
   bool openProjectFile(const std::string& file);
+  // False when it cannot be read (the reason has been shown).
+  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp);
   // The sources of the folder as a project of this file, fileFor's when empty.
   bool openWalked(const std::string& folder, const std::string& file);
   bool walk(const std::string& folder, FolderContent* content);

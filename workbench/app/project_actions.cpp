@@ -40,23 +40,34 @@ bool Application::openFolder(const std::string& folder) {
   return projects.size() == 1 ? openProjectFile(projects.front()) : openWalked(path, {});
 }
 
-bool Application::openProjectFile(const std::string& file) {
+bool Application::readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp) {
   std::string bytes;
-  const FileStamp stamp = store_.stamp(file);
+  *stamp = store_.stamp(file);
   const FileFault fault = store_.read(file, kLargestProjectFile, &bytes);
   if (fault != FileFault::kNone) {
     showError(describeFault(fault, file));
     return false;
   }
-  ProjectTree tree;
-  tree.last_id = project_.lastId();
+  *tree = ProjectTree();
+  tree->last_id = project_.lastId();
   ProjectFault wrong;
-  if (!readProjectFile(bytes, std::string(folderOf(file)), &tree, &wrong)) {
+  if (!readProjectFile(bytes, std::string(folderOf(file)), tree, &wrong)) {
     showError(file + ", line " + std::to_string(wrong.line) + ":\n" + wrong.reason +
               "\n\nThe project was not opened, and its file is unchanged.");
     return false;
   }
-  if (!closeProject()) {
+  return true;
+}
+
+bool Application::openProjectFile(const std::string& file) {
+  ProjectTree tree;
+  FileStamp stamp;
+  const bool reopened = samePath(project_.file(), file);
+  if (!readProject(file, &tree, &stamp) || !closeProject()) {
+    return false;
+  }
+  // Closing may just have saved it.
+  if (reopened && !readProject(file, &tree, &stamp)) {
     return false;
   }
   project_.load(file, std::move(tree));
@@ -76,8 +87,14 @@ bool Application::walk(const std::string& folder, FolderContent* content) {
 
 bool Application::openWalked(const std::string& folder, const std::string& file) {
   FolderContent content;
+  const std::string before = project_.file();
   if (!walk(folder, &content) || !closeProject()) {
     return false;
+  }
+  const std::string name = file.empty() ? Project::fileFor(folder) : file;
+  if (samePath(before, name) && store_.stamp(name).exists) {
+    // Closing has just saved it.
+    return openProjectFile(name);
   }
   project_.load(content, file);
   projectOpened(FileStamp());

@@ -12,7 +12,7 @@
 
 #include "workbench/app/mdi_pane.h"
 #include "workbench/project/project.h"
-#include "workbench/services/project_service.h"
+#include "workbench/project/project_view.h"
 
 namespace workbench {
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "workbench/project/project_view.h"
 #include "workbench/services/client_list.h"
 #include "workbench/services/counted.h"
 #include "workbench/services/service_context.h"
@@ -10,17 +11,6 @@
 namespace workbench {
 
 class ToolService;
-
-// Whoever shows the tree: it follows each change before the clients hear of it.
-class ProjectView {
- public:
-  virtual void nodeAdded(unsigned int node) = 0;
-  virtual void nodeRemoved(unsigned int node) = 0;
-  virtual void nodeChanged(unsigned int node) = 0;
-
- protected:
-  ~ProjectView() = default;
-};
 
 class ProjectService final : public Service<IProjectService> {
  public:

@@ -1,0 +1,3 @@
+int one() {
+  return 1;
+}

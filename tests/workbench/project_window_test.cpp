@@ -1,0 +1,201 @@
+// Projects on the disk and the windows that show them, with real windows and files.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include "doctest.h"
+#include "tests/workbench/program_fixture.h"
+
+using namespace workbench;
+
+namespace {
+
+HWND child(HWND parent, const char* name) {
+  return FindWindowExA(parent, nullptr, name, nullptr);
+}
+
+// What is posted within the program, such as a window catching up with its list.
+void deliverPosted() {
+  MSG message = {};
+  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+    DispatchMessageA(&message);
+  }
+}
+
+std::string bytesOf(const std::string& path) {
+  DiskStore store;
+  std::string bytes;
+  return store.read(path, kLargestText, &bytes) == FileFault::kNone ? bytes : "(none)";
+}
+
+class SaveClient final : public IProjectSaveClient {
+ public:
+  explicit SaveClient(Workbench& workbench) : workbench_(workbench) {}
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** result) override {
+    *result = nullptr;
+    return E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() override { return 1; }
+  void STDMETHODCALLTYPE ProjectSaving() override {
+    ++calls;
+    workbench_.writeOption("Kept", "on saving");
+  }
+  int calls = 0;
+
+ private:
+  Workbench& workbench_;
+};
+
+}  // namespace
+
+TEST_CASE("a folder's project is written when it is saved, and read from then on") {
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
+  SaveClient client(application);
+  auto* save = program.service<IProjectSaveService>(ideapi::kProjectSaveService);
+  save->AddClient(&client);
+  CHECK_FALSE(application.saveProject());
+  REQUIRE(application.openPath(folder.path()));
+  CHECK(application.closeProject());  // nothing has changed: nothing is asked or written
+  CHECK(client.calls == 0);
+  CHECK(bytesOf(folder.projectFile()) == "(none)");
+
+  REQUIRE(application.openPath(folder.path()));
+  application.addNode(0, "tool.exe", ".exe");
+  application.setBuildCommand("make");
+  CHECK(application.saveProject());
+  CHECK(client.calls == 1);
+  CHECK(*program.last("project")->find("action") == "saved");
+  CHECK(application.closeProject());
+  CHECK(bytesOf(folder.projectFile()).find("node \"tool.exe\" \".exe\"") != std::string::npos);
+
+  // The folder is opened through its file now, what the client put there included.
+  REQUIRE(application.openPath(folder.path()));
+  CHECK(application.projectEntries().back().name == folder.file("tool.exe"));
+  std::string option;
+  CHECK(application.readOption("Kept", &option));
+  CHECK(option == "on saving");
+  char title[100] = {};
+  GetWindowTextA(application.frame(), title, sizeof title);
+  CHECK(title == "Borland C++ - " + std::string(fileName(folder.path())));
+  save->RemoveClient(&client);
+  save->Release();
+}
+
+TEST_CASE("a new project is saved at once") {
+  ScratchFolder folder;
+  Program program;
+  REQUIRE(program.application.newProject(folder.path()));
+  const std::string bytes = bytesOf(folder.projectFile());
+  CHECK(bytes.find("path 1 \"inc\"") != std::string::npos);
+  CHECK(bytes.find("node \"inc\\\\b.h\" \".h\"") != std::string::npos);
+  CHECK(bytes.find("node \".\" \"Folder\" {") != std::string::npos);
+}
+
+TEST_CASE("the project window follows the tree") {
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
+  REQUIRE(application.openPath(folder.path()));
+  SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
+  HWND pane = child(application.mdiClient(), ideapi::kProjectClass);
+  REQUIRE(pane != nullptr);
+  HWND tree = child(pane, WC_TREEVIEWA);
+  const auto count = [tree] { return static_cast<int>(TreeView_GetCount(tree)); };
+  CHECK(count() == 4);  // the folder, a.cpp, inc and b.h
+  const unsigned int group = application.addNode(0, "Extras", "Group");
+  application.addNode(group, "x.txt", ".txt");
+  CHECK(count() == 6);
+  application.removeNode(group);
+  CHECK(count() == 4);
+
+  // Shown again it is the same window; closed and shown, another.
+  SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
+  CHECK(child(application.mdiClient(), ideapi::kProjectClass) == pane);
+  SendMessageA(pane, WM_SYSCOMMAND, SC_CLOSE, 0);
+  CHECK(child(application.mdiClient(), ideapi::kProjectClass) == nullptr);
+  application.addNode(0, "while closed", "Group");
+  SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
+  pane = child(application.mdiClient(), ideapi::kProjectClass);
+  CHECK(TreeView_GetCount(child(pane, WC_TREEVIEWA)) == 5);
+}
+
+TEST_CASE("the message window shows one group; its first tab and its clearing") {
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
+  REQUIRE(application.openPath(folder.path()));
+  auto* service = program.service<IMessageService>(ideapi::kMessageService);
+  IIdeString* name = program.text("Uses");
+  IIdeString* menu = program.text("&Uses");
+  IIdeString* file = program.text(folder.file("a.cpp"));
+  const MessageGroup group = service->CreateGroup(name, menu);
+  // A frame that was never shown has not laid out what is in it.
+  SendMessageA(application.frame(), WM_SIZE, SIZE_RESTORED, 0);
+  SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowMessages, 0);
+  HWND inner =
+      child(child(application.mdiClient(), ideapi::kMessageClass), ideapi::kOwlWindowClass);
+  HWND tabs = child(inner, ideapi::kNoteTabClass);
+  HWND viewer = child(inner, ideapi::kMessageViewerClass);
+  REQUIRE(tabs != nullptr);
+  REQUIRE(viewer != nullptr);
+
+  const MessageHandle head = service->AddMessage(group, 0, name);
+  for (int i = 0; i < 10000; ++i) {
+    service->AddLocatedMessage(group, head, name, file, 2, 3, 5);
+  }
+  CHECK(service->AddMessage(group + 1, 0, name) == 0);
+  CHECK(*program.last("message")->find("group") == "Uses");
+  CHECK(*program.last("message")->find("kind") == "5");
+  deliverPosted();
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);  // the builds' group is shown
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 10001);
+
+  SendMessageA(viewer, LB_SETCURSEL, 9999, 0);
+  SendMessageA(viewer, WM_KEYDOWN, VK_RETURN, 0);
+  EditorWindow* editor = application.activeEditor();
+  REQUIRE(editor != nullptr);
+  int line = 0;
+  int column = 0;
+  editor->caret(&line, &column);
+  CHECK(line == 2);
+  CHECK(column == 3);
+
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
+  SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
+  CHECK(application.messages().group(group)->messages.size() == 10001);
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
+  CHECK(application.messages().group(group)->messages.empty());
+  deliverPosted();
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
+  file->Release();
+  menu->Release();
+  name->Release();
+  service->Release();
+}
+
+TEST_CASE("nodes are opened by the tool of their type") {
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
+  REQUIRE(application.openPath(folder.path()));
+  auto* service = program.service<IProjectService>(ideapi::kProjectService);
+  const unsigned int file = application.findNode("a.cpp");
+  CHECK(service->OpenNode(file, 0) == kToolDone);
+  CHECK(application.findEditor("a.cpp") != nullptr);
+  CHECK(service->OpenNode(service->GetTopNode(), 0) == kToolNotHandled);
+  CHECK(service->OpenNode(9999, 0) == kToolNotHandled);
+  const unsigned int program_node = application.addNode(0, "new.exe", ".exe");
+  // The alternative form is the text, whatever the type.
+  CHECK(service->OpenNode(program_node, 1) == kToolDone);
+  CHECK(application.findEditor("new.exe") != nullptr);
+  CHECK(*program.last("tool")->find("name") == "EditText");
+  service->Release();
+}
