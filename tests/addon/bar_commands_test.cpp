@@ -118,10 +118,12 @@ TEST_CASE("keys held make other commands of a project file") {
   delete kesto::barMenu;
   kesto::barMenu = new kesto::BarMenu(session.windows.bar, adding);
   kesto::barMenu->rebuild();
+  SetActiveWindow(session.windows.bar);
   {
     const Held alt({VK_MENU});
     session.command(10000);
     CHECK(adding.added == 2);
+    CHECK(GetActiveWindow() == session.windows.frame);
   }
   {
     const Held ctrl({VK_CONTROL});
@@ -170,16 +172,21 @@ TEST_CASE("an open project view stands in for the project's menus") {
 
 TEST_CASE("a renamed node takes its item along") {
   Project session;
+  session.ide.project.nodes.push_back({1, "C:\\p\\part.lib", ".lib", ""});
+  session.ide.project.nodes.push_back({5, "C:\\p\\d.cpp", ".cpp", ""});
+  kesto::topBar->useConstruction(1);
+  session.command(103);
   CHECK(session.barTexts() == Texts{"Kesto", "prog.exe"});
   const auto rename = [&](ProjectNode node, const char* name) {
     session.ide.project.nodes[node - 1].name = name;
     session.ide.project.clients.at(0)->NodeChanged(node);
   };
   rename(3, "C:\\p\\new.rc");
+  rename(5, "C:\\p\\core.lib");
   rename(1, "C:\\p\\other.exe");
   CHECK(session.barTexts() == Texts{"Kesto", "other.exe"});
   const HMENU files = GetSubMenu(GetMenu(session.windows.bar), 1);
-  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp"});
+  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp", "core.lib"});
   CHECK(GetMenuItemID(files, 1) == 10001);
   session.ide.project.close();
   CHECK(session.barTexts() == Texts{"Kesto"});
