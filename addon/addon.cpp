@@ -9,6 +9,7 @@
 #include "addon/completion/completion_settings.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/access.h"
+#include "addon/ide/current_project.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/help_file.h"
 #include "addon/ide/hook_set.h"
@@ -100,6 +101,10 @@ void startAddon(IIde* ide) {
     projectTestA->registerClients();
   }
   create(recentFiles, barWindow);
+  // The clients may have been told of an open project before the lists were there.
+  if (recentFiles != nullptr && isProjectOpen()) {
+    recentFiles->projects().remove(projectFile());
+  }
   create(optionsServiceHolder);
   // The IDE may have no project to tell of; the menus come without one as well.
   PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);

@@ -15,8 +15,6 @@ BarMenu* barMenu = nullptr;
 namespace {
 
 constexpr char kDescriptionSeparator[] = " : ";
-// Added to the construction while the project view stands in for the menus.
-constexpr int kViewIsOpen = 50;
 constexpr int kItemTextSize = 512;
 
 bool isProjectViewOpen() {
@@ -24,9 +22,10 @@ bool isProjectViewOpen() {
   return client != nullptr && findChildWindow(client, ideapi::kProjectClass, nullptr) != nullptr;
 }
 
+// An open project view may stand in for the menus, whatever number a project gives.
 int constructionNow() {
-  const int construction = static_cast<int>(topBar->construction());
-  return topBar->hidesWithView() && isProjectViewOpen() ? construction + kViewIsOpen : construction;
+  return static_cast<int>(topBar->hidesWithView() && isProjectViewOpen() ? BarConstruction::kNoMenu
+                                                                         : topBar->construction());
 }
 
 unsigned nodeAt(const std::vector<unsigned>& nodes, int n) {
@@ -128,8 +127,12 @@ HMENU BarMenu::menuAt(int popup) const {
 void BarMenu::nodeChanged(unsigned node, const char* name) {
   const std::string title(fileNamePart(name));
   for (size_t n = 0; n < plan_.files.size(); ++n) {
-    if (plan_.files[n].node == node) {
-      changeText(menuAt(plan_.files[n].popup), static_cast<UINT>(kFirstFileId) + n, false, title);
+    const PlacedNode& file = plan_.files[n];
+    if (file.node == node) {
+      if (changeText(menuAt(file.popup), static_cast<UINT>(kFirstFileId) + n, false, title) &&
+          file.popup == BarMenuPlan::kBar) {
+        DrawMenuBar(bar_);
+      }
       return;
     }
   }

@@ -3,6 +3,7 @@
 
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/recent_files.h"
+#include "addon/topbar/top_bar.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
 #include "tests/addon/recorded_boxes.h"
@@ -117,10 +118,12 @@ TEST_CASE("keys held make other commands of a project file") {
   delete kesto::barMenu;
   kesto::barMenu = new kesto::BarMenu(session.windows.bar, adding);
   kesto::barMenu->rebuild();
+  SetActiveWindow(session.windows.bar);
   {
     const Held alt({VK_MENU});
     session.command(10000);
     CHECK(adding.added == 2);
+    CHECK(GetActiveWindow() == session.windows.frame);
   }
   {
     const Held ctrl({VK_CONTROL});
@@ -142,18 +145,48 @@ TEST_CASE("keys held make other commands of a project file") {
   CHECK(session.ide.tools.runs.empty());
 }
 
+TEST_CASE("an open project view stands in for the project's menus") {
+  const struct {
+    int construction;
+    int hides;
+    bool menus_beside_view;
+    bool menus;
+  } rows[] = {{0, 0, true, true},     {1, 0, true, true},     {0, 1, false, true},
+              {1, 1, false, true},    {2, 0, false, false},   {2, 1, false, false},
+              {-50, 1, false, false}, {-49, 1, false, false}, {2147483647, 1, false, false}};
+  for (const auto& row : rows) {
+    CAPTURE(row.construction);
+    CAPTURE(row.hides);
+    Project session;
+    kesto::topBar->useConstruction(row.construction);
+    kesto::topBar->useHidesWithView(row.hides);
+    const HWND view =
+        session.windows.create(ideapi::kProjectClass, "", WS_CHILD, session.windows.client);
+    session.command(103);
+    CHECK((session.barTexts().size() == 2) == row.menus_beside_view);
+    DestroyWindow(view);
+    session.command(103);
+    CHECK((session.barTexts().size() == 2) == row.menus);
+  }
+}
+
 TEST_CASE("a renamed node takes its item along") {
   Project session;
+  session.ide.project.nodes.push_back({1, "C:\\p\\part.lib", ".lib", ""});
+  session.ide.project.nodes.push_back({5, "C:\\p\\d.cpp", ".cpp", ""});
+  kesto::topBar->useConstruction(1);
+  session.command(103);
   CHECK(session.barTexts() == Texts{"Kesto", "prog.exe"});
   const auto rename = [&](ProjectNode node, const char* name) {
     session.ide.project.nodes[node - 1].name = name;
     session.ide.project.clients.at(0)->NodeChanged(node);
   };
   rename(3, "C:\\p\\new.rc");
+  rename(5, "C:\\p\\core.lib");
   rename(1, "C:\\p\\other.exe");
   CHECK(session.barTexts() == Texts{"Kesto", "other.exe"});
   const HMENU files = GetSubMenu(GetMenu(session.windows.bar), 1);
-  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp"});
+  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp", "core.lib"});
   CHECK(GetMenuItemID(files, 1) == 10001);
   session.ide.project.close();
   CHECK(session.barTexts() == Texts{"Kesto"});

@@ -159,6 +159,9 @@ class Project : public Counted<IProjectService> {
   void STDMETHODCALLTYPE AddClient(IProjectClient* client) override {
     client->AddRef();
     clients.push_back(client);
+    if (loaded) {
+      client->ProjectOpened(&project);
+    }
   }
   void STDMETHODCALLTYPE RemoveClient(IProjectClient* client) override {
     std::erase(clients, client);

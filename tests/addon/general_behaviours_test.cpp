@@ -121,6 +121,25 @@ TEST_CASE("a make takes its windows away and puts them back") {
   CHECK(told == std::vector<std::string>{"CPPFRAME 13251", "CPPFRAME 13252"});
 }
 
+TEST_CASE("the status box is a document, a window of its own, or none") {
+  Making session;
+  session.create();
+  const HWND box = telling(session.windows.create("#32770", "", WS_POPUP, nullptr));
+  kesto::generalBehaviours->makeStarted();
+  CHECK(told.back() == "#32770 minimise");
+  // A document goes before it.
+  const HWND inner = session.windows.create("#32770", "", WS_CHILD, session.windows.client);
+  kesto::generalBehaviours->makeStarted();
+  CHECK(told.back() == "BCW5Message close");
+  CHECK(IsIconic(inner));
+  DestroyWindow(inner);
+  DestroyWindow(box);
+  SetActiveWindow(session.windows.frame);
+  kesto::generalBehaviours->makeStarted();
+  kesto::generalBehaviours->makeEnded();
+  CHECK(told.back() == "CPPFRAME 13252");
+}
+
 TEST_CASE("what is switched off is left alone") {
   Making session;
   for (const char* name :

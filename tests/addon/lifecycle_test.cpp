@@ -77,6 +77,7 @@ class Session {
     entry_(0);
     CHECK(ownBar() == nullptr);
     RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\General").c_str());
+    kesto::settings().writeInteger("TopBar", "NbIDE", 0);
     FreeLibrary(module_);
     CHECK(GetModuleHandleA("Kestoaob.dll") == nullptr);
   }
@@ -219,6 +220,53 @@ TEST_CASE("three hundred popups leave no handle behind") {
   CHECK(after.gdi == before.gdi);
   CHECK(after.windows == before.windows);
   CHECK(after.menus == before.menus);
+}
+
+TEST_CASE("menus and projects come and go without leaving a handle") {
+  fake::Ide ide;
+  ide.project.nodes = {{0, "C:\\p\\prog.exe", ".exe", ""},
+                       {1, "C:\\p\\a.cpp", ".cpp", ""},
+                       {1, "lib", "Folder", ""},
+                       {3, "C:\\p\\b.cpp", ".cpp", ""}};
+  const Session session(ide);
+  const auto round = [&](int construction) {
+    ide.project.options["Kesto_HIERARCH"] = {static_cast<char>(construction), 0, 0, 0};
+    ide.project.loaded = true;
+    ide.project.open("C:\\p\\p.ide");
+    CHECK(GetMenuItemCount(GetMenu(ownBar())) == (construction == 0 ? 3 : 2));
+    SendMessageA(ownBar(), WM_COMMAND, 103, 0);
+    ide.project.close();
+    drain();
+  };
+  round(0);
+  const HandleCounts before = countHandles();
+  const int references = fake::live_references;
+  for (int i = 0; i < 50; ++i) {
+    round(1);
+    round(0);
+  }
+  const HandleCounts after = countHandles();
+  CHECK(after.gdi == before.gdi);
+  CHECK(after.windows == before.windows);
+  CHECK(after.menus == before.menus);
+  CHECK(fake::live_references == references);
+}
+
+TEST_CASE("a project that is open at the start is no recent one") {
+  kesto::SettingsStore& store = kesto::settings();
+  store.setRoot(kRoot);
+  store.writeInteger("TopBar", "NbIDE", 2);
+  store.writeString("TopBar\\IDE", "Entry0", "C:\\p\\p.ide");
+  store.writeString("TopBar\\IDE", "Entry1", "C:\\q.ide");
+  fake::Ide ide;
+  ide.project.loaded = true;
+  ide.project.project.file = "C:\\p\\p.ide";
+  const Session session(ide);
+  const HMENU menu = GetSubMenu(GetMenu(ownBar()), 0);
+  char text[80] = "";
+  GetMenuStringA(menu, 200, text, sizeof text, MF_BYCOMMAND);
+  CHECK(std::string(text) == "q.ide");
+  CHECK(GetMenuState(menu, 201, MF_BYCOMMAND) == static_cast<UINT>(-1));
 }
 
 TEST_CASE("the project view rebuilds the bar's menu only when the settings want it") {

@@ -76,21 +76,16 @@ TEST_CASE("a project without options opens with the defaults") {
 TEST_CASE("saving a project gives back what it stores, in order") {
   BarSession session;
   session.create();
-  const std::map<std::string, std::string> options = {{"Kesto_HIERARCH", number(1)},
-                                                      {"Kesto_HIDEWITHVIEW", number(1)},
-                                                      {"Kesto_EWindows", number(1)},
-                                                      {"Kesto_GenRC", number(1)},
-                                                      {"Kesto_HTMLEN", number(0)},
-                                                      {"Kesto_HTMLAU", number(1)},
-                                                      {"Kesto_HTMLFI", text("~*.cc")},
-                                                      {"Kesto_WITHDELIVERY", number(0)},
-                                                      {"Kesto_NB_ODR", number(1)},
-                                                      {"Kesto_ODR_TYP_0", text("+.exe")},
-                                                      {"Kesto_ODR_REP_0", text("+D:\\out")},
-                                                      {"KestoGroupwareServer", text("~Z:\\srv")},
-                                                      {"Kesto_NB_MAIL", number(1)},
-                                                      {"Kesto_MAIL_PJ_0", text("+anna")},
-                                                      {"Other", "untouched"}};
+  const std::map<std::string, std::string> options = {
+      {"Kesto_HIERARCH", number(1)},         {"Kesto_HIDEWITHVIEW", number(1)},
+      {"Kesto_EWindows", number(1)},         {"Kesto_GenRC", number(1)},
+      {"Kesto_HTMLEN", number(0)},           {"Kesto_HTMLAU", number(1)},
+      {"Kesto_HTMLFI", text("~*.cc")},       {"Kesto_WITHDELIVERY", number(0)},
+      {"Kesto_NB_ODR", number(2)},           {"Kesto_ODR_TYP_0", text("+.exe")},
+      {"Kesto_ODR_REP_0", text("+D:\\out")}, {"Kesto_ODR_TYP_1", text("+.dll")},
+      {"Kesto_ODR_REP_1", text("+")},        {"KestoGroupwareServer", text("~Z:\\srv")},
+      {"Kesto_NB_MAIL", number(2)},          {"Kesto_MAIL_PJ_0", text("+anna")},
+      {"Kesto_MAIL_PJ_1", text("+bert")},    {"Other", "untouched"}};
   session.ide.project.options = options;
   session.openProject("C:\\p.ide");
   REQUIRE(session.ide.project_save.clients.size() == 1);
@@ -98,9 +93,9 @@ TEST_CASE("saving a project gives back what it stores, in order") {
   CHECK(session.ide.project.options == options);
   CHECK(session.ide.project.committed ==
         Names{"Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_WITHDELIVERY", "Kesto_NB_ODR",
-              "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0",
-              "KestoGroupwareServer", "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN",
-              "Kesto_HTMLAU", "Kesto_HTMLFI"});
+              "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_ODR_TYP_1", "Kesto_ODR_REP_1",
+              "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0", "Kesto_MAIL_PJ_1", "KestoGroupwareServer",
+              "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI"});
   session.ide.project.close();
   CHECK(kesto::mailProjectOptions.recipients.empty());
 }
@@ -121,6 +116,7 @@ TEST_CASE("the open project is no recent one, and is the newest once closed") {
   session.ide.project.open("C:\\p.ide");
   CHECK(!kesto::isProjectOpen());
   CHECK(session.ide.project.asked.size() == 11);
+  CHECK(session.ide.make.clients.empty());
   CHECK(session.barTexts() == Names{"Kesto"});
   CHECK(projects.count() == 1);
   session.ide.project.close();

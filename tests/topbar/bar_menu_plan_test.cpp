@@ -118,6 +118,7 @@ TEST_CASE("both constructions of one project") {
                       {1, "empty", "Folder"},
                       {0, "C:\\p\\tool.exe", ".exe"},
                       {0, "C:\\p\\old.lib", ".lib"},
+                      {0, "C:\\p\\plug.dll", ".dll"},
                       {0, "C:\\p\\readme.txt", ".txt"}});
   const std::string main = "Kesto{300 run prog.exe,301 run tool.exe,-," + rest() + "}";
   const kesto::BarMenuPlan linear = planned(tree, 0);
@@ -126,9 +127,10 @@ TEST_CASE("both constructions of one project") {
   CHECK(linear.tools == std::vector<unsigned>{1, 11});
   CHECK(linear.targets.size() == 2);
   const kesto::BarMenuPlan nested = planned(tree, 1);
-  CHECK(shown(nested) ==
-        main + ",prog.exe{10000 main.cpp,core.lib{10001 core.cpp},10002 prog.rc},10003 readme.txt");
-  REQUIRE(nested.files.size() == 4);
+  CHECK(shown(nested) == main +
+                             ",prog.exe{10000 main.cpp,core.lib{10001 core.cpp},10002 "
+                             "prog.rc},10003 plug.dll,10004 readme.txt");
+  REQUIRE(nested.files.size() == 5);
   CHECK(nested.files[1].node == 4);
   CHECK(nested.targets.size() == 2);
   // No menu, and what stands for an open project view.
