@@ -3,6 +3,7 @@
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/hook_set.h"
 #include "addon/ide/project_nodes.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
@@ -72,7 +73,19 @@ bool changeTitle(HMENU parent, HMENU popup, const std::string& title) {
 
 }  // namespace
 
+void BarMenu::menuOpened(bool open) {
+  open_ = open;
+  if (!open && rebuild_due_) {
+    // What was chosen comes as a message of its own and means the present menus.
+    PostMessageA(bar_, WM_COMMAND, kCommandRebuildMenu, 0);
+  }
+}
+
 void BarMenu::rebuild() {
+  rebuild_due_ = open_;
+  if (open_) {
+    return;
+  }
   const HMENU old = GetMenu(bar_);
   SetMenu(bar_, nullptr);
   if (old != nullptr) {

@@ -28,7 +28,10 @@ class BarMenu {
   BarMenu(const BarMenu&) = delete;
   BarMenu& operator=(const BarMenu&) = delete;
 
+  // While one of the bar's menus is open they stay; the rebuild follows its closing.
   void rebuild();
+  // One of the bar's menus was opened or closed by the user.
+  void menuOpened(bool open);
   // The node has a new name: its item or popup takes it.
   void nodeChanged(unsigned node, const char* name);
 
@@ -51,6 +54,8 @@ class BarMenu {
   MenuFeatures& features_;
   BarMenuPlan plan_;
   std::vector<HMENU> menus_;  // of the plan's popups, null where none was created
+  bool open_ = false;
+  bool rebuild_due_ = false;
 };
 
 extern BarMenu* barMenu;

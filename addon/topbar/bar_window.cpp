@@ -5,6 +5,7 @@
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
+#include "addon/topbar/bar_menu.h"
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/placement.h"
 #include "addon/topbar/top_bar.h"
@@ -74,6 +75,13 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
     case WM_INITMENU:
       if (topBar != nullptr && !isTitlePopupOpen()) {
         topBar->expand();
+      }
+      break;
+    case WM_ENTERMENULOOP:
+    case WM_EXITMENULOOP:
+      // wParam tells the popups of title bars, which are no menus of the bar.
+      if (barMenu != nullptr && wParam == FALSE) {
+        barMenu->menuOpened(message == WM_ENTERMENULOOP);
       }
       break;
     case WM_MENUSELECT:
