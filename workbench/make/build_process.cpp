@@ -33,8 +33,8 @@ struct Jobs {
 };
 
 const Jobs& jobs() {
-  static const Jobs kJobs;
-  return kJobs;
+  static const Jobs the_jobs;
+  return the_jobs;
 }
 
 std::string systemText(DWORD error) {

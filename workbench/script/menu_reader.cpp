@@ -65,7 +65,8 @@ bool readMenuItem(HMENU menu, int position, MenuItem* item) {
   item->highlighted = (info.fState & MFS_HILITE) != 0;
   bool has_text = (info.fType & (MFT_BITMAP | MFT_OWNERDRAW | MFT_SEPARATOR)) == 0;
   if (has_text) {
-    item->text = text.c_str();
+    text.resize(info.cch);
+    item->text = text;
   }
   return true;
 }
