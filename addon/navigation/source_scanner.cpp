@@ -11,6 +11,9 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
+// Slots by which the list grows: a large source has thousands of functions.
+constexpr int kFunctionsStep = 1000;
+
 std::string_view upToZero(std::string_view text) {
   return text.substr(0, text.find('\0'));
 }
@@ -96,6 +99,7 @@ std::string_view includeName(std::string_view line) {
 
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions) {
   functions.clear();
+  functions.setStep(kFunctionsStep);
   FlushLeftLines lines(text);
   std::string_view line;
   while (lines.next(line)) {
