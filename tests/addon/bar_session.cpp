@@ -10,22 +10,11 @@
 #include "addon/topbar/top_bar.h"
 #include "doctest.h"
 #include "tests/addon/recorded_boxes.h"
+#include "tests/foundation/registry_tree.h"
 
 namespace {
 
 constexpr char kRoot[] = "Software\\KestoAddonTest";
-
-void removeTree(HKEY parent, const char* name) {
-  HKEY key = nullptr;
-  if (RegOpenKeyA(parent, name, &key) == ERROR_SUCCESS) {
-    char child[256];
-    while (RegEnumKeyA(key, 0, child, sizeof child) == ERROR_SUCCESS) {
-      removeTree(key, child);
-    }
-    RegCloseKey(key);
-    RegDeleteKeyA(parent, name);
-  }
-}
 
 template <class T>
 void drop(T*& slot) {
