@@ -33,8 +33,8 @@ struct Jobs {
 };
 
 const Jobs& jobs() {
-  static const Jobs kJobs;
-  return kJobs;
+  static const Jobs loaded;
+  return loaded;
 }
 
 std::string systemText(DWORD error) {
