@@ -17,6 +17,7 @@
 
 #include "addon/ide/access.h"
 #include "addon/ide/file_text.h"
+#include "addon/ide/unknown_imp.h"
 #include "addon/navigation/directory_listing.h"
 #include "addon/navigation/name_search.h"
 
@@ -26,28 +27,7 @@ namespace {
 constexpr int kRounds = 21;
 constexpr int kSearches = 100;
 
-template <class T>
-class Counted : public T {
- public:
-  virtual ~Counted() = default;
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** result) override {
-    *result = nullptr;
-    return E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
-  }
-
- private:
-  ULONG references_ = 1;
-};
-
-class Text : public Counted<IIdeString> {
+class Text : public IUnknownImp<IIdeString> {
  public:
   void STDMETHODCALLTYPE SetText(const char* text) override { text_ = text; }
   const char* STDMETHODCALLTYPE GetText() override { return text_.c_str(); }
@@ -56,7 +36,7 @@ class Text : public Counted<IIdeString> {
   std::string text_;
 };
 
-class DiskStream : public Counted<IFileStream> {
+class DiskStream : public IUnknownImp<IFileStream> {
  public:
   ~DiskStream() override { closeFile(); }
   int STDMETHODCALLTYPE Open(IIdeString* file, int) override {
@@ -89,7 +69,7 @@ class DiskStream : public Counted<IFileStream> {
   HANDLE file_ = INVALID_HANDLE_VALUE;
 };
 
-class Ide : public Counted<IIde> {
+class Ide : public IUnknownImp<IIde> {
  public:
   IIdeString* STDMETHODCALLTYPE CreateIdeString() override { return new Text; }
   IFileStream* STDMETHODCALLTYPE CreateFileStream() override { return new DiskStream; }

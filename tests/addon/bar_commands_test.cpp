@@ -6,7 +6,7 @@
 #include "addon/topbar/top_bar.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
-#include "tests/addon/recorded_boxes.h"
+#include "tests/foundation/recorded_boxes.h"
 
 namespace {
 
@@ -128,12 +128,12 @@ TEST_CASE("keys held make other commands of a project file") {
   {
     const Held ctrl({VK_CONTROL});
     session.command(10001);
-    REQUIRE(recorded_boxes.size() == 1);
-    CHECK(recorded_boxes[0].text == "Okay to remove\nb.rc : dialogs ?");
-    CHECK(recorded_boxes[0].caption == "Confirmation");
-    CHECK(recorded_boxes[0].flags == 4);
+    REQUIRE(kesto::recorded_boxes.size() == 1);
+    CHECK(kesto::recorded_boxes[0].text == "Okay to remove\nb.rc : dialogs ?");
+    CHECK(kesto::recorded_boxes[0].caption == "Confirmation");
+    CHECK(kesto::recorded_boxes[0].flags == 4);
     CHECK(!session.ide.project.nodes[2].removed);
-    box_answer = 6;
+    kesto::box_answer = 6;
     session.command(10001);
     CHECK(session.ide.project.nodes[2].removed);
   }

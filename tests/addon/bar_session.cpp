@@ -9,23 +9,12 @@
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
 #include "doctest.h"
-#include "tests/addon/recorded_boxes.h"
+#include "tests/foundation/recorded_boxes.h"
+#include "tests/foundation/registry_tree.h"
 
 namespace {
 
 constexpr char kRoot[] = "Software\\KestoAddonTest";
-
-void removeTree(HKEY parent, const char* name) {
-  HKEY key = nullptr;
-  if (RegOpenKeyA(parent, name, &key) == ERROR_SUCCESS) {
-    char child[256];
-    while (RegEnumKeyA(key, 0, child, sizeof child) == ERROR_SUCCESS) {
-      removeTree(key, child);
-    }
-    RegCloseKey(key);
-    RegDeleteKeyA(parent, name);
-  }
-}
 
 template <class T>
 void drop(T*& slot) {
@@ -36,19 +25,23 @@ void drop(T*& slot) {
 }  // namespace
 
 OwnSettings::OwnSettings() {
-  removeTree(HKEY_LOCAL_MACHINE, kRoot);
+  clear();
   kesto::settings().setRoot(kRoot);
   // The windows of the tests are no other IDE.
   kesto::settings().writeInteger("General", "Unic", 0);
 }
 
 OwnSettings::~OwnSettings() {
+  clear();
+}
+
+void OwnSettings::clear() {
   removeTree(HKEY_LOCAL_MACHINE, kRoot);
 }
 
 BarSession::BarSession() : references_before_(fake::live_references) {
-  recorded_boxes.clear();
-  box_answer = 1;
+  kesto::recorded_boxes.clear();
+  kesto::box_answer = 1;
   ide.AddRef();
   kesto::storeIde(&ide);
 }

@@ -18,6 +18,7 @@ class OwnSettings {
   ~OwnSettings();
   OwnSettings(const OwnSettings&) = delete;
   OwnSettings& operator=(const OwnSettings&) = delete;
+  void clear();
 };
 
 class BarSession {

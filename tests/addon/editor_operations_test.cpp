@@ -9,7 +9,7 @@
 #include "addon/ide/unknown_imp.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
-#include "tests/addon/recorded_boxes.h"
+#include "tests/foundation/recorded_boxes.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ class Answering : public kesto::CompletionSource {
 class Session {
  public:
   Session() : references_before_(fake::live_references) {
-    recorded_boxes.clear();
+    kesto::recorded_boxes.clear();
     ide.AddRef();
     kesto::storeIde(&ide);
   }
@@ -151,23 +151,23 @@ TEST_CASE("services that are missing leave the operations without effect") {
   CHECK(session.ide.editor.transactions == 0);
   CHECK(session.ide.status_line.texts.empty());
   kesto::OptionsServiceHolder options;
-  REQUIRE(recorded_boxes.size() == 1);
-  CHECK(recorded_boxes[0].caption == "Erreur");
-  CHECK(recorded_boxes[0].text.find("svr!=NULL") != std::string::npos);
-  CHECK(recorded_boxes[0].text.find("koptions") != std::string::npos);
+  REQUIRE(kesto::recorded_boxes.size() == 1);
+  CHECK(kesto::recorded_boxes[0].caption == "Erreur");
+  CHECK(kesto::recorded_boxes[0].text.find("svr!=NULL") != std::string::npos);
+  CHECK(kesto::recorded_boxes[0].text.find("koptions") != std::string::npos);
   kesto::registerMakeClient([]() -> IMakeClient* { return new Client; });
-  REQUIRE(recorded_boxes.size() == 2);
-  CHECK(recorded_boxes[1].text == "Creation SMK impossible");
-  CHECK(recorded_boxes[1].flags == kesto::kMessageOk);
+  REQUIRE(kesto::recorded_boxes.size() == 2);
+  CHECK(kesto::recorded_boxes[1].text == "Creation SMK impossible");
+  CHECK(kesto::recorded_boxes[1].flags == kesto::kMessageOk);
   CHECK(Client::living == 0);
 }
 
 TEST_CASE("a make client lives from registration to its end") {
   Session session;
   kesto::registerMakeClient([]() -> IMakeClient* { return nullptr; });
-  REQUIRE(recorded_boxes.size() == 1);
-  CHECK(recorded_boxes[0].text == "Creation CMK impossible");
-  CHECK(recorded_boxes[0].caption == "Erreur");
+  REQUIRE(kesto::recorded_boxes.size() == 1);
+  CHECK(kesto::recorded_boxes[0].text == "Creation CMK impossible");
+  CHECK(kesto::recorded_boxes[0].caption == "Erreur");
   kesto::registerMakeClient([]() -> IMakeClient* { return new Client; });
   CHECK(session.ide.make.clients.size() == 1);
   CHECK(Client::living == 1);

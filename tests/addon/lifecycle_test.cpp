@@ -36,6 +36,13 @@ HandleCounts countHandles() {
   return counts;
 }
 
+void checkHandles(const HandleCounts& before) {
+  const HandleCounts after = countHandles();
+  CHECK(after.gdi == before.gdi);
+  CHECK(after.windows == before.windows);
+  CHECK(after.menus == before.menus);
+}
+
 // The bar of this process, whichever others there are.
 HWND ownBar() {
   HWND bar = nullptr;
@@ -157,10 +164,7 @@ TEST_CASE("a hundred sessions in one process leave nothing behind") {
   for (int i = 0; i < 100; ++i) {
     runOnce(ide);
   }
-  const HandleCounts after = countHandles();
-  CHECK(after.gdi == before.gdi);
-  CHECK(after.windows == before.windows);
-  CHECK(after.menus == before.menus);
+  checkHandles(before);
   CHECK(fake::live_references == references);
 }
 
@@ -215,11 +219,8 @@ TEST_CASE("three hundred popups leave no handle behind") {
     open_all();
   }
   drain();
-  const HandleCounts after = countHandles();
   CHECK(EndsModalLoops::menus == 4 * 76);
-  CHECK(after.gdi == before.gdi);
-  CHECK(after.windows == before.windows);
-  CHECK(after.menus == before.menus);
+  checkHandles(before);
 }
 
 TEST_CASE("menus and projects come and go without leaving a handle") {
@@ -245,10 +246,7 @@ TEST_CASE("menus and projects come and go without leaving a handle") {
     round(1);
     round(0);
   }
-  const HandleCounts after = countHandles();
-  CHECK(after.gdi == before.gdi);
-  CHECK(after.windows == before.windows);
-  CHECK(after.menus == before.menus);
+  checkHandles(before);
   CHECK(fake::live_references == references);
 }
 

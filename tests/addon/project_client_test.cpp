@@ -122,12 +122,3 @@ TEST_CASE("the open project is no recent one, and is the newest once closed") {
   session.ide.project.close();
   CHECK(projects.count() == 1);
 }
-
-TEST_CASE("an IDE without the services has no clients to tell") {
-  BarSession session;
-  session.ide.services.erase(ideapi::kProjectService.Data1);
-  session.ide.services.erase(ideapi::kProjectSaveService.Data1);
-  session.create();
-  kesto::saveProjectOptions();
-  CHECK(session.barTexts() == Names{"Kesto"});
-}

@@ -9,25 +9,9 @@
 #include "addon/navigation/quick_find.h"
 #include "addon/topbar/bar_window.h"
 #include "doctest.h"
+#include "tests/addon/bar_session.h"
 
 namespace {
-
-constexpr char kRoot[] = "SOFTWARE\\KestoShellTests";
-constexpr const char* kSections[] = {"TopBar", "Menus", "QuickFind", "Completion"};
-
-class TestSettings {
- public:
-  TestSettings() { kesto::settings().setRoot(kRoot); }
-  ~TestSettings() { clear(); }
-  TestSettings(const TestSettings&) = delete;
-  TestSettings& operator=(const TestSettings&) = delete;
-  void clear() {
-    for (const char* section : kSections) {
-      RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\" + section).c_str());
-    }
-    RegDeleteKeyA(HKEY_LOCAL_MACHINE, kRoot);
-  }
-};
 
 // A bar of the given look and margins with a menu of that many entries.
 class Bar {
@@ -93,7 +77,7 @@ int oneRow(bool new_shell) {
 }  // namespace
 
 TEST_CASE("the bar shows all rows of its menu while it is expanded, and else the first") {
-  TestSettings root;
+  OwnSettings root;
   for (const bool new_shell : {true, false}) {
     CAPTURE(new_shell);
     Bar bar(new_shell, 100, screenWidth() - 400, 30);
@@ -136,7 +120,7 @@ TEST_CASE("the bar shows all rows of its menu while it is expanded, and else the
 }
 
 TEST_CASE("the bar takes any margins") {
-  TestSettings root;
+  OwnSettings root;
   const struct {
     int left;
     int right;
@@ -159,7 +143,7 @@ TEST_CASE("the bar takes any margins") {
 }
 
 TEST_CASE("settings go back under their names, with the values that were read") {
-  TestSettings root;
+  OwnSettings root;
   const struct {
     const char* section;
     const char* name;

@@ -24,15 +24,17 @@ sideways='
 '
 
 # Headers of the Workbench that every folder of it may include, as if they lay on a floor
-# below: what the application offers to all, handles, names, command ids, the base of its
-# MDI windows, and two system dialogs.
+# below: what the application offers to all, handles, names, command ids, the bases of its
+# MDI windows and of its window classes, and two system dialogs.
 common='
 workbench/app/workbench.h
 workbench/app/handles.h
 workbench/app/names.h
 workbench/app/clipboard.h
 workbench/app/file_dialogs.h
+workbench/app/mdi_child.h
 workbench/app/mdi_pane.h
+workbench/app/window_class.h
 workbench/app/command_ids.h
 '
 

@@ -6,19 +6,16 @@
 
 namespace kesto {
 
-namespace {
-
-std::vector<RecordedBox> boxes;
-
-}  // namespace
+std::vector<RecordedBox> recorded_boxes;
+int box_answer = kAnswerOk;
 
 int showMessage(void* /*owner*/, const char* text, const char* caption, unsigned flags) {
-  boxes.push_back({text, caption, flags});
-  return kAnswerOk;
+  recorded_boxes.push_back({text, caption, flags});
+  return box_answer;
 }
 
 std::vector<RecordedBox> takeBoxes() {
-  return std::exchange(boxes, {});
+  return std::exchange(recorded_boxes, {});
 }
 
 }  // namespace kesto

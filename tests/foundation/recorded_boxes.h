@@ -1,4 +1,4 @@
-// Stands for message boxes in the tests: each is noted and answered with OK.
+// Message boxes of the code under test, kept instead of shown.
 #pragma once
 
 #include <string>
@@ -11,6 +11,10 @@ struct RecordedBox {
   std::string caption;
   unsigned flags;
 };
+
+extern std::vector<RecordedBox> recorded_boxes;
+// How each is answered; OK unless a test says otherwise.
+extern int box_answer;
 
 // The boxes since the last call.
 std::vector<RecordedBox> takeBoxes();

@@ -7,24 +7,13 @@
 #include <string>
 
 #include "doctest.h"
+#include "tests/foundation/registry_tree.h"
 
 namespace kesto {
 
 namespace {
 
 constexpr char kRoot[] = "Software\\KestoSettingsTest";
-
-void removeTree(HKEY parent, const char* name) {
-  HKEY key = nullptr;
-  if (RegOpenKeyA(parent, name, &key) == ERROR_SUCCESS) {
-    char child[256];
-    while (RegEnumKeyA(key, 0, child, sizeof child) == ERROR_SUCCESS) {
-      removeTree(key, child);
-    }
-    RegCloseKey(key);
-    RegDeleteKeyA(parent, name);
-  }
-}
 
 bool keyExists(const std::string& section) {
   HKEY key = nullptr;

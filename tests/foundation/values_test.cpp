@@ -1,10 +1,9 @@
-// Paths, titles, lists, key codes and the numbers of the settings.
+// Paths, titles, lists and the numbers of the settings.
 #include <climits>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "addon/foundation/key_code.h"
 #include "addon/foundation/path.h"
 #include "addon/foundation/settings_values.h"
 #include "doctest.h"
@@ -106,13 +105,6 @@ TEST_CASE("an empty entry ends a list") {
     }
     CHECK(entries == c.entries);
   }
-}
-
-TEST_CASE("key codes") {
-  CHECK(keyCode(116, true, false, true) == 5116);
-  CHECK(keyCode(116, false, true, false) == 2116);
-  CHECK(keyCode(4222, false, false, false) == 222);
-  CHECK(virtualKeyOf(7032) == 32);
 }
 
 TEST_CASE("numbers of the settings") {

@@ -169,20 +169,6 @@ TEST_CASE("keys edit the text") {
          d.keys("\t");
        },
        "\ta\r\n\tb\r\nc", "3:1"},
-      {"abcd",
-       [](Desk& d) {
-         d.editor->select(1, 2, 1, 4);
-         d.keys("X");
-         d.message(WM_UNDO);
-       },
-       "abcd", "1:4"},
-      {"ab\nabcd\na",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.press(VK_DOWN);
-         d.press(VK_DOWN);
-       },
-       "ab\r\nabcd\r\na", "3:2"},
       // A vertical move remembers the cell it came from.
       {"abcd\na\nabcd",
        [](Desk& d) {

@@ -74,20 +74,6 @@ TEST_CASE("A query compares one field of an event") {
   }
 }
 
-TEST_CASE("The history finds events by position") {
-  EventHistory history;
-  CHECK(history.latest("a") == nullptr);
-  CHECK(history.find({"a", std::nullopt, ""}, 0) == history.end());
-  history.add(Event("a").number("n", 1));
-  history.add(Event("b").number("n", 2));
-  history.add(Event("a").number("n", 3));
-  CHECK(*history.latest("a")->find("n") == "3");
-  CHECK(history.find({"a", std::nullopt, ""}, 0) == 0);
-  CHECK(history.find({"a", std::nullopt, ""}, 1) == 2);
-  CHECK(history.find({"a", "n", "1"}, 1) == history.end());
-  CHECK(history.find({"b", "n", "2"}, 0) == 1);
-}
-
 TEST_CASE("Positions stay true when the oldest events are let go") {
   EventHistory history;
   for (int i = 0; i < 20010; ++i) {

@@ -81,28 +81,6 @@ TEST_CASE("An event is one line of JSON, its fields in the order given") {
                           R"("items":[{"text":"x","popup":false},{}],"none":[]})");
 }
 
-TEST_CASE("The fields of an event are found as plain text") {
-  Event event("menu");
-  event.text("name", "a \"b\"")
-      .number("id", -7)
-      .flag("on", false)
-      .list("items", {Event("").text("text", "x"), Event("").text("text", "y")});
-  const struct {
-    const char* key;
-    const char* text;  // null when there is none
-  } rows[] = {{"name", "a \"b\""}, {"id", "-7"},          {"on", "false"},
-              {"items", "2"},      {"items.1.text", "y"}, {"items.2.text", nullptr},
-              {"text", nullptr},   {"", nullptr}};
-  for (const auto& row : rows) {
-    CAPTURE(std::string(row.key));
-    const std::string* found = event.find(row.key);
-    REQUIRE((found != nullptr) == (row.text != nullptr));
-    if (row.text != nullptr) {
-      CHECK(*found == row.text);
-    }
-  }
-}
-
 TEST_CASE("An event emitted by the listener follows the current one") {
   EventLog log;
   log.setOutput(false);

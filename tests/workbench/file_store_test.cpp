@@ -5,7 +5,6 @@
 
 #include "doctest.h"
 
-using workbench::describeFault;
 using workbench::FileFault;
 using workbench::FileStamp;
 using workbench::FileStore;
@@ -78,15 +77,4 @@ TEST_CASE("saving spares files that happen to have the temporary's name") {
   CHECK(saveFile(store, "a.cpp", "text") == FileFault::kNone);
   CHECK(store.files ==
         std::map<std::string, std::string>{{"a.cpp", "text"}, {"a.cpp.~0", "someone's"}});
-}
-
-TEST_CASE("each fault has a sentence of its own with the path") {
-  std::map<std::string, int> sentences;
-  for (const FileFault fault :
-       {FileFault::kMissing, FileFault::kIsFolder, FileFault::kDenied, FileFault::kTooLarge,
-        FileFault::kReadOnly, FileFault::kDiskFull, FileFault::kOther}) {
-    const std::string text = describeFault(fault, "C:\\A.CPP");
-    CHECK(text.find("C:\\A.CPP") != std::string::npos);
-    CHECK(++sentences[text] == 1);
-  }
 }

@@ -31,61 +31,7 @@ std::string bytesOf(const std::string& path) {
   return store.read(path, kLargestText, &bytes) == FileFault::kNone ? bytes : "(none)";
 }
 
-class SaveClient final : public IProjectSaveClient {
- public:
-  explicit SaveClient(Workbench& workbench) : workbench_(workbench) {}
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** result) override {
-    *result = nullptr;
-    return E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  void STDMETHODCALLTYPE ProjectSaving() override {
-    ++calls;
-    workbench_.writeOption("Kept", "on saving");
-  }
-  int calls = 0;
-
- private:
-  Workbench& workbench_;
-};
-
 }  // namespace
-
-TEST_CASE("a folder's project is written when it is saved, and read from then on") {
-  ScratchFolder folder;
-  Program program;
-  Application& application = program.application;
-  SaveClient client(application);
-  auto* save = program.service<IProjectSaveService>(ideapi::kProjectSaveService);
-  save->AddClient(&client);
-  CHECK_FALSE(application.saveProject());
-  REQUIRE(application.openPath(folder.path()));
-  CHECK(application.closeProject());  // nothing has changed: nothing is asked or written
-  CHECK(client.calls == 0);
-  CHECK(bytesOf(folder.projectFile()) == "(none)");
-
-  REQUIRE(application.openPath(folder.path()));
-  application.addNode(0, "tool.exe", ".exe");
-  application.setBuildCommand("make");
-  CHECK(application.saveProject());
-  CHECK(client.calls == 1);
-  CHECK(*program.last("project")->find("action") == "saved");
-  CHECK(application.closeProject());
-  CHECK(bytesOf(folder.projectFile()).find("node \"tool.exe\" \".exe\"") != std::string::npos);
-
-  // The folder is opened through its file now, what the client put there included.
-  REQUIRE(application.openPath(folder.path()));
-  CHECK(application.projectEntries().back().name == folder.file("tool.exe"));
-  std::string option;
-  CHECK(application.readOption("Kept", &option));
-  CHECK(option == "on saving");
-  char title[100] = {};
-  GetWindowTextA(application.frame(), title, sizeof title);
-  CHECK(title == "Borland C++ - " + std::string(fileName(folder.path())));
-  save->RemoveClient(&client);
-  save->Release();
-}
 
 TEST_CASE("a new project is saved at once") {
   ScratchFolder folder;

@@ -5,6 +5,7 @@
 #include "ideapi/ide_identifiers.h"
 #include "workbench/app/command_ids.h"
 #include "workbench/app/names.h"
+#include "workbench/app/window_class.h"
 
 namespace workbench {
 namespace {
@@ -17,14 +18,8 @@ constexpr int kWindowMenuPosition = 4;
 
 bool Frame::create(HINSTANCE instance) {
   instance_ = instance;
-  WNDCLASSA info = {};
-  info.lpfnWndProc = windowProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
+  WNDCLASSA info = windowClass(ideapi::kFrameClass, windowProc, instance, COLOR_APPWORKSPACE);
   info.hIcon = LoadIconA(nullptr, reinterpret_cast<LPCSTR>(IDI_APPLICATION));
-  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_APPWORKSPACE + 1);
-  info.lpszClassName = ideapi::kFrameClass;
   accelerators_.reset(LoadAcceleratorsA(instance, MAKEINTRESOURCEA(IDA_FRAME)));
   OwnedMenu menu(LoadMenuA(instance, MAKEINTRESOURCEA(IDM_FRAME)));
   if (RegisterClassA(&info) == 0 || !StatusBar::registerClass(instance)) {

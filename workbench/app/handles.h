@@ -43,14 +43,9 @@ inline void closeFile(HANDLE handle) {
 inline void closeFind(HANDLE handle) {
   FindClose(handle);
 }
-inline void closeFont(HFONT font) {
-  DeleteObject(font);
-}
-inline void closeBrush(HBRUSH brush) {
-  DeleteObject(brush);
-}
-inline void closeBitmap(HBITMAP bitmap) {
-  DeleteObject(bitmap);
+template <typename Object>
+void closeObject(Object object) {
+  DeleteObject(object);
 }
 inline void closeDc(HDC dc) {
   DeleteDC(dc);
@@ -65,9 +60,9 @@ inline void closeAccelerators(HACCEL table) {
 // A file handle that could not be had is null here, never INVALID_HANDLE_VALUE.
 using OwnedFile = Owned<HANDLE, closeFile>;
 using OwnedFind = Owned<HANDLE, closeFind>;
-using OwnedFont = Owned<HFONT, closeFont>;
-using OwnedBrush = Owned<HBRUSH, closeBrush>;
-using OwnedBitmap = Owned<HBITMAP, closeBitmap>;
+using OwnedFont = Owned<HFONT, closeObject<HFONT>>;
+using OwnedBrush = Owned<HBRUSH, closeObject<HBRUSH>>;
+using OwnedBitmap = Owned<HBITMAP, closeObject<HBITMAP>>;
 using OwnedDc = Owned<HDC, closeDc>;
 using OwnedMenu = Owned<HMENU, closeMenu>;
 using OwnedAccelerators = Owned<HACCEL, closeAccelerators>;

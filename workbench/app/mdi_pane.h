@@ -5,24 +5,23 @@
 
 #include <windows.h>
 
+#include "workbench/app/mdi_child.h"
+
 namespace workbench {
 
-class MdiPane {
+class MdiPane : private MdiChild {
  public:
-  MdiPane(const MdiPane&) = delete;
-  MdiPane& operator=(const MdiPane&) = delete;
-
   // Registers the class; the MDI client must outlive the pane's window.
-  bool attach(HWND mdi_client, HINSTANCE instance);
+  bool attach(HWND mdi_client, HINSTANCE program);
   // Makes the window or brings it forward; false when it cannot be made.
   bool show();
   // Null while it is closed.
-  HWND window() const { return window_; }
+  HWND window() const { return childWindow(); }
   bool active() const;
 
  protected:
   MdiPane(const char* class_name, const char* title) : class_name_(class_name), title_(title) {}
-  ~MdiPane();
+  ~MdiPane() = default;
 
   // Makes the controls inside; false closes the window again.
   virtual bool createControls() = 0;
@@ -35,21 +34,17 @@ class MdiPane {
   // The window and its controls are no more.
   virtual void paneGone() {}
 
-  HINSTANCE instance() const { return instance_; }
+  using MdiChild::instance;
   HWND mdiClient() const { return mdi_client_; }
 
  private:
-  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
-  LRESULT handleMessage(UINT message, WPARAM w, LPARAM l);
+  LRESULT handleMessage(UINT message, WPARAM w, LPARAM l) final;
+  void windowGone() final { paneGone(); }
 
   const char* class_name_;
   const char* title_;
   HWND mdi_client_ = nullptr;
-  HWND window_ = nullptr;
-  HINSTANCE instance_ = nullptr;
+  HINSTANCE program_ = nullptr;
 };
-
-// Registers a window class unless the program has it already.
-bool registerOnce(const WNDCLASSA& info);
 
 }  // namespace workbench

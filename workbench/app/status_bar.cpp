@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "workbench/app/window_class.h"
+
 namespace workbench {
 namespace {
 
@@ -19,13 +21,8 @@ void drawField(HDC dc, RECT area, const std::string& text) {
 }  // namespace
 
 bool StatusBar::registerClass(HINSTANCE instance) {
-  WNDCLASSA info = {};
+  WNDCLASSA info = windowClass(kClass, windowProc, instance, kNoBackground);
   info.style = CS_HREDRAW | CS_VREDRAW;
-  info.lpfnWndProc = windowProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
-  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.lpszClassName = kClass;
   return RegisterClassA(&info) != 0;
 }
 

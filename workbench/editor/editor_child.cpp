@@ -3,18 +3,12 @@
 #include <utility>
 
 #include "ideapi/ide_identifiers.h"
+#include "workbench/app/window_class.h"
 
 namespace workbench {
 
 bool EditorChild::registerClass(HINSTANCE instance) {
-  WNDCLASSA info = {};
-  info.lpfnWndProc = windowProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
-  info.hIcon = LoadIconA(nullptr, reinterpret_cast<LPCSTR>(IDI_APPLICATION));
-  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.lpszClassName = ideapi::kEditorClass;
-  return RegisterClassA(&info) != 0;
+  return registerChildClass(ideapi::kEditorClass, instance, kNoBackground);
 }
 
 EditorChild::EditorChild(std::shared_ptr<OpenFile> file, const EditorSettings& settings,
@@ -28,43 +22,14 @@ EditorChild::~EditorChild() {
 }
 
 bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
-  instance_ = instance;
-  const std::string caption = title();
-  MDICREATESTRUCTA info = {};
-  info.szClass = ideapi::kEditorClass;
-  info.szTitle = caption.c_str();
-  info.hOwner = instance;
-  info.x = info.y = info.cx = info.cy = CW_USEDEFAULT;
-  info.lParam = reinterpret_cast<LPARAM>(this);
-  return SendMessageA(mdi_client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&info)) != 0;
-}
-
-LRESULT CALLBACK EditorChild::windowProc(HWND window, UINT message, WPARAM w, LPARAM l) {
-  auto* self = reinterpret_cast<EditorChild*>(GetWindowLongA(window, 0));
-  if (message == WM_NCCREATE) {
-    const auto* create = reinterpret_cast<CREATESTRUCTA*>(l);
-    const auto* mdi = static_cast<MDICREATESTRUCTA*>(create->lpCreateParams);
-    self = reinterpret_cast<EditorChild*>(mdi->lParam);
-    self->window_ = window;
-    SetWindowLongA(window, 0, reinterpret_cast<LONG>(self));
-  }
-  if (self == nullptr) {
-    return DefMDIChildProcA(window, message, w, l);
-  }
-  if (message == WM_NCDESTROY) {
-    SetWindowLongA(window, 0, 0);
-    const LRESULT result = DefMDIChildProcA(window, message, w, l);
-    self->window_ = nullptr;
-    self->host_.childGone(*self);
-    return result;
-  }
-  return self->handleMessage(message, w, l);
+  return createChild(mdi_client, instance, ideapi::kEditorClass, title().c_str(), CW_USEDEFAULT,
+                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
 }
 
 LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_CREATE:
-      return text_.create(window_, instance_) != nullptr ? 0 : -1;
+      return text_.create(window(), instance()) != nullptr ? 0 : -1;
     case WM_SIZE:
       if (w != SIZE_MINIMIZED) {
         MoveWindow(text_.window(), 0, 0, LOWORD(l), HIWORD(l), TRUE);
@@ -74,7 +39,7 @@ LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
       SetFocus(text_.window());
       return 0;
     case WM_MDIACTIVATE:
-      if (reinterpret_cast<HWND>(l) == window_) {
+      if (reinterpret_cast<HWND>(l) == window()) {
         host_.childActivated(*this);
       }
       break;
@@ -86,7 +51,7 @@ LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
     default:
       break;
   }
-  return DefMDIChildProcA(window_, message, w, l);
+  return DefMDIChildProcA(window(), message, w, l);
 }
 
 std::string EditorChild::title() const {
@@ -107,8 +72,8 @@ void EditorChild::setViewNumber(int number) {
 }
 
 void EditorChild::updateTitle() {
-  if (window_ != nullptr) {
-    SetWindowTextA(window_, title().c_str());
+  if (window() != nullptr) {
+    SetWindowTextA(window(), title().c_str());
   }
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "workbench/app/mdi_child.h"
 #include "workbench/app/workbench.h"
 #include "workbench/editor/open_file.h"
 #include "workbench/editor/text_window.h"
@@ -32,15 +33,16 @@ class EditorChildHost {
   ~EditorChildHost() = default;
 };
 
-class EditorChild final : public EditorWindow, public TextWindowOwner, public DocumentListener {
+class EditorChild final : public EditorWindow,
+                          public TextWindowOwner,
+                          public DocumentListener,
+                          private MdiChild {
  public:
   static bool registerClass(HINSTANCE instance);
 
   EditorChild(std::shared_ptr<OpenFile> file, const EditorSettings& settings,
               EditorChildHost& host);
   ~EditorChild() override;
-  EditorChild(const EditorChild&) = delete;
-  EditorChild& operator=(const EditorChild&) = delete;
 
   // Returns false when the window cannot be made.
   bool create(HWND mdi_client, HINSTANCE instance);
@@ -53,7 +55,7 @@ class EditorChild final : public EditorWindow, public TextWindowOwner, public Do
   void setViewNumber(int number);
   void updateTitle();
 
-  HWND window() override { return window_; }
+  HWND window() override { return childWindow(); }
   HWND textWindow() override { return text_.window(); }
   const std::string& file() override { return file_->path; }
   bool modified() override { return file_->document.modified(); }
@@ -72,15 +74,13 @@ class EditorChild final : public EditorWindow, public TextWindowOwner, public Do
   void documentStateChanged() override;
 
  private:
-  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
-  LRESULT handleMessage(UINT message, WPARAM w, LPARAM l);
+  LRESULT handleMessage(UINT message, WPARAM w, LPARAM l) override;
+  void windowGone() override { host_.childGone(*this); }
   std::string title() const;
 
   std::shared_ptr<OpenFile> file_;
   EditorChildHost& host_;
   TextWindow text_;
-  HWND window_ = nullptr;
-  HINSTANCE instance_ = nullptr;
   unsigned int handle_ = 0;
   int number_ = 0;
 };

@@ -3,18 +3,15 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
+#include "workbench/app/window_class.h"
 #include "workbench/editor/text_layout.h"
 
 namespace workbench {
 
 bool TextWindow::registerClass(HINSTANCE instance) {
-  WNDCLASSA info = {};
+  WNDCLASSA info = windowClass(ideapi::kEditorTextClass, windowProc, instance, kNoBackground);
   info.style = CS_DBLCLKS;
-  info.lpfnWndProc = windowProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
   info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_IBEAM));
-  info.lpszClassName = ideapi::kEditorTextClass;
   return RegisterClassA(&info) != 0;
 }
 

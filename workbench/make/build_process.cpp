@@ -33,8 +33,8 @@ struct Jobs {
 };
 
 const Jobs& jobs() {
-  static const Jobs the_jobs;
-  return the_jobs;
+  static const Jobs loaded;
+  return loaded;
 }
 
 std::string systemText(DWORD error) {

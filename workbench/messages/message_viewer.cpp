@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/mdi_pane.h"
+#include "workbench/app/window_class.h"
 #include "workbench/project/path_text.h"
 
 namespace workbench {

@@ -7,6 +7,7 @@
 
 #include "ideapi/ide_identifiers.h"
 #include "workbench/app/handles.h"
+#include "workbench/app/window_class.h"
 
 namespace workbench {
 namespace {
@@ -28,15 +29,8 @@ MessageWindow::MessageWindow(MessageStore& store, std::function<void(const Messa
       viewer_(*this) {}
 
 bool MessageWindow::registerClasses(HINSTANCE instance) {
-  WNDCLASSA info = {};
-  info.lpfnWndProc = innerProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
-  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  info.lpszClassName = ideapi::kOwlWindowClass;
-  return registerOnce(info) && NoteTab::registerClass(instance) &&
-         MessageViewer::registerClass(instance);
+  return registerOnce(windowClass(ideapi::kOwlWindowClass, innerProc, instance, COLOR_BTNFACE)) &&
+         NoteTab::registerClass(instance) && MessageViewer::registerClass(instance);
 }
 
 bool MessageWindow::createControls() {

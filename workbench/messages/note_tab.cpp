@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/mdi_pane.h"
+#include "workbench/app/window_class.h"
 
 namespace workbench {
 namespace {
@@ -24,14 +24,7 @@ NoteTab::~NoteTab() {
 }
 
 bool NoteTab::registerClass(HINSTANCE instance) {
-  WNDCLASSA info = {};
-  info.lpfnWndProc = windowProc;
-  info.cbWndExtra = sizeof(LONG);
-  info.hInstance = instance;
-  info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-  info.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  info.lpszClassName = ideapi::kNoteTabClass;
-  return registerOnce(info);
+  return registerOnce(windowClass(ideapi::kNoteTabClass, windowProc, instance, COLOR_BTNFACE));
 }
 
 bool NoteTab::create(HWND parent, HINSTANCE instance) {

@@ -23,53 +23,13 @@ class LiveObjects {
   std::map<std::string, long> counts_;
 };
 
-// An object made for an add-on, deleted with its last reference. Starts with one
-// reference, the receiver's. Each reference counts as live.
-template <typename Derived, typename Interface>
-class Transient : public Interface {
- public:
-  Transient(LiveObjects& live, const char* kind) : live_(live), kind_(kind) {
-    live_.change(kind_, 1);
-  }
-  Transient(const Transient&) = delete;
-  Transient& operator=(const Transient&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override {
-    *result = nullptr;
-    if (!IsEqualGUID(id, ideapi::kUnknown)) {
-      return E_NOINTERFACE;
-    }
-    *result = static_cast<Interface*>(this);
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override {
-    live_.change(kind_, 1);
-    return ++count_;
-  }
-  ULONG STDMETHODCALLTYPE Release() override {
-    live_.change(kind_, -1);
-    const ULONG left = --count_;
-    if (left == 0) {
-      delete static_cast<Derived*>(this);
-    }
-    return left;
-  }
-
- private:
-  LiveObjects& live_;
-  const char* kind_;
-  ULONG count_ = 1;
-};
-
-// A service: it lives as long as the program and only counts who holds it.
+// What add-ons hold references of; each counts as live. Answers for its identifier
+// and for IUnknown.
 template <typename Interface>
-class Service : public Interface {
+class Counted : public Interface {
  public:
-  Service(LiveObjects& live, const char* kind, const GUID& id)
-      : live_(live), kind_(kind), id_(id) {}
-  Service(const Service&) = delete;
-  Service& operator=(const Service&) = delete;
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override {
     *result = nullptr;
@@ -90,13 +50,45 @@ class Service : public Interface {
   }
 
  protected:
-  ~Service() = default;
+  Counted(LiveObjects& live, const char* kind, const GUID& id)
+      : live_(live), kind_(kind), id_(id) {}
+  ~Counted() = default;
 
  private:
   LiveObjects& live_;
   const char* kind_;
   GUID id_;
   ULONG count_ = 0;
+};
+
+// An object made for an add-on, deleted with its last reference. Starts with one
+// reference, the receiver's.
+template <typename Derived, typename Interface>
+class Transient : public Counted<Interface> {
+ public:
+  Transient(LiveObjects& live, const char* kind)
+      : Counted<Interface>(live, kind, ideapi::kUnknown) {
+    Counted<Interface>::AddRef();
+  }
+
+  ULONG STDMETHODCALLTYPE Release() override {
+    const ULONG left = Counted<Interface>::Release();
+    if (left == 0) {
+      delete static_cast<Derived*>(this);
+    }
+    return left;
+  }
+};
+
+// A service: it lives as long as the program and only counts who holds it.
+template <typename Interface>
+class Service : public Counted<Interface> {
+ public:
+  Service(LiveObjects& live, const char* kind, const GUID& id)
+      : Counted<Interface>(live, kind, id) {}
+
+ protected:
+  ~Service() = default;
 };
 
 }  // namespace workbench

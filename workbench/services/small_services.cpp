@@ -31,25 +31,9 @@ int STDMETHODCALLTYPE OptionsService::RemoveChapter(IMpdChapter* chapter) {
 }
 
 MakeService::MakeService(const ServiceContext& context)
-    : Service(context.live, "make service", ideapi::kMakeService) {}
-
-void STDMETHODCALLTYPE MakeService::AddClient(IMakeClient* client) {
-  clients_.add(client);
-}
-
-void STDMETHODCALLTYPE MakeService::RemoveClient(IMakeClient* client) {
-  clients_.remove(client);
-}
+    : ClientService(context.live, "make service", ideapi::kMakeService) {}
 
 ProjectSaveService::ProjectSaveService(const ServiceContext& context)
-    : Service(context.live, "project save service", ideapi::kProjectSaveService) {}
-
-void STDMETHODCALLTYPE ProjectSaveService::AddClient(IProjectSaveClient* client) {
-  clients_.add(client);
-}
-
-void STDMETHODCALLTYPE ProjectSaveService::RemoveClient(IProjectSaveClient* client) {
-  clients_.remove(client);
-}
+    : ClientService(context.live, "project save service", ideapi::kProjectSaveService) {}
 
 }  // namespace workbench

@@ -30,26 +30,30 @@ class OptionsService final : public Service<IOptionsService> {
   ClientList<IMpdChapter> chapters_;
 };
 
-class MakeService final : public Service<IMakeService> {
+// A service that only keeps the list of its clients.
+template <typename Interface, typename Client>
+class ClientService : public Service<Interface> {
  public:
-  explicit MakeService(const ServiceContext& context);
-  void STDMETHODCALLTYPE AddClient(IMakeClient* client) override;
-  void STDMETHODCALLTYPE RemoveClient(IMakeClient* client) override;
-  ClientList<IMakeClient>& clients() { return clients_; }
+  void STDMETHODCALLTYPE AddClient(Client* client) override { clients_.add(client); }
+  void STDMETHODCALLTYPE RemoveClient(Client* client) override { clients_.remove(client); }
+  ClientList<Client>& clients() { return clients_; }
+
+ protected:
+  using Service<Interface>::Service;
+  ~ClientService() = default;
 
  private:
-  ClientList<IMakeClient> clients_;
+  ClientList<Client> clients_;
 };
 
-class ProjectSaveService final : public Service<IProjectSaveService> {
+class MakeService final : public ClientService<IMakeService, IMakeClient> {
+ public:
+  explicit MakeService(const ServiceContext& context);
+};
+
+class ProjectSaveService final : public ClientService<IProjectSaveService, IProjectSaveClient> {
  public:
   explicit ProjectSaveService(const ServiceContext& context);
-  void STDMETHODCALLTYPE AddClient(IProjectSaveClient* client) override;
-  void STDMETHODCALLTYPE RemoveClient(IProjectSaveClient* client) override;
-  ClientList<IProjectSaveClient>& clients() { return clients_; }
-
- private:
-  ClientList<IProjectSaveClient> clients_;
 };
 
 }  // namespace workbench
