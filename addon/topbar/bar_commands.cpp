@@ -34,7 +34,7 @@ bool isUsable(const ProjectNodes& nodes, unsigned node) {
 std::string extensionOf(std::string_view path) {
   const std::string_view name = fileNamePart(path);
   const size_t dot = name.rfind('.');
-  return std::string(dot != std::string_view::npos ? name.substr(dot) : name.substr(0, 0));
+  return dot != std::string_view::npos ? std::string(name.substr(dot)) : std::string();
 }
 
 void runToolOfNode(const ProjectNodes& nodes, unsigned node) {

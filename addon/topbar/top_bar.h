@@ -19,7 +19,6 @@ class TopBar {
   TopBar& operator=(const TopBar&) = delete;
 
   HWND window() const { return bar_; }
-  bool newShell() const { return new_shell_; }
   bool enabled() const { return enabled_ != 0; }
   bool hidesWithIde() const { return hide_with_ide_ != 0; }
   bool hidesWithView() const { return hide_with_view_ != 0; }
