@@ -119,20 +119,20 @@ void nodeChanged(ProjectNode node, const char* name) {
   }
 }
 
-void startMake() {
+void actOnMakeStart() {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeStarted();
   }
 }
 
-void endMake() {
+void actOnMakeEnd(int) {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeEnded();
   }
 }
 
-constexpr MakeStep kMakeStarted[] = {startMake};
-constexpr MakeStep kMakeEnded[] = {endMake};
+constexpr MakeStep kMakeStarted[] = {actOnMakeStart};
+constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd};
 
 }  // namespace
 

@@ -3,22 +3,19 @@
 //
 // SEARCH is function, method, class or cross. The walk, the masks and the matchers are
 // the add-on's; only the listing of directories and the reading are this system's.
-#include <dirent.h>
 #include <fcntl.h>
-#include <fnmatch.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <string>
 
 #include "addon/foundation/message_box.h"
-#include "addon/navigation/directory_walk.h"
 #include "addon/navigation/name_matchers.h"
 #include "addon/navigation/search_plan.h"
+#include "bench/posix_listing.h"
 
 namespace kesto {
 
@@ -28,35 +25,6 @@ int showMessage(void* /*owner*/, const char* text, const char* /*caption*/, unsi
 }
 
 namespace {
-
-std::string nativePath(std::string path) {
-  std::replace(path.begin(), path.end(), '\\', '/');
-  return path;
-}
-
-class Lister : public MaskLister {
- public:
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override {
-    list(directory, DT_REG, mask, names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
-    list(directory, DT_DIR, "*", names);
-  }
-
- private:
-  static void list(const char* directory, int type, const char* mask, Tableau<String>& names) {
-    DIR* const open = opendir(nativePath(directory).c_str());
-    if (open == nullptr) {
-      return;
-    }
-    while (const dirent* entry = readdir(open)) {
-      if (entry->d_type == type && fnmatch(mask, entry->d_name, 0) == 0) {
-        names.append(new String(entry->d_name));
-      }
-    }
-    closedir(open);
-  }
-};
 
 class Searcher : public FileVisitor {
  public:
@@ -95,7 +63,7 @@ int search(const char* kind, const char* name, const char* tree) {
     return 2;
   }
   const NameMatcher matcher(static_cast<Search>(which), name);
-  Lister lister;
+  PosixListing lister;
   Searcher searcher(matcher);
   const auto plan =
       planSearch(static_cast<Search>(which), {tree, true, "", tree, "*.cpp;*.cc;*.c", "*.h;*.rh"});

@@ -14,10 +14,10 @@ void STDMETHODCALLTYPE MakeClient::MakeStarted() {
   }
 }
 
-void STDMETHODCALLTYPE MakeClient::MakeEnded(int) {
+void STDMETHODCALLTYPE MakeClient::MakeEnded(int result) {
   if (makeOrder != nullptr) {
-    for (const MakeStep step : makeOrder->ended) {
-      step();
+    for (const MakeEndStep step : makeOrder->ended) {
+      step(result);
     }
   }
 }

@@ -9,11 +9,13 @@
 namespace kesto {
 
 using MakeStep = void (*)();
+// Takes the IDE's ideapi::MakeResult.
+using MakeEndStep = void (*)(int result);
 
 // The steps of each event, run from first to last.
 struct MakeOrder {
   std::span<const MakeStep> started;
-  std::span<const MakeStep> ended;
+  std::span<const MakeEndStep> ended;
 };
 
 // Null: nothing is done.

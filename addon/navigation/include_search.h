@@ -8,21 +8,10 @@
 
 #include <string_view>
 
+#include "addon/foundation/directory_walk.h"
 #include "addon/foundation/string.h"
-#include "addon/foundation/tableau.h"
 
 namespace kesto {
-
-class DirectoryLister {
- public:
-  virtual ~DirectoryLister() = default;
-  // True for an existing path that is not a directory: a directory named like a
-  // header is searched, and is no answer.
-  virtual bool isFile(const char* path) = 0;
-  // Appends the names of the directory's own directories, in listing order; the
-  // directory's name is not empty.
-  virtual void listDirectories(const char* directory, Tableau<String>& names) = 0;
-};
 
 // The search path: the directory and, after a ";", the include path unless empty.
 String includeSearchPath(std::string_view directory, std::string_view include_path);

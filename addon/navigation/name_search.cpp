@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "addon/ide/file_text.h"
-#include "addon/navigation/directory_listing.h"
-#include "addon/navigation/directory_walk.h"
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/directory_walk.h"
 
 namespace kesto {
 namespace {

@@ -11,7 +11,7 @@
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/status_line.h"
-#include "addon/navigation/directory_listing.h"
+#include "addon/foundation/directory_listing.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/include_search.h"
 #include "addon/navigation/quick_find.h"

@@ -9,7 +9,7 @@
 #include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
-#include "addon/navigation/directory_listing.h"
+#include "addon/foundation/directory_listing.h"
 #include "addon/navigation/name_search.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"

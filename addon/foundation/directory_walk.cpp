@@ -1,4 +1,4 @@
-#include "addon/navigation/directory_walk.h"
+#include "addon/foundation/directory_walk.h"
 
 #include "addon/foundation/path.h"
 

@@ -1,8 +1,7 @@
-// The file system as the searches see it. Holds nothing; any thread.
+// The file system as the features list it. Holds nothing; any thread.
 #pragma once
 
-#include "addon/navigation/directory_walk.h"
-#include "addon/navigation/include_search.h"
+#include "addon/foundation/directory_walk.h"
 
 namespace kesto {
 

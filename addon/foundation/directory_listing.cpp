@@ -1,4 +1,4 @@
-#include "addon/navigation/directory_listing.h"
+#include "addon/foundation/directory_listing.h"
 
 #include <io.h>
 #include <sys/stat.h>

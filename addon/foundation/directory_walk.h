@@ -1,6 +1,6 @@
-// The walk of a search: the files of a directory that fit a mask, then its
-// directories, depth first. The file system is seen through MaskLister, which the
-// shell implements and the tests play.
+// The walk of a tree: the files of a directory that fit a mask, then its directories,
+// depth first. The file system is seen through two small interfaces, which
+// DirectoryListing implements and the tests play.
 //
 // Directories that contain themselves through links end at kPathLimit characters of a
 // path or after kDirectoryLimit directories of one walk, whichever comes first.
@@ -12,6 +12,17 @@
 #include "addon/foundation/tableau.h"
 
 namespace kesto {
+
+class DirectoryLister {
+ public:
+  virtual ~DirectoryLister() = default;
+  // True for an existing path that is not a directory: a directory named like a
+  // header is searched, and is no answer.
+  virtual bool isFile(const char* path) = 0;
+  // Appends the names of the directory's own directories, in listing order; the
+  // directory's name is not empty.
+  virtual void listDirectories(const char* directory, Tableau<String>& names) = 0;
+};
 
 class MaskLister {
  public:

@@ -1,0 +1,78 @@
+#include "addon/foundation/text_file.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace kesto {
+
+namespace {
+
+struct CloseFile {
+  void operator()(FILE* file) const { fclose(file); }
+};
+using File = std::unique_ptr<FILE, CloseFile>;
+
+constexpr char kEndOfText = '\x1A';
+constexpr std::size_t kReadSize = 65536;
+
+}  // namespace
+
+bool readTextFile(const char* path, std::string& text) {
+  text.clear();
+  const File file(fopen(path, "rb"));
+  if (file == nullptr) {
+    return false;
+  }
+  std::size_t size = 0;
+  std::size_t got = 0;
+  do {
+    text.resize(size + kReadSize);
+    got = fread(text.data() + size, 1, kReadSize, file.get());
+    size += got;
+  } while (got == kReadSize);
+  text.resize(size);
+  takeTextMode(text);
+  return ferror(file.get()) == 0;
+}
+
+void takeTextMode(std::string& bytes) {
+  bytes.resize(std::min(bytes.size(), bytes.find(kEndOfText)));
+  std::size_t to = bytes.find("\r\n");
+  if (to == std::string::npos) {
+    return;
+  }
+  for (std::size_t from = to; from < bytes.size(); ++from) {
+    const bool before_end =
+        bytes[from] == '\r' && from + 1 < bytes.size() && bytes[from + 1] == '\n';
+    if (!before_end) {
+      bytes[to] = bytes[from];
+      ++to;
+    }
+  }
+  bytes.resize(to);
+}
+
+bool writeTextFile(const char* path, std::string_view text) {
+  FILE* const file = fopen(path, "w");
+  if (file == nullptr) {
+    return false;
+  }
+  const bool written = fwrite(text.data(), 1, text.size(), file) == text.size();
+  return fclose(file) == 0 && written;
+}
+
+bool TextLines::next(std::string_view& line) {
+  if (rest_.empty()) {
+    return false;
+  }
+  const std::string_view reach = rest_.substr(0, most_);
+  const std::size_t end = reach.find('\n');
+  const std::size_t size = end == std::string_view::npos ? reach.size() : end + 1;
+  line = reach.substr(0, size);
+  line = line.substr(0, line.find('\0'));
+  rest_.remove_prefix(size);
+  return true;
+}
+
+}  // namespace kesto

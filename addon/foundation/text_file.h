@@ -1,0 +1,46 @@
+// Text files as the run-time library's text mode shows them, in every build: a
+// carriage return before a line feed is dropped, and Ctrl-Z ends the text.
+// Holds nothing; any thread.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace kesto {
+
+// Replaces text by the file's. False, and text empty, when it cannot be opened or is
+// a directory.
+bool readTextFile(const char* path, std::string& text);
+// What a file of these bytes holds as text.
+void takeTextMode(std::string& bytes);
+// Creates or overwrites the file; line feeds become the system's line ends. False when
+// the file cannot be created or written whole.
+bool writeTextFile(const char* path, std::string_view text);
+
+// The lines of a text, read through a buffer of limit bytes: at most limit - 1
+// characters at a time, the line feed among them; the next read goes on in a longer
+// line. A zero byte hides what follows it in its piece. The text must outlive it.
+class TextLines {
+ public:
+  TextLines(std::string_view text, std::size_t limit) : rest_(text), most_(limit - 1) {}
+
+  // The next piece with its line feed, if it has one; false at the text's end.
+  bool next(std::string_view& line);
+
+ private:
+  std::string_view rest_;
+  std::size_t most_;
+};
+
+// Codes below 32; letters beyond 127 are none.
+constexpr bool isControl(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+
+// The line without its last character when that is a control character.
+constexpr std::string_view withoutLineEnd(std::string_view line) {
+  return !line.empty() && isControl(line.back()) ? line.substr(0, line.size() - 1) : line;
+}
+
+}  // namespace kesto
