@@ -2,8 +2,8 @@
 // options that a project keeps.
 #include <climits>
 #include <map>
-#include <memory>
 #include <string>
+#include <vector>
 
 #include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
@@ -115,29 +115,27 @@ class StoredOptions : public ProjectOptionStore {
     if (found == values_.end()) {
       return 0;
     }
-    *data = found->second.bytes.get();
+    *data = found->second.bytes.data();
     return found->second.claimed;
   }
   void set(const char* name, const void* data, int size) override {
     put(name, {static_cast<const char*>(data), static_cast<std::size_t>(size)}, size);
   }
   void put(std::string_view name, std::string_view bytes, int claimed) {
-    Value value = {std::make_unique<char[]>(bytes.size()), bytes.size(), claimed};
-    bytes.copy(value.bytes.get(), bytes.size());
-    values_.insert_or_assign(std::string(name), std::move(value));
+    values_.insert_or_assign(std::string(name),
+                             Value{std::vector<char>(bytes.begin(), bytes.end()), claimed});
   }
   std::map<std::string, std::string> contents() const {
     std::map<std::string, std::string> all;
     for (const auto& [name, value] : values_) {
-      all[name] = std::string(value.bytes.get(), value.size);
+      all[name] = std::string(value.bytes.begin(), value.bytes.end());
     }
     return all;
   }
 
  private:
   struct Value {
-    std::unique_ptr<char[]> bytes;
-    std::size_t size;
+    std::vector<char> bytes;
     int claimed;
   };
   std::map<std::string, Value> values_;
