@@ -1,6 +1,7 @@
 // Texts that come from outside: paths, titles, lists, numbers, text files, and the
 // options that a project keeps.
 #include <climits>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -111,7 +112,7 @@ void checkTextFile(std::string_view bytes) {
 class StoredOptions : public ProjectOptionStore {
  public:
   int get(const char* name, const void** data) override {
-    const auto found = values_.find(name);
+    const auto found = values_.find(std::string_view(name));
     if (found == values_.end()) {
       return 0;
     }
@@ -138,7 +139,7 @@ class StoredOptions : public ProjectOptionStore {
     std::vector<char> bytes;
     int claimed;
   };
-  std::map<std::string, Value> values_;
+  std::map<std::string, Value, std::less<>> values_;
 };
 
 // A line is "name=bytes"; "name?bytes" claims more bytes than a terminated text has.
