@@ -134,7 +134,7 @@ void actOnMakeEnd(int) {
 }
 
 void generateAfterMake(int result) {
-  if (result == ideapi::kMakeSucceeded && documentationRun != nullptr && htmlSettings != nullptr &&
+  if (result == kMakeSucceeded && documentationRun != nullptr && htmlSettings != nullptr &&
       htmlSettings->enabled() && htmlSettings->automatic()) {
     documentationRun->generate();
   }

@@ -145,7 +145,7 @@ void DocumentationRun::show() {
     return;
   }
   const std::string directory = siteDirectory(projectDirectory());
-  const std::string page = std::string(joinPath(directory, sitePage(projectName())).view());
+  const std::string page = directory + "\\Documentation " + projectName() + ".html";
   const HINSTANCE result = ShellExecuteA(GetActiveWindow(), "open", page.c_str(), nullptr,
                                          directory.c_str(), SW_SHOWMAXIMIZED);
   if (reinterpret_cast<INT_PTR>(result) <= kShellFailure) {
