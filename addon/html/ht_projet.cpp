@@ -36,7 +36,7 @@ htSymbol& findOrAdd(std::string_view name, EntryKind kind, NameIndex& names,
   htSymbol* entry = names.find(name, kind);
   if (entry == nullptr) {
     entry = new htSymbol(name);
-    entry->file = in;
+    entry->seen_in = in;
     append(all, entry);
     append(listed, entry);
     names.add(*entry);

@@ -35,7 +35,7 @@ class htSymbol : public Basic {
   String declaration;
 
   // The file in which a function or macro was first seen.
-  const htFile* file = nullptr;
+  const htFile* seen_in = nullptr;
   // Position among the entries of the same name and sort, in order of creation.
   int number = 0;
 };

@@ -9,6 +9,10 @@ namespace {
 constexpr std::string_view kClass = "Class ";
 constexpr std::string_view kFunction = "Fnc ";
 constexpr std::string_view kMacro = "Define ";
+// "finit" would go on with the escape.
+constexpr std::string_view kDefines =
+    "d\xE9"
+    "finit";
 
 // Empties the page; its name is to follow.
 void beginPage(Page& page, std::initializer_list<std::string_view> name) {
@@ -159,14 +163,8 @@ void SitePages::filePresentation(Page& page, const htFile& file) const {
     });
   };
   section(file.classes, kClass, name.ends_with('h') ? "pr\xE9sente" : "impl\xE9mente", "classes");
-  section(file.functions, kFunction,
-          "d\xE9"
-          "finit",
-          "fonctions");
-  section(file.macros, kMacro,
-          "d\xE9"
-          "finit",
-          "macros");
+  section(file.functions, kFunction, kDefines, "fonctions");
+  section(file.macros, kMacro, kDefines, "macros");
   endBody(page);
 }
 
@@ -228,7 +226,7 @@ bool SitePages::symbolPage(Page& page, const htSymbol& shown) const {
     text += "<br><br>\n";
   }
   text += "Fichier : ";
-  appendFileLink(text, shown.file->name.view());
+  appendFileLink(text, shown.seen_in->name.view());
   text += "\n<br>\n<hr size=2>\n";
   appendCode(text, shown.declaration.view(), links_, name);
   text += "<hr size=1>\n";
