@@ -76,6 +76,7 @@ void DocumentationRun::generate() {
   join();
   request_ = {projectDirectory(), htmlSettings->filters(), projectName()};
   phase_ = Phase::kIdle;
+  shown_.clear();
   DWORD id = 0;
   thread_ = CreateThread(nullptr, 0, work, this, 0, &id);
   if (thread_ == nullptr) {
@@ -137,7 +138,11 @@ void DocumentationRun::showProgress() {
       snprintf(text, sizeof text, "HTML generation stopped");
       break;
   }
-  showStatus(text);
+  // What was posted late tells the same.
+  if (shown_ != text) {
+    shown_ = text;
+    showStatus(text);
+  }
 }
 
 void DocumentationRun::show() {

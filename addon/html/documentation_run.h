@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <string>
 
 #include "addon/html/site_generation.h"
 
@@ -44,6 +45,7 @@ class DocumentationRun : private SiteProgress {
   HANDLE thread_ = nullptr;
   SiteRequest request_;  // the generating thread's alone while one runs
   DWORD told_ = 0;       // milliseconds of the system's clock, likewise
+  std::string shown_;    // the latest progress on the status line
   std::atomic<Phase> phase_ = Phase::kIdle;
   std::atomic<int> done_ = 0;
   std::atomic<int> all_ = 0;
