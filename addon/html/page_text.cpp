@@ -27,7 +27,7 @@ bool isKeyword(std::string_view word) {
 // Writes one text, run by run.
 class TextRuns {
  public:
-  TextRuns(std::string& page, std::string_view text, const WordLinks& links, std::string_view entry)
+  TextRuns(std::string& page, std::string_view text, const WordLinks& links, const htSymbol* entry)
       : page_(page), rest_(text), links_(links), entry_(entry) {}
 
   void prose(ProseForm form) {
@@ -67,7 +67,7 @@ class TextRuns {
   }
 
   void word(std::string_view taken) {
-    const std::string_view link = taken == entry_ ? std::string_view() : links_.find(taken);
+    const std::string_view link = links_.find(taken, entry_);
     if (link.empty()) {
       page_ += taken;
     } else {
@@ -138,7 +138,7 @@ class TextRuns {
   std::string& page_;
   std::string_view rest_;
   const WordLinks& links_;
-  std::string_view entry_;
+  const htSymbol* entry_;
   bool italics_ = false;
   bool parameters_begun_ = false;
 };
@@ -146,19 +146,32 @@ class TextRuns {
 }  // namespace
 
 WordLinks::WordLinks(const htProjet& projet) {
-  const auto add = [this](const auto& entries, std::string_view start) {
-    for (int i = 0; i < entries.count(); ++i) {
-      starts_.emplace(entries[i]->name.view(), start);
-    }
-  };
-  add(projet.classes, kClassLink);
-  add(projet.macros, kMacroLink);
-  add(projet.functions, kFunctionLink);
+  add(projet.classes, &Named::of_class);
+  add(projet.macros, &Named::of_macro);
+  add(projet.functions, &Named::of_function);
 }
 
-std::string_view WordLinks::find(std::string_view word) const {
-  const auto found = starts_.find(word);
-  return found == starts_.end() || word.empty() ? std::string_view() : found->second;
+template <class Table>
+void WordLinks::add(const Table& entries, Sort sort) {
+  for (int i = 0; i < entries.count(); ++i) {
+    const htSymbol*& first = named_[entries[i]->name.view()].*sort;
+    if (first == nullptr) {
+      first = entries[i];
+    }
+  }
+}
+
+std::string_view WordLinks::find(std::string_view word, const htSymbol* entry) const {
+  const auto found = named_.find(word);
+  if (found == named_.end() || word.empty()) {
+    return {};
+  }
+  const auto leads = [entry](const htSymbol* named) { return named != nullptr && named != entry; };
+  const Named& named = found->second;
+  return leads(named.of_class)      ? kClassLink
+         : leads(named.of_macro)    ? kMacroLink
+         : leads(named.of_function) ? kFunctionLink
+                                    : std::string_view();
 }
 
 // A word leads to the first entry of its name.
@@ -167,7 +180,7 @@ std::string_view WordLinks::afterWord(std::string_view link) {
 }
 
 void appendProse(std::string& page, std::string_view text, const WordLinks& links,
-                 std::string_view entry, ProseForm form) {
+                 const htSymbol* entry, ProseForm form) {
   if (text.empty()) {
     page += "<I>Pas de documentation disponible !</I><br>";
     return;
@@ -177,7 +190,7 @@ void appendProse(std::string& page, std::string_view text, const WordLinks& link
 }
 
 void appendCode(std::string& page, std::string_view text, const WordLinks& links,
-                std::string_view entry) {
+                const htSymbol* entry) {
   if (text.empty()) {
     page += "<I><pre>Pas de code disponible !</I></pre><br>";
     return;

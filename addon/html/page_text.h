@@ -19,23 +19,34 @@ class WordLinks {
   explicit WordLinks(const htProjet& projet);
 
   // The start of a link to the page of the word, up to the word in the page's name;
-  // empty when the word has none. Classes come before macros, macros before functions.
-  std::string_view find(std::string_view word) const;
+  // empty when the word names nothing but the entry. Classes come before macros, macros
+  // before functions; of one name the first is meant.
+  std::string_view find(std::string_view word, const htSymbol* entry) const;
   // What follows the word in the page's name.
   static std::string_view afterWord(std::string_view link);
 
  private:
-  std::unordered_map<std::string_view, std::string_view> starts_;
+  struct Named {
+    const htSymbol* of_class = nullptr;
+    const htSymbol* of_macro = nullptr;
+    const htSymbol* of_function = nullptr;
+  };
+  using Sort = const htSymbol* Named::*;
+
+  template <class Table>
+  void add(const Table& entries, Sort sort);
+
+  std::unordered_map<std::string_view, Named> named_;
 };
 
 // The long form sets return value and parameters off in paragraphs of their own.
 enum class ProseForm { kShort, kLong };
 
-// The entry whose text it is gets no links to itself: it is the name to leave out.
+// entry: whose text it is, and what it gets no links to; null for none.
 void appendProse(std::string& page, std::string_view text, const WordLinks& links,
-                 std::string_view entry, ProseForm form = ProseForm::kShort);
+                 const htSymbol* entry, ProseForm form = ProseForm::kShort);
 void appendCode(std::string& page, std::string_view text, const WordLinks& links,
-                std::string_view entry);
+                const htSymbol* entry);
 
 inline void append(std::string& page, std::initializer_list<std::string_view> texts) {
   for (const std::string_view text : texts) {

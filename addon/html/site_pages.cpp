@@ -139,7 +139,7 @@ void SitePages::listBriefly(std::string& text, const htSymbol& entry) const {
   append(text, {"\">", entry.name.view(), "</a>"});
   if (!entry.brief.empty()) {
     text += " : ";
-    appendProse(text, entry.brief.view(), links_, entry.name.view());
+    appendProse(text, entry.brief.view(), links_, &entry);
   }
   text += "<br>\n";
 }
@@ -149,7 +149,7 @@ void SitePages::filePresentation(Page& page, const htFile& file) const {
   std::string& text = page.text;
   beginBody(page, {name, " Presentation"});
   append(text, {"<h3>", name, "</h3>\n<hr size=2>\n"});
-  appendProse(text, file.documentation.view(), links_, {});
+  appendProse(text, file.documentation.view(), links_, nullptr);
   const auto section = [&](const auto& entries, std::string_view kind, std::string_view verb,
                            std::string_view what) {
     if (entries.count() > 0) {
@@ -174,7 +174,7 @@ void SitePages::classPage(Page& page, const htClass& shown) const {
   beginBody(page, {kClass, name});
   append(text, {"<h3>Classe ", name, "</h3>\n"});
   if (!shown.brief.empty()) {
-    appendProse(text, shown.brief.view(), links_, name);
+    appendProse(text, shown.brief.view(), links_, &shown);
     text += "<br><br>\n";
   }
   text += "Fichiers : ";
@@ -185,10 +185,10 @@ void SitePages::classPage(Page& page, const htClass& shown) const {
     separator = ", ";
   }
   text += "<hr size=2>\n";
-  appendCode(text, shown.declaration.view(), links_, name);
+  appendCode(text, shown.declaration.view(), links_, &shown);
   if (shown.hasDocumentation() || shown.methods.count() == 0) {
     text += "<hr size=1>\n";
-    appendProse(text, shown.documentation.view(), links_, name);
+    appendProse(text, shown.documentation.view(), links_, &shown);
   }
   if (shown.methods.count() > 0) {
     methods(text, shown);
@@ -206,7 +206,7 @@ void SitePages::methods(std::string& text, const htClass& shown) const {
     if (method.hasDeclaration()) {
       append(text, {"<code>", method.declaration.view(), "</code><br>"});
     }
-    appendProse(text, method.documentation.view(), links_, shown.name.view());
+    appendProse(text, method.documentation.view(), links_, &method);
     text += "<br><br>\n";
   });
 }
@@ -222,15 +222,15 @@ bool SitePages::symbolPage(Page& page, const htSymbol& shown) const {
   beginBody(page, {fnc ? kFunction : kMacro, name, " ", std::to_string(shown.number)});
   append(text, {"<h3>", fnc ? "Fonction " : "Macro ", name, "</h3>\n"});
   if (!shown.brief.empty()) {
-    appendProse(text, shown.brief.view(), links_, name);
+    appendProse(text, shown.brief.view(), links_, &shown);
     text += "<br><br>\n";
   }
   text += "Fichier : ";
   appendFileLink(text, shown.seen_in->name.view());
   text += "\n<br>\n<hr size=2>\n";
-  appendCode(text, shown.declaration.view(), links_, name);
+  appendCode(text, shown.declaration.view(), links_, &shown);
   text += "<hr size=1>\n";
-  appendProse(text, shown.documentation.view(), links_, name,
+  appendProse(text, shown.documentation.view(), links_, &shown,
               fnc ? ProseForm::kLong : ProseForm::kShort);
   endBody(page);
   return true;

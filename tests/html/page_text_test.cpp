@@ -24,10 +24,13 @@ class Links {
     projet_.sort();
   }
   WordLinks get() const { return WordLinks(projet_); }
+  const htProjet& projet() const { return projet_; }
 
  private:
   htProjet projet_;
 };
+
+const htSymbol kSelf("self");
 
 const std::string kStackLink = "<a href =\"Class Stack.html\" target=\"space\">Stack</a>";
 const std::string kMaxLink = "<a href =\"Define MAX 0.html\" target=\"space\">MAX</a>";
@@ -64,16 +67,43 @@ TEST_CASE("prose") {
   for (const auto& c : cases) {
     CAPTURE(std::string(c.text));
     std::string page = "[";
-    appendProse(page, c.text, links, "self");
+    appendProse(page, c.text, links, &kSelf);
     CHECK(page == "[" + c.expected_short + "</pre>\n");
     page.clear();
-    appendProse(page, c.text, links, "self", ProseForm::kLong);
+    appendProse(page, c.text, links, &kSelf, ProseForm::kLong);
     CHECK(page == (c.expected_long.empty() ? c.expected_short : c.expected_long) + "</pre>\n");
   }
   std::string page;
-  appendProse(page, "", links, "self");
-  appendProse(page, "Stack sum", links, "Stack");
-  CHECK(page == kNoProse + "Stack " + kSumLink + "</pre>\n");
+  appendProse(page, "", links, &kSelf);
+  CHECK(page == kNoProse);
+}
+
+// A word leads past the entry whose text it is to what else has that name, and always to
+// the first: the second sum links to the first, the first to nothing.
+TEST_CASE("words that name their own entry") {
+  const Links model;
+  const WordLinks links = model.get();
+  const htProjet& projet = model.projet();
+  const auto link = [](const std::string& kind, const std::string& name) {
+    return "<a href =\"" + kind + name + " 0.html\" target=\"space\">" + name + "</a>";
+  };
+  const struct {
+    const htSymbol* entry;
+    std::string text;
+    std::string expected;
+  } cases[] = {
+      {projet.classes[0], "Stack MAX", link("Fnc ", "Stack") + " " + link("Define ", "MAX")},
+      {projet.macros[0], "MAX", link("Fnc ", "MAX")},
+      {projet.functions[1], "MAX", link("Define ", "MAX")},
+      {projet.functions[3], "sum", "sum"},
+      {projet.functions[4], "sum", link("Fnc ", "sum")},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(c.text);
+    std::string page;
+    appendProse(page, c.text, links, c.entry);
+    CHECK(page == c.expected + "</pre>\n");
+  }
 }
 
 TEST_CASE("code") {
@@ -97,11 +127,11 @@ TEST_CASE("code") {
   };
   for (const auto& c : cases) {
     std::string page;
-    appendCode(page, c.text, links, "self");
+    appendCode(page, c.text, links, &kSelf);
     CHECK(page == "<pre>" + c.expected + "</pre>\n");
   }
   std::string page;
-  appendCode(page, "", links, "self");
+  appendCode(page, "", links, &kSelf);
   CHECK(page == "<I><pre>Pas de code disponible !</I></pre><br>");
 }
 
