@@ -20,6 +20,7 @@
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
+#include "addon/rcgen/rc_generator.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -88,6 +89,7 @@ void startAddon(IIde* ide) {
   create(barMenu, barWindow, menuFeatures);
   create(completionSettings);
   create(generalBehaviours);
+  create(rcGenerator);
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -123,6 +125,7 @@ void stopAddon() {
   destroy(topBar);
   destroy(completionSettings);
   destroy(editorServiceHolder);
+  destroy(rcGenerator);
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
