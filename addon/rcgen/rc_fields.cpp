@@ -49,6 +49,18 @@ std::size_t fieldEnd(std::string_view line, std::size_t from) {
   return at;
 }
 
+std::string_view fieldValue(std::string_view field) {
+  while (!field.empty() && (field.front() == ' ' || field.front() == kBackspace)) {
+    field.remove_prefix(1);
+  }
+  if (field.empty() || field.front() != '"') {
+    return field;
+  }
+  field.remove_prefix(1);
+  const std::size_t last = field.rfind('"');
+  return last == std::string_view::npos ? std::string_view() : field.substr(0, last);
+}
+
 template <std::size_t kCount>
 bool holdsAny(std::string_view style, const std::string_view (&words)[kCount]) {
   return std::any_of(std::begin(words), std::end(words), [style](std::string_view word) {
@@ -77,25 +89,28 @@ RcToken rcToken(std::string_view line, std::size_t from) {
   return {line.substr(begin, end - begin), end};
 }
 
-std::string_view rcCommaField(std::string_view line, int n) {
+RcFields rcCommaFields(std::string_view line) {
+  RcFields fields;
   std::size_t begin = 0;
-  for (int i = 0; i < n; ++i) {
+  for (std::string_view& field : fields) {
     const std::size_t end = fieldEnd(line, begin);
+    field = fieldValue(line.substr(begin, end - begin));
     if (end == line.size()) {
-      return {};
+      break;
     }
     begin = end + 1;
   }
-  std::string_view field = line.substr(begin, fieldEnd(line, begin) - begin);
-  while (!field.empty() && (field.front() == ' ' || field.front() == kBackspace)) {
-    field.remove_prefix(1);
+  return fields;
+}
+
+// Sought by the word: blanks are everywhere.
+bool holdsAfterBlank(std::string_view line, std::string_view word, std::string_view ending) {
+  for (std::size_t at = 0; (at = line.find(word, at)) != std::string_view::npos; ++at) {
+    if (at > 0 && line[at - 1] == ' ' && line.substr(at + word.size()).starts_with(ending)) {
+      return true;
+    }
   }
-  if (field.empty() || field.front() != '"') {
-    return field;
-  }
-  field.remove_prefix(1);
-  const std::size_t last = field.rfind('"');
-  return last == std::string_view::npos ? std::string_view() : field.substr(0, last);
+  return false;
 }
 
 std::string_view rcMemberName(std::string_view identifier) {

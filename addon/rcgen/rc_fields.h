@@ -1,6 +1,7 @@
 // The parts of a line of a resource script. Views point into the line. Any thread.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -15,10 +16,14 @@ struct RcToken {
 // beyond the line's end counts as the end.
 RcToken rcToken(std::string_view line, std::size_t from = 0);
 
-// The nth field (from 0) of a line split at the commas outside double quotes. Blanks and
-// backspaces before it are skipped, tabs are not. A field in double quotes reaches to its
-// last quote, another to its end, blanks included; a field the line has not is empty.
-std::string_view rcCommaField(std::string_view line, int n);
+// The first fields of a line split at the commas outside double quotes. Blanks and
+// backspaces before a field are skipped, tabs are not. A field in double quotes reaches to
+// its last quote, another to its end, blanks included; one that the line has not is empty.
+using RcFields = std::array<std::string_view, 4>;
+RcFields rcCommaFields(std::string_view line);
+
+// Whether the line holds the word after a blank, and followed by the ending.
+bool holdsAfterBlank(std::string_view line, std::string_view word, std::string_view ending = {});
 
 // IDC_NAME names the member NAME: a prefix of three characters and "_" goes when
 // anything follows it.

@@ -17,10 +17,6 @@ constexpr std::size_t kDefineName = 8;  // where the name is looked for
 constexpr std::size_t kDialogMenuName = 5;
 constexpr std::size_t kSymbolSize = 2;  // of the "ID" in "IDOK"
 
-bool holds(std::string_view line, std::string_view word) {
-  return line.find(word) != std::string_view::npos;
-}
-
 bool closesBlock(std::string_view line) {
   return line.starts_with('}');
 }
@@ -77,7 +73,7 @@ void RcReader::readMenus(std::string_view script) {
   for (std::string_view line; lines.next(line);) {
     line = withoutLineEnd(line);
     if (!inside) {
-      inside = holds(line, " MENU");
+      inside = holdsAfterBlank(line, "MENU");
       if (inside) {
         menu = rcToken(line).text;
       }
@@ -90,7 +86,7 @@ void RcReader::readMenus(std::string_view script) {
 }
 
 void RcReader::readMenuItem(std::string_view line, std::string_view menu) {
-  const std::string_view identifier = rcCommaField(line, 1);
+  const std::string_view identifier = rcCommaFields(line)[1];
   const RcDefine* const define = findDefine(identifier);
   RcMenuItem* const item = define != nullptr ? menu_items_.add() : nullptr;
   if (item != nullptr) {
@@ -115,7 +111,7 @@ void RcReader::readDialogs(std::string_view script, DialogEmitter& emitter) {
 }
 
 bool RcReader::openDialog(std::string_view line, DialogEmitter& emitter) {
-  if (!holds(line, " DIALOG ") && !holds(line, " DIALOGEX ")) {
+  if (!holdsAfterBlank(line, "DIALOG", " ") && !holdsAfterBlank(line, "DIALOG", "EX ")) {
     return false;
   }
   const std::string_view name = rcToken(line).text;
@@ -133,20 +129,20 @@ bool RcReader::readDialogLine(std::string_view line) {
   if (closesBlock(line)) {
     return false;
   }
-  const RcToken first = rcToken(line);
-  if (first.text == "MENU") {
+  const std::string_view word = rcToken(line).text;
+  if (word == "MENU") {
     // The statement is taken to start the line, with one blank after the word.
     dialog_.menu.assign(line.size() > kDialogMenuName ? line.substr(kDialogMenuName) : "");
-  } else if (first.text == "CONTROL") {
-    readControl(line, line.substr(first.end));
+  } else if (word == "CONTROL") {
+    readControl(line);
   }
   return true;
 }
 
-void RcReader::readControl(std::string_view line, std::string_view rest) {
-  const std::string_view framework_class =
-      rcFrameworkClass(rcCommaField(rest, 2), rcCommaField(rest, 3));
-  const std::string_view identifier = rcCommaField(line, 1);
+// The word CONTROL holds neither comma nor quote: its line has the fields of what follows.
+void RcReader::readControl(std::string_view line) {
+  const auto [text, identifier, window_class, style] = rcCommaFields(line);
+  const std::string_view framework_class = rcFrameworkClass(window_class, style);
   if (framework_class.empty() || isNoName(identifier)) {
     return;
   }

@@ -21,7 +21,7 @@ class RcReader {
   void readMenus(std::string_view script);
   void readDialogs(std::string_view script, DialogEmitter& emitter);
   void readMenuItem(std::string_view line, std::string_view menu);
-  void readControl(std::string_view line, std::string_view rest);
+  void readControl(std::string_view line);
   // False: a line of the dialog that ends it.
   bool readDialogLine(std::string_view line);
   // Opens the dialog that the line names; false when it names none to be read.
