@@ -8,6 +8,8 @@
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
 #include "addon/foundation/settings_store.h"
+#include "addon/html/documentation_run.h"
+#include "addon/html/html_settings.h"
 #include "addon/ide/access.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/environment.h"
@@ -34,7 +36,12 @@ constexpr char kSettingsRoot[] = R"(SOFTWARE\Borland\Borland C++\5.0\Ide\AddOns\
 HWND barWindow = nullptr;
 bool oleInitialised = false;
 AddonHookHost hookHost;
-MenuFeatures menuFeatures;
+
+class AddonMenuFeatures : public MenuFeatures {
+ public:
+  bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
+};
+AddonMenuFeatures menuFeatures;
 
 // A slot that memory was too short for stays null, and the start goes on.
 template <class T, class... Arguments>
@@ -108,6 +115,8 @@ void startAddon(IIde* ide) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
+  create(htmlSettings);
+  create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
   PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);
 }
@@ -129,6 +138,8 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
+  destroy(documentationRun);
+  destroy(htmlSettings);
   DestroyWindow(barWindow);
   barWindow = nullptr;
   if (projectTestA != nullptr) {

@@ -4,6 +4,8 @@
 #include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
 #include "addon/groupware/project_options.h"
+#include "addon/html/documentation_run.h"
+#include "addon/html/html_settings.h"
 #include "addon/html/project_options.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/make_registration.h"
@@ -136,8 +138,15 @@ void actOnMakeEnd(int) {
   }
 }
 
+void generateAfterMake(int result) {
+  if (result == kMakeSucceeded && documentationRun != nullptr && htmlSettings != nullptr &&
+      htmlSettings->enabled() && htmlSettings->automatic()) {
+    documentationRun->generate();
+  }
+}
+
 constexpr MakeStep kMakeStarted[] = {actOnMakeStart};
-constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd};
+constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace
 

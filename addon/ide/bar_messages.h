@@ -10,5 +10,7 @@ namespace kesto {
 // opens and records the file before that.
 inline constexpr UINT kGoToLineMessage = WM_USER + 7;
 inline constexpr UINT kOpenFoundFileMessage = WM_USER + 8;
+// The generation of the documentation site has gone on. Its thread posts it.
+inline constexpr UINT kDocumentationMessage = WM_USER + 9;
 
 }  // namespace kesto

@@ -9,7 +9,7 @@
 namespace kesto {
 
 using MakeStep = void (*)();
-// Takes the IDE's ideapi::MakeResult.
+// Takes a MakeResult.
 using MakeEndStep = void (*)(int result);
 
 // The steps of each event, run from first to last.

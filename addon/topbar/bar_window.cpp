@@ -1,6 +1,7 @@
 #include "addon/topbar/bar_window.h"
 
 #include "addon/behaviours/general_behaviours.h"
+#include "addon/html/documentation_run.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/header_recorder.h"
@@ -96,6 +97,11 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
       break;
     case kGoToLineMessage:
       goToLine(reinterpret_cast<const char*>(lParam), static_cast<int>(wParam));
+      return 0;
+    case kDocumentationMessage:
+      if (documentationRun != nullptr) {
+        documentationRun->showProgress();
+      }
       return 0;
     case kOpenFoundFileMessage:
       onOpenFoundFile(bar, wParam, lParam);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "addon/foundation/path.h"
+#include "addon/html/documentation_run.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/help_file.h"
@@ -93,6 +94,20 @@ bool openOptions(const Command&) {
   return true;
 }
 
+bool generateDocumentation(const Command&) {
+  if (documentationRun != nullptr) {
+    documentationRun->generate();
+  }
+  return true;
+}
+
+bool showDocumentation(const Command&) {
+  if (documentationRun != nullptr) {
+    documentationRun->show();
+  }
+  return true;
+}
+
 bool newEditor(const Command& command) {
   onEditorCreated(reinterpret_cast<HWND>(command.lParam));
   return true;
@@ -126,7 +141,8 @@ constexpr CommandRange kCommands[] = {
     {188, 188, [](const Command& c) { return showQuickFindPopup(c.bar); }, nullptr},
     {189, 189, [](const Command& c) { return showFunctionsPopup(c.bar); }, nullptr},
     {190, 193, runSearch, nullptr},
-    {194, 195, nullptr, nullptr},  // documentation site
+    {194, 194, generateDocumentation, nullptr},
+    {195, 195, showDocumentation, nullptr},
     {196, 196, openHelp, "Open help window"},
     {197, 197, [](const Command& c) { return showDocumentationPopup(c.bar); }, nullptr},
     {199, 199, openOptions, "Open options dialog"},

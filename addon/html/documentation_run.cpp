@@ -1,0 +1,161 @@
+#include "addon/html/documentation_run.h"
+
+#include <shellapi.h>
+
+#include <string>
+
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/message_box.h"
+#include "addon/foundation/path.h"
+#include "addon/foundation/text_file.h"
+#include "addon/html/html_settings.h"
+#include "addon/ide/bar_messages.h"
+#include "addon/ide/current_project.h"
+#include "addon/ide/status_line.h"
+
+namespace kesto {
+
+DocumentationRun* documentationRun = nullptr;
+
+namespace {
+
+// Above 0 while a generation runs. Only its own thread counts, so that two requests in
+// quick succession may both find it 0.
+std::atomic<int> runningGenerations = 0;
+
+constexpr DWORD kProgressPeriod = 100;  // milliseconds
+constexpr std::size_t kProjectExtension = 4;
+// What ShellExecute yields for a failure at most.
+constexpr INT_PTR kShellFailure = 32;
+
+class DiskFiles : public SiteFiles {
+ public:
+  bool read(const char* path, std::string& text) override { return readTextFile(path, text); }
+  bool makeDirectory(const char* path) override { return CreateDirectoryA(path, nullptr) != FALSE; }
+  bool write(const char* path, std::string_view text) override { return writeTextFile(path, text); }
+};
+
+std::string projectName() {
+  std::string name(fileNamePart(projectFile()));
+  name.resize(name.size() > kProjectExtension ? name.size() - kProjectExtension : 0);
+  return name;
+}
+
+bool isRunning(HANDLE thread) {
+  return thread != nullptr && WaitForSingleObject(thread, 0) == WAIT_TIMEOUT;
+}
+
+}  // namespace
+
+DocumentationRun::~DocumentationRun() {
+  join();
+}
+
+// Windows of other threads may send to this one's meanwhile, a box of the generation among them.
+void DocumentationRun::join() {
+  if (thread_ == nullptr) {
+    return;
+  }
+  while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_SENDMESSAGE) ==
+         WAIT_OBJECT_0 + 1) {
+    MSG message;
+    PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
+  }
+  CloseHandle(thread_);
+  thread_ = nullptr;
+}
+
+void DocumentationRun::generate() {
+  if (!isProjectOpen() || htmlSettings == nullptr) {
+    return;
+  }
+  if (runningGenerations > 0 || isRunning(thread_)) {
+    showMessage(nullptr, "HTML generation in progress", "Warning", kMessageOk);
+    return;
+  }
+  join();
+  request_ = {projectDirectory(), htmlSettings->filters(), projectName()};
+  phase_ = Phase::kIdle;
+  shown_.clear();
+  DWORD id = 0;
+  thread_ = CreateThread(nullptr, 0, work, this, 0, &id);
+  if (thread_ == nullptr) {
+    showStatus("HTML generation could not be started");
+  }
+}
+
+DWORD WINAPI DocumentationRun::work(void* run) {
+  DocumentationRun& self = *static_cast<DocumentationRun*>(run);
+  ++runningGenerations;
+  DirectoryListing listing;
+  DiskFiles files;
+  const bool whole = generateSite(self.request_, listing, files, self);
+  self.phase_ = whole ? Phase::kDone : Phase::kStopped;
+  --runningGenerations;
+  self.post();
+  return 0;
+}
+
+void DocumentationRun::reading(int files) {
+  tell(Phase::kReading, files, 0);
+}
+
+void DocumentationRun::writing(int pages, int all) {
+  tell(Phase::kWriting, pages, all);
+}
+
+void DocumentationRun::tell(Phase phase, int done, int all) {
+  phase_ = phase;
+  done_ = done;
+  all_ = all;
+  const DWORD now = GetTickCount();
+  if (now - told_ >= kProgressPeriod) {
+    told_ = now;
+    post();
+  }
+}
+
+void DocumentationRun::post() {
+  PostMessageA(bar_, kDocumentationMessage, 0, 0);
+}
+
+void DocumentationRun::showProgress() {
+  const int done = done_;
+  char text[100] = "";
+  switch (phase_) {
+    case Phase::kIdle:
+      return;
+    case Phase::kReading:
+      snprintf(text, sizeof text, "HTML generation: %d files read", done);
+      break;
+    case Phase::kWriting:
+      snprintf(text, sizeof text, "HTML generation: page %d of %d", done, all_.load());
+      break;
+    case Phase::kDone:
+      snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+      break;
+    case Phase::kStopped:
+      snprintf(text, sizeof text, "HTML generation stopped");
+      break;
+  }
+  // What was posted late tells the same.
+  if (shown_ != text) {
+    shown_ = text;
+    showStatus(text);
+  }
+}
+
+void DocumentationRun::show() {
+  if (!isProjectOpen()) {
+    return;
+  }
+  const std::string directory = siteDirectory(projectDirectory());
+  const std::string page = directory + "\\Documentation " + projectName() + ".html";
+  const HINSTANCE result = ShellExecuteA(GetActiveWindow(), "open", page.c_str(), nullptr,
+                                         directory.c_str(), SW_SHOWMAXIMIZED);
+  if (reinterpret_cast<INT_PTR>(result) <= kShellFailure) {
+    showStatus("The HTML documentation could not be opened");
+  }
+}
+
+}  // namespace kesto

@@ -1,0 +1,35 @@
+// The settings of the HTML documentation: those of the user, in the settings store, and
+// those of the open project, which go before them. One object, created and destroyed by
+// the lifecycle; user-interface thread only.
+#pragma once
+
+#include <string>
+
+#include "addon/foundation/string.h"
+
+namespace kesto {
+
+class HtmlSettings {
+ public:
+  // Reads section "HTML".
+  HtmlSettings();
+  // Writes it back.
+  ~HtmlSettings();
+  HtmlSettings(const HtmlSettings&) = delete;
+  HtmlSettings& operator=(const HtmlSettings&) = delete;
+
+  bool enabled() const;
+  // Generate after each successful Make.
+  bool automatic() const;
+  // Masks of the files to read, with ";" between them.
+  std::string filters() const;
+
+ private:
+  int enabled_;
+  int automatic_;
+  String filters_;
+};
+
+extern HtmlSettings* htmlSettings;
+
+}  // namespace kesto

@@ -1,0 +1,47 @@
+// The documentation of a project, from its sources to the written site. The file system
+// and the onlooker are seen through small interfaces; everything runs on the caller's
+// thread.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "addon/foundation/directory_walk.h"
+
+namespace kesto {
+
+struct SiteRequest {
+  std::string directory;     // the root of the sources; the site is written below it
+  std::string filters;       // patterns of the files to read, separated by ";"
+  std::string project_name;  // without directory and extension
+};
+
+// Text files: line ends are line feeds on this side.
+class SiteFiles {
+ public:
+  virtual ~SiteFiles() = default;
+  // Replaces text by the file's; false when it cannot be opened.
+  virtual bool read(const char* path, std::string& text) = 0;
+  // False when there is no such directory afterwards.
+  virtual bool makeDirectory(const char* path) = 0;
+  // Creates or overwrites; false when the file cannot be written.
+  virtual bool write(const char* path, std::string_view text) = 0;
+};
+
+class SiteProgress {
+ public:
+  virtual ~SiteProgress() = default;
+  virtual void reading(int files_read) = 0;
+  virtual void writing(int pages_written, int pages) = 0;
+};
+
+// The directory of the site of a project in this directory.
+std::string siteDirectory(std::string_view directory);
+
+// Reads the sources and writes every page. Files that cannot be read and pages that
+// cannot be written are left out; false only after a failed internal check, which was
+// shown and at which the generation stopped.
+bool generateSite(const SiteRequest& request, MaskLister& lister, SiteFiles& files,
+                  SiteProgress& progress);
+
+}  // namespace kesto

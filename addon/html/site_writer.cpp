@@ -1,0 +1,70 @@
+#include "addon/html/site_writer.h"
+
+#include <utility>
+
+namespace kesto {
+
+namespace {
+
+constexpr int kPagesOfProject = 5;
+constexpr int kPagesOfFile = 2;
+
+// Names come out of comments: one that leads to another directory, or into a stream of
+// a file, is no page.
+bool isFileName(std::string_view name) {
+  return name.find_first_of("\\/:") == std::string_view::npos;
+}
+
+}  // namespace
+
+SiteWriter::SiteWriter(const htProjet& projet, std::string directory, SiteFiles& files,
+                       SiteProgress& progress)
+    : projet_(projet),
+      pages_(projet),
+      directory_(std::move(directory)),
+      files_(files),
+      progress_(progress),
+      all_(kPagesOfProject + kPagesOfFile * projet.files.count() + projet.classes.count() +
+           projet.functions.count() + projet.macros.count()) {}
+
+bool SiteWriter::write() {
+  files_.makeDirectory(directory_.c_str());
+  for (const auto page : {&SitePages::frameset, &SitePages::title, &SitePages::projectContents,
+                          &SitePages::fileList, &SitePages::projectPresentation}) {
+    (pages_.*page)(page_);
+    writePage();
+  }
+  for (int i = 0; i < projet_.files.count(); ++i) {
+    pages_.fileContents(page_, *projet_.files[i]);
+    writePage();
+    pages_.filePresentation(page_, *projet_.files[i]);
+    writePage();
+  }
+  for (int i = 0; i < projet_.classes.count(); ++i) {
+    pages_.classPage(page_, *projet_.classes[i]);
+    writePage();
+  }
+  return writeSymbols(projet_.functions) && writeSymbols(projet_.macros);
+}
+
+bool SiteWriter::writeSymbols(const Ensemble<htSymbol>& symbols) {
+  for (int i = 0; i < symbols.count(); ++i) {
+    if (!pages_.symbolPage(page_, *symbols[i])) {
+      return false;
+    }
+    writePage();
+  }
+  return true;
+}
+
+void SiteWriter::writePage() {
+  if (isFileName(page_.name)) {
+    path_ = directory_;
+    append(path_, {"\\", page_.name, ".html"});
+    files_.write(path_.c_str(), page_.text);
+  }
+  ++written_;
+  progress_.writing(written_, all_);
+}
+
+}  // namespace kesto

@@ -1,0 +1,35 @@
+// Writes the pages of a sorted project, in their order. Refers to all it is given.
+#pragma once
+
+#include <string>
+
+#include "addon/html/ht_projet.h"
+#include "addon/html/site_generation.h"
+#include "addon/html/site_pages.h"
+
+namespace kesto {
+
+class SiteWriter {
+ public:
+  SiteWriter(const htProjet& projet, std::string directory, SiteFiles& files,
+             SiteProgress& progress);
+
+  // False after a failed internal check, which was shown.
+  bool write();
+
+ private:
+  bool writeSymbols(const Ensemble<htSymbol>& symbols);
+  void writePage();
+
+  const htProjet& projet_;
+  SitePages pages_;
+  std::string directory_;
+  SiteFiles& files_;
+  SiteProgress& progress_;
+  Page page_;
+  std::string path_;
+  int written_ = 0;
+  int all_;
+};
+
+}  // namespace kesto

@@ -1,0 +1,86 @@
+// A file system played by a test: sources by path, and what was read and written, in order.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "addon/html/site_generation.h"
+
+namespace kesto {
+
+class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
+ public:
+  std::vector<std::pair<std::string, std::string>> sources;  // path and text, in listing order
+  std::string unwritable;                                    // the part of a path that fails
+  std::string reads;                                         // each path and a line feed
+  std::string pages;                                         // "==== PATH" and text of each
+  std::string names;                                         // of the pages
+  std::string progress;
+
+  // Masks are "*" and the name's end; a mask without "*" fits no file.
+  void listFiles(const char* directory, const char* mask, Tableau<String>& found) override {
+    list(directory, [&](std::string_view name) {
+      const std::string_view end(mask);
+      if (name.find('\\') == std::string_view::npos && end.starts_with('*') &&
+          name.ends_with(end.substr(1))) {
+        found.append(new String(name));
+      }
+    });
+  }
+  void listDirectories(const char* directory, Tableau<String>& found) override {
+    std::string last;
+    list(directory, [&](std::string_view name) {
+      const std::size_t end = name.find('\\');
+      if (end != std::string_view::npos && name.substr(0, end) != last) {
+        last = name.substr(0, end);
+        found.append(new String(std::string_view(last)));
+      }
+    });
+  }
+  bool read(const char* path, std::string& text) override {
+    for (const auto& [name, content] : sources) {
+      if (name == path) {
+        ((reads += path)) += '\n';
+        text = content;
+        return true;
+      }
+    }
+    return false;
+  }
+  bool makeDirectory(const char* path) override {
+    made = path;
+    return true;
+  }
+  bool write(const char* path, std::string_view text) override {
+    if (!unwritable.empty() && std::string_view(path).find(unwritable) != std::string_view::npos) {
+      return false;
+    }
+    (((pages += "==== ") += path) += '\n') += text;
+    (names += std::string_view(path).substr(made.size() + 1)) += '\n';
+    return true;
+  }
+  void reading(int files_read) override { (progress += 'r') += std::to_string(files_read); }
+  void writing(int written, int all) override {
+    last_written = written;
+    last_all = all;
+  }
+
+  std::string made;
+  int last_written = 0;
+  int last_all = 0;
+
+ private:
+  // Shows each source below the directory by its path from there.
+  template <class Each>
+  void list(const std::string& directory, const Each& each) const {
+    for (const auto& [name, content] : sources) {
+      if (name.starts_with(directory + '\\')) {
+        each(std::string_view(name).substr(directory.size() + 1));
+      }
+    }
+  }
+};
+
+}  // namespace kesto

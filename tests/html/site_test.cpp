@@ -1,0 +1,119 @@
+// Whole generations. The cases of data/ are pairs: NAME.tree holds the sources, NAME.site
+// the pages in their order, each after a line "==== PATH". What differs is left beside the
+// program as NAME.actual.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "addon/html/ht_projet.h"
+#include "addon/html/site_pages.h"
+#include "doctest.h"
+#include "tests/foundation/recorded_boxes.h"
+#include "tests/html/played_site.h"
+
+namespace kesto {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kHead = "==== ";
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void addTree(PlayedSite& site, const std::string& tree) {
+  for (std::size_t at = 0; at < tree.size();) {
+    const std::size_t line_end = tree.find('\n', at);
+    const std::size_t next = std::min(tree.size(), tree.find("\n==== ", line_end) + 1);
+    const std::size_t end = next == 0 ? tree.size() : next;
+    const std::size_t path = at + kHead.size();
+    site.sources.emplace_back(tree.substr(path, line_end - path),
+                              tree.substr(line_end + 1, end - line_end - 1));
+    at = end;
+  }
+}
+
+bool generate(PlayedSite& site, const std::string& filters = "*.cpp;*.h") {
+  return generateSite({"C:\\P", filters, "D\xE9mo"}, site, site, site);
+}
+
+}  // namespace
+
+TEST_CASE("the site of each tree, byte for byte and in order") {
+  int cases = 0;
+  for (const auto& entry : fs::directory_iterator(TEST_DATA_DIR "/html/data")) {
+    fs::path path = entry.path();
+    if (path.extension() != ".tree") {
+      continue;
+    }
+    ++cases;
+    PlayedSite site;
+    addTree(site, contents(path));
+    CHECK(generate(site));
+    CHECK(site.made == "C:\\P\\kHTML");
+    const std::string wanted = contents(path.replace_extension(".site"));
+    CHECK(site.pages == wanted);
+    if (site.pages != wanted) {
+      std::ofstream(path.stem().string() + ".actual", std::ios::binary) << site.pages;
+    }
+  }
+  CHECK(cases == 2);
+}
+
+TEST_CASE("files are read pattern by pattern, each after the text beside it") {
+  PlayedSite site;
+  for (const char* path :
+       {"C:\\P\\z.cpp", "C:\\P\\.hidden.cpp", "C:\\P\\.git\\g.cpp", "C:\\P\\sub\\b.cpp",
+        "C:\\P\\sub\\b.cpp.txt", "C:\\P\\a.h", "C:\\P\\a.h.txt", "C:\\Q\\q.cpp"}) {
+    site.sources.emplace_back(path, "");
+  }
+  CHECK(generate(site, ";*.cpp;none;;*.h;*z.cpp;"));
+  CHECK(site.reads ==
+        "C:\\P\\z.cpp\n"
+        "C:\\P\\sub\\b.cpp.txt\nC:\\P\\sub\\b.cpp\n"
+        "C:\\P\\a.h.txt\nC:\\P\\a.h\n"
+        "C:\\P\\z.cpp\n");
+  CHECK(site.progress == "r1r2r3r4");
+  CHECK(site.names.substr(site.names.find("a.h")) ==
+        "a.h Contents.html\na.h Presentation.html\n"
+        "b.cpp Contents.html\nb.cpp Presentation.html\n"
+        "z.cpp Contents.html\nz.cpp Presentation.html\n"
+        "z.cpp Contents.html\nz.cpp Presentation.html\n");
+  CHECK(site.last_written == 13);
+  CHECK(site.last_all == 13);
+}
+
+TEST_CASE("a page that cannot be written is left out, and none leaves the directory") {
+  PlayedSite site;
+  site.unwritable = "Title";
+  site.sources.emplace_back("C:\\P\\a.h",
+                            "/** \\..\\..\\evil::f\n*/\n/** a/b::f\n*/\n/** s:t::f\n*/\n"
+                            "/** odd *::f\n*/\n/** ::Good\n*/\n");
+  CHECK(generate(site));
+  CHECK(site.names ==
+        "Documentation D\xE9mo.html\nD\xE9mo Contents.html\nD\xE9mo FileList.html\n"
+        "D\xE9mo Presentation.html\na.h Contents.html\na.h Presentation.html\n"
+        "Class Good.html\nClass odd *.html\n");
+  CHECK(site.last_written == 12);
+}
+
+TEST_CASE("a page for what the project does not have fails its check") {
+  htProjet projet("C:\\P", "*.h", "P");
+  htFile& file = projet.addFile("C:\\P\\a.h");
+  projet.findOrAddFunction("f", file, EntryKind::kAny);
+  const htSymbol stranger("f");
+  const SitePages pages(projet);
+  Page page;
+  CHECK(pages.symbolPage(page, *projet.functions[0]));
+  CHECK(takeBoxes().empty());
+  CHECK_FALSE(pages.symbolPage(page, stranger));
+  const auto boxes = takeBoxes();
+  REQUIRE(boxes.size() == 1);
+  CHECK(boxes[0].text.starts_with("Assertion failed: fnc!=ERRTAB || def!=ERRTAB, file html, "));
+}
+
+}  // namespace kesto
