@@ -62,7 +62,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FUZZ_CHECK(textsOf(*std::make_unique<RcReader>(), script) == texts);
   // A class for each dialog that is closed, and no text that is not text.
   FUZZ_CHECK(count(texts.header, "\nclass rc") >= count(texts.header, "\n} ;\n"));
-  FUZZ_CHECK(count(texts.header, "\n} ;\n") == count(texts.implementation, "\nvoid rc"));
+  FUZZ_CHECK(count(texts.header, "\n} ;\n") ==
+             count(texts.implementation, "\n  switch (hdr->idFrom)\n"));
   FUZZ_CHECK(texts.header.find('\0') == std::string::npos);
   FUZZ_CHECK(texts.implementation.find('\0') == std::string::npos);
   return 0;
