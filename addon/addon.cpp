@@ -22,6 +22,7 @@
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
+#include "addon/rcgen/rc_generator.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -95,6 +96,7 @@ void startAddon(IIde* ide) {
   create(barMenu, barWindow, menuFeatures);
   create(completionSettings);
   create(generalBehaviours);
+  create(rcGenerator);
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -132,6 +134,7 @@ void stopAddon() {
   destroy(topBar);
   destroy(completionSettings);
   destroy(editorServiceHolder);
+  destroy(rcGenerator);
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);

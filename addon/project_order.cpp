@@ -7,8 +7,10 @@
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
 #include "addon/html/project_options.h"
+#include "addon/ide/current_project.h"
 #include "addon/ide/make_registration.h"
 #include "addon/rcgen/project_options.h"
+#include "addon/rcgen/rc_generator.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/project_options.h"
 #include "addon/topbar/recent_files.h"
@@ -124,6 +126,9 @@ void nodeChanged(ProjectNode node, const char* name) {
 void actOnMakeStart() {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeStarted();
+  }
+  if (rcGenerator != nullptr) {
+    rcGenerator->run(projectDirectory());
   }
 }
 

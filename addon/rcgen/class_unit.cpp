@@ -1,0 +1,116 @@
+#include "addon/rcgen/class_unit.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "addon/foundation/path.h"
+#include "addon/rcgen/dialog_emitter.h"
+#include "addon/rcgen/rc_reader.h"
+
+namespace kesto {
+
+namespace {
+
+using Time = std::optional<std::int64_t>;
+
+String outputPath(const ClassUnit& unit, const char* extension) {
+  String name("rc");
+  name += unit.name;
+  name += extension;
+  return joinPath(unit.directory.view(), name.view());
+}
+
+Time modified(RcFiles& files, const char* path) {
+  const std::optional<RcFileStatus> status = files.status(path);
+  return status ? Time(status->modified) : Time();
+}
+
+std::vector<String> scriptsOf(RcFiles& files, const String& directory) {
+  Tableau<String> names;
+  files.listFiles(directory, "*.rc", names);
+  std::vector<String> paths;
+  for (int i = 0; i < names.count(); ++i) {
+    const std::string_view name = names.at(i)->view();
+    if (!name.starts_with('.')) {
+      paths.push_back(joinPath(directory.view(), name));
+    }
+  }
+  return paths;
+}
+
+bool unitOutOfDate(RcFiles& files, const std::vector<String>& scripts, const String& header,
+                   const String& implementation) {
+  const Time header_time = modified(files, header);
+  const Time implementation_time = modified(files, implementation);
+  std::vector<Time> script_times;
+  for (const String& script : scripts) {
+    script_times.push_back(modified(files, script));
+  }
+  return isOutOfDate(header_time, implementation_time, script_times);
+}
+
+struct UnitTexts {
+  std::string header;
+  std::string implementation;
+};
+
+void readScripts(RcFiles& files, const std::vector<String>& scripts, UnitTexts& texts) {
+  const std::unique_ptr<RcReader> reader(new (std::nothrow) RcReader);
+  if (reader == nullptr) {
+    return;
+  }
+  DialogEmitter emitter(texts.header, texts.implementation);
+  std::string script;
+  for (const String& path : scripts) {
+    if (files.read(path, script)) {
+      reader->read(script, emitter);
+    }
+  }
+}
+
+UnitTexts unitTexts(RcFiles& files, const std::vector<String>& scripts, std::string_view name) {
+  UnitTexts texts;
+  appendFormat(texts.header,
+               "// Generated file : do not edit by hand\n#ifndef _rc%s_h_\n#define _rc%s_h_\n",
+               {name, name});
+  appendFormat(texts.implementation,
+               "// Generated file : do not edit by hand\n#include \"kesto.h\"\n"
+               "#include \"rc%s.h\"\n",
+               {name});
+  readScripts(files, scripts, texts);
+  if (name.empty()) {
+    texts.implementation += "\nRCRCMAIN\n\n";
+  }
+  texts.header += "\n#endif\n";
+  return texts;
+}
+
+}  // namespace
+
+bool isOutOfDate(Time header, Time implementation, std::span<const Time> scripts) {
+  if (!header || !implementation) {
+    return true;
+  }
+  const std::int64_t older = std::min(*header, *implementation);
+  return std::any_of(scripts.begin(), scripts.end(),
+                     [older](Time script) { return !script || *script > older; });
+}
+
+void updateClassUnit(RcFiles& files, const ClassUnit& unit) {
+  const String header = outputPath(unit, ".h");
+  const String implementation = outputPath(unit, ".cpp");
+  const std::vector<String> scripts = scriptsOf(files, unit.directory);
+  if (!unitOutOfDate(files, scripts, header, implementation)) {
+    return;
+  }
+  const UnitTexts texts = unitTexts(files, scripts, unit.name.view());
+  files.remove(header);
+  files.write(header, texts.header);
+  files.remove(implementation);
+  files.write(implementation, texts.implementation);
+}
+
+}  // namespace kesto

@@ -1,0 +1,22 @@
+// What the generator does at the start of a make, in its order. Any thread.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "addon/rcgen/rc_files.h"
+
+namespace kesto {
+
+struct GeneratorSwitches {
+  bool dialog_classes;
+  bool version_stamping;
+};
+
+// Updates the class files of the project directory's own directories, then those of the
+// project directory itself, then stamps the version files of the whole tree, each as far
+// as it is switched on. build_number rises by one, and further where a file asks for it.
+void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
+                  std::int32_t& build_number);
+
+}  // namespace kesto

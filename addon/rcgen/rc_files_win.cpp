@@ -1,0 +1,47 @@
+#include "addon/rcgen/rc_files_win.h"
+
+#include <windows.h>
+
+#include "addon/foundation/text_file.h"
+
+namespace kesto {
+
+void RcFilesWin::listFiles(const char* directory, const char* mask, Tableau<String>& names) {
+  listing_.listFiles(directory, mask, names);
+}
+
+void RcFilesWin::listDirectories(const char* directory, Tableau<String>& names) {
+  listing_.listDirectories(directory, names);
+}
+
+// Not by _stat, whose whole seconds would hide a script saved right after a make.
+std::optional<RcFileStatus> RcFilesWin::status(const char* path) {
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA(path, &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return std::nullopt;
+  }
+  FindClose(search);
+  const FILETIME& time = found.ftLastWriteTime;
+  const auto high = static_cast<std::int64_t>(time.dwHighDateTime);
+  return RcFileStatus{high << 32 | time.dwLowDateTime,
+                      (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0};
+}
+
+bool RcFilesWin::read(const char* path, std::string& text) {
+  return readTextFile(path, text);
+}
+
+bool RcFilesWin::write(const char* path, std::string_view text) {
+  return writeTextFile(path, text);
+}
+
+void RcFilesWin::remove(const char* path) {
+  DeleteFileA(path);
+}
+
+void RcFilesWin::rename(const char* path, const char* new_path) {
+  MoveFileA(path, new_path);
+}
+
+}  // namespace kesto

@@ -1,0 +1,164 @@
+#include "addon/rcgen/version_stamp.h"
+
+#include <array>
+#include <cstddef>
+
+#include "addon/foundation/path.h"
+#include "addon/foundation/text_file.h"
+
+namespace kesto {
+
+namespace {
+
+// The buffer of a line, its terminating zero included.
+constexpr std::size_t kLineBuffer = 255;
+
+constexpr std::string_view kStatement = "FILEVERSION";
+constexpr std::size_t kNumbers = 12;  // where the statement's numbers begin
+constexpr std::string_view kValue = "   VALUE \"FileVersion\", \"";
+
+using Version = std::array<std::int32_t, 4>;
+constexpr std::size_t kBuild = 3;
+
+bool isSpace(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// Takes a decimal number off the text, white space and a sign before it allowed; false,
+// and the number untouched, when there is none.
+bool takeNumber(std::string_view& text, std::int32_t& number) {
+  while (!text.empty() && isSpace(text.front())) {
+    text.remove_prefix(1);
+  }
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) {
+    text.remove_prefix(1);
+  }
+  if (text.empty() || !isDigit(text.front())) {
+    return false;
+  }
+  std::uint32_t value = 0;
+  for (; !text.empty() && isDigit(text.front()); text.remove_prefix(1)) {
+    value = value * 10 + static_cast<std::uint32_t>(text.front() - '0');
+  }
+  number = static_cast<std::int32_t>(negative ? 0 - value : value);
+  return true;
+}
+
+// The first number that is missing ends the reading; those after it stay as they were.
+void readNumbers(std::string_view text, Version& version) {
+  for (std::size_t i = 0; i < version.size(); ++i) {
+    if (i > 0) {
+      if (!text.starts_with(',')) {
+        return;
+      }
+      text.remove_prefix(1);
+    }
+    if (!takeNumber(text, version[i])) {
+      return;
+    }
+  }
+}
+
+void appendNumbers(std::string& text, const Version& version, std::string_view between) {
+  for (std::size_t i = 0; i < version.size(); ++i) {
+    if (i > 0) {
+      text += between;
+    }
+    text += std::to_string(version[i]);
+  }
+}
+
+void stampStatement(std::string& stamped, std::string_view numbers, Version& version,
+                    std::int32_t& build_number) {
+  readNumbers(numbers, version);
+  if (build_number <= version[kBuild]) {
+    build_number = nextNumber(version[kBuild]);
+  }
+  version[kBuild] = build_number;
+  stamped += "FILEVERSION ";
+  appendNumbers(stamped, version, ", ");
+}
+
+class Stamping {
+ public:
+  Stamping(RcFiles& files, std::int32_t& build_number)
+      : files_(files), build_number_(build_number) {}
+
+  // Each level adds two characters at least, so that kPathLimit bounds the depth.
+  void tree(const String& directory) {
+    if (directories_left_ == 0 || directory.view().size() > kPathLimit) {
+      return;
+    }
+    --directories_left_;
+    Tableau<String> names;
+    files_.listDirectories(directory, names);
+    for (int i = 0; i < names.count(); ++i) {
+      const std::string_view name = names.at(i)->view();
+      if (name != "." && name != "..") {
+        tree(joinPath(directory.view(), name));
+      }
+    }
+    stamp(directory);
+  }
+
+ private:
+  void stamp(const String& directory) {
+    const String file = joinPath(directory.view(), "VERSION.RC");
+    const String backup = joinPath(directory.view(), "VERSION.BAK");
+    const std::optional<RcFileStatus> status = files_.status(file);
+    if (!status || status->is_directory) {
+      return;
+    }
+    files_.rename(file, backup);
+    std::string text;
+    if (files_.read(backup, text)) {
+      std::int32_t build_number = build_number_;
+      const std::string stamped = stampVersion(text, build_number);
+      if (files_.write(file, stamped)) {
+        build_number_ = build_number;
+      }
+    }
+  }
+
+  RcFiles& files_;
+  std::int32_t& build_number_;
+  int directories_left_ = kDirectoryLimit;
+};
+
+}  // namespace
+
+std::int32_t nextNumber(std::int32_t number) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(number) + 1);
+}
+
+std::string stampVersion(std::string_view text, std::int32_t& build_number) {
+  std::string stamped;
+  stamped.reserve(text.size() + kLineBuffer);
+  Version version = {1, 0, 0, build_number};
+  TextLines lines(text, kLineBuffer);
+  for (std::string_view line; lines.next(line);) {
+    line = withoutLineEnd(line);
+    if (line.size() > kStatement.size() && line.starts_with(kStatement)) {
+      stampStatement(stamped, line.substr(kNumbers), version, build_number);
+    } else if (line.size() > kValue.size() && line.starts_with(kValue)) {
+      stamped += kValue;
+      appendNumbers(stamped, version, ".");
+      stamped += "\\000\\000\"";
+    } else {
+      stamped += line;
+    }
+    stamped += '\n';
+  }
+  return stamped;
+}
+
+void stampVersions(RcFiles& files, const String& directory, std::int32_t& build_number) {
+  Stamping(files, build_number).tree(directory);
+}
+
+}  // namespace kesto

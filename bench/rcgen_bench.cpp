@@ -1,0 +1,252 @@
+// rcgen_bench DIRECTORY   makes a project there, and prints the medians of the runs over
+//                         it in milliseconds, and counts; a name and a number each
+//
+// "plain" reads the bytes that the first run reads and writes those that it writes, and
+// deletes the files before as that run does; nothing is composed.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "addon/foundation/message_box.h"
+#include "addon/foundation/text_file.h"
+#include "addon/rcgen/generator_run.h"
+#include "bench/posix_listing.h"
+
+namespace kesto {
+
+int showMessage(void* /*owner*/, const char* text, const char* /*caption*/, unsigned /*flags*/) {
+  fprintf(stderr, "%s\n", text);
+  return kAnswerOk;
+}
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kUnits = 24;
+constexpr int kScriptsOfUnit = 10;
+constexpr int kDialogsOfScript = 6;
+constexpr int kRounds = 31;
+
+// What the generator did through it, besides doing it.
+class PosixFiles : public RcFiles {
+ public:
+  std::vector<std::string> reads;
+  std::vector<std::string> removals;
+  std::map<std::string, std::string> writes;
+
+  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override {
+    listing_.listFiles(directory, mask, names);
+  }
+  void listDirectories(const char* directory, Tableau<String>& names) override {
+    listing_.listDirectories(directory, names);
+  }
+  std::optional<RcFileStatus> status(const char* path) override {
+    struct stat found = {};
+    if (stat(nativePath(path).c_str(), &found) != 0) {
+      return std::nullopt;
+    }
+    return RcFileStatus{found.st_mtim.tv_sec * 1000000000LL + found.st_mtim.tv_nsec,
+                        S_ISDIR(found.st_mode)};
+  }
+  bool read(const char* path, std::string& text) override {
+    if (noting_) {
+      reads.emplace_back(nativePath(path));
+    }
+    return readTextFile(nativePath(path).c_str(), text);
+  }
+  bool write(const char* path, std::string_view text) override {
+    if (noting_) {
+      writes[nativePath(path)] = text;
+    }
+    return writeTextFile(nativePath(path).c_str(), text);
+  }
+  void remove(const char* path) override {
+    if (noting_) {
+      removals.emplace_back(nativePath(path));
+    }
+    unlink(nativePath(path).c_str());
+  }
+  void rename(const char* path, const char* new_path) override {
+    const std::string target = nativePath(new_path);
+    if (access(target.c_str(), F_OK) != 0) {
+      ::rename(nativePath(path).c_str(), target.c_str());
+    }
+  }
+
+  // Noting takes time of its own.
+  void setNoting(bool noting) {
+    noting_ = noting;
+    reads.clear();
+    removals.clear();
+    writes.clear();
+  }
+
+ private:
+  PosixListing listing_;
+  bool noting_ = false;
+};
+
+std::string scriptText(int number) {
+  constexpr const char* kControls[] = {"\"edit\", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP",
+                                       "\"button\", BS_AUTOCHECKBOX",
+                                       "\"combobox\", CBS_DROPDOWN | WS_VSCROLL",
+                                       "\"SysListView32\", LVS_REPORT", "\"static\", SS_LEFT"};
+  std::string text = "#include <windows.h>\n";
+  for (int i = 0; i < 60; ++i) {
+    text += "#define IDC_FIELD" + std::to_string(i) + "  " + std::to_string(100 + i) + "\n";
+  }
+  const std::string stem = std::to_string(number);
+  text += "\nMENU" + stem + " MENU DISCARDABLE\n{\n POPUP \"&File\"\n {\n";
+  for (int i = 0; i < 20; ++i) {
+    text += "  MENUITEM \"&Entry\\tCtrl+E\", IDC_FIELD" + std::to_string(i) + "\n";
+  }
+  text += " }\n}\n";
+  for (int dialog = 0; dialog < kDialogsOfScript; ++dialog) {
+    text += "\nDLG" + stem + "X" + std::to_string(dialog) + " DIALOG 0, 0, 200, 100\n" +
+            "STYLE DS_MODALFRAME | WS_POPUP | WS_CAPTION\nMENU MENU" + stem +
+            "\nFONT 8, \"MS Sans Serif\"\n{\n";
+    for (int i = 0; i < 30; ++i) {
+      text += " CONTROL \"A text, of it\", IDC_FIELD" + std::to_string((i * 7 + dialog) % 60) +
+              ", " + kControls[i % 5] + ", 10, 10, 80, 12\n";
+    }
+    text += " CONTROL \"OK\", IDOK, \"button\", BS_DEFPUSHBUTTON, 10, 80, 40, 14\n}\n";
+  }
+  return text;
+}
+
+struct Project {
+  int scripts = 0;
+  std::size_t bytes = 0;
+};
+
+Project makeProject(const std::string& directory) {
+  Project made;
+  for (int unit = 0; unit < kUnits; ++unit) {
+    const std::string folder = directory + "/unit" + std::to_string(unit);
+    fs::create_directory(folder);
+    for (int i = 0; i < kScriptsOfUnit; ++i) {
+      const std::string text = scriptText(made.scripts);
+      writeTextFile((folder + "/part" + std::to_string(i) + ".rc").c_str(), text);
+      ++made.scripts;
+      made.bytes += text.size();
+    }
+  }
+  return made;
+}
+
+void makeVersions(const std::string& directory) {
+  std::string text;
+  for (int i = 0; i < 2000; ++i) {
+    text += i % 50 == 0 ? "FILEVERSION 1,2,3,4\n"
+                        : "   VALUE \"FileDescription\", \"What it is\\000\\000\"\n";
+  }
+  for (int unit = 0; unit < kUnits; ++unit) {
+    writeTextFile((directory + "/unit" + std::to_string(unit) + "/VERSION.RC").c_str(), text);
+  }
+}
+
+template <class Work>
+double timeOf(Work work) {
+  const auto begun = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begun)
+      .count();
+}
+
+double median(std::vector<double> times) {
+  std::sort(times.begin(), times.end());
+  return times[times.size() / 2];
+}
+
+void removeAll(const std::map<std::string, std::string>& outputs) {
+  for (const auto& output : outputs) {
+    unlink(output.first.c_str());
+  }
+}
+
+// What a run with these switches costs, and what its reading and writing alone does.
+void compare(const char* name, const char* plain_name, const std::string& directory,
+             GeneratorSwitches switches, PosixFiles& files) {
+  std::int32_t build_number = 0;
+  files.setNoting(true);
+  runGenerator(files, directory, switches, build_number);
+  const std::vector<std::string> reads = files.reads;
+  const std::vector<std::string> removals = files.removals;
+  const std::map<std::string, std::string> writes = files.writes;
+  files.setNoting(false);
+  std::vector<double> times;
+  std::vector<double> plain_times;
+  std::string text;
+  const auto prepare = [&] {
+    removeAll(writes);
+    if (switches.version_stamping) {
+      makeVersions(directory);
+    }
+  };
+  for (int i = 0; i < kRounds; ++i) {
+    prepare();
+    times.push_back(timeOf([&] { runGenerator(files, directory, switches, build_number); }));
+    prepare();
+    plain_times.push_back(timeOf([&] {
+      for (const std::string& path : reads) {
+        readTextFile(path.c_str(), text);
+      }
+      for (const std::string& path : removals) {
+        unlink(path.c_str());
+      }
+      for (const auto& output : writes) {
+        writeTextFile(output.first.c_str(), output.second);
+      }
+    }));
+  }
+  printf("%s %f\n%s %f\n", name, median(times), plain_name, median(plain_times));
+}
+
+int measure(const std::string& directory) {
+  const Project project = makeProject(directory);
+  printf("scripts %d\nscript-bytes %zu\n", project.scripts, project.bytes);
+  PosixFiles files;
+  std::int32_t build_number = 0;
+  constexpr GeneratorSwitches kClasses = {true, false};
+
+  files.setNoting(true);
+  runGenerator(files, directory, kClasses, build_number);
+  const std::map<std::string, std::string> outputs = files.writes;
+  std::size_t bytes = 0;
+  for (const auto& output : outputs) {
+    bytes += output.second.size();
+  }
+  printf("outputs %zu\noutput-bytes %zu\n", outputs.size(), bytes);
+  files.setNoting(true);
+  runGenerator(files, directory, kClasses, build_number);
+  printf("second-reads %zu\nsecond-writes %zu\n", files.reads.size(), files.writes.size());
+  files.setNoting(false);
+  std::vector<double> times;
+  for (int i = 0; i < kRounds; ++i) {
+    times.push_back(timeOf([&] { runGenerator(files, directory, kClasses, build_number); }));
+  }
+  printf("second %f\n", median(times));
+
+  removeAll(outputs);
+  compare("first", "plain", directory, kClasses, files);
+  makeVersions(directory);
+  compare("stamp", "stamp-plain", directory, {false, true}, files);
+  printf("stamped %d\n", kUnits);
+  return 0;
+}
+
+}  // namespace
+
+}  // namespace kesto
+
+int main(int argc, char** argv) {
+  return argc == 2 ? kesto::measure(argv[1]) : 2;
+}

@@ -1,0 +1,186 @@
+// The classes made of resource scripts. data/NAME.rc is the only script of a unit NAME,
+// whose files must be data/rcNAME.h and data/rcNAME.cpp. What differs is left beside the
+// program as FILE.actual.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include "addon/rcgen/class_unit.h"
+#include "addon/rcgen/rc_fields.h"
+#include "addon/rcgen/rc_reader.h"
+#include "doctest.h"
+#include "tests/rcgen/played_files.h"
+
+namespace kesto {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void checkFile(const fs::path& expected, const std::string& actual) {
+  CHECK(fs::exists(expected));
+  const bool same = actual == contents(expected);
+  CHECK(same);
+  if (!same) {
+    std::ofstream(expected.filename().string() + ".actual", std::ios::binary) << actual;
+  }
+}
+
+struct Texts {
+  std::string header;
+  std::string implementation;
+};
+
+Texts textsOf(const std::string& script) {
+  Texts texts;
+  DialogEmitter emitter(texts.header, texts.implementation);
+  std::make_unique<RcReader>()->read(script, emitter);
+  return texts;
+}
+
+int count(const std::string& text, const std::string& wanted) {
+  int found = 0;
+  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; ++at) {
+    ++found;
+  }
+  return found;
+}
+
+std::string many(int n, const std::string& before, const std::string& after) {
+  std::string all;
+  for (int i = 0; i < n; ++i) {
+    all += before + std::to_string(i) + after;
+  }
+  return all;
+}
+
+}  // namespace
+
+TEST_CASE("each unit's files are those written out for it") {
+  int cases = 0;
+  for (const auto& entry : fs::directory_iterator(TEST_DATA_DIR "/rcgen/data")) {
+    const fs::path& path = entry.path();
+    if (path.extension() != ".rc") {
+      continue;
+    }
+    const std::string unit = path.stem().string();
+    CAPTURE(unit);
+    PlayedFiles files;
+    files.scripts["P"] = {path.filename().string()};
+    files.put("P\\" + unit + ".rc", contents(path));
+    updateClassUnit(files, {"P", String(unit.c_str())});
+    for (const char* extension : {".h", ".cpp"}) {
+      const std::string name = "rc" + unit + extension;
+      checkFile(path.parent_path() / name, files.files["P\\" + name].text);
+    }
+    ++cases;
+  }
+  CHECK(cases == 3);
+}
+
+TEST_CASE("fields of a line") {
+  struct Row {
+    std::string_view line;
+    std::size_t n;
+    std::string_view field;
+  };
+  const Row rows[] = {
+      {"", 0, ""},
+      {"a", 1, ""},
+      {"a,", 1, ""},
+      {"a,b", 1, "b"},
+      {"a, \b b ,c", 1, "b "},
+      {"a,\tb", 1, "\tb"},
+      {"a,\"b,c\",d", 2, "d"},
+      {"a, \"b\" \"c\" x,d", 1, "b\" \"c"},
+      {"a,\"", 1, ""},
+      {"a,\"b,c", 1, ""},
+      {"a,b \"c\"", 1, "b \"c\""},
+      {"\"a\"\",\",\"b\",c", 1, "b"},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.line);
+    CHECK(rcCommaFields(row.line)[row.n] == row.field);
+  }
+}
+
+TEST_CASE("language variants") {
+  for (const char* name : {"MAIN_1033", "A_1036", "A_xx1x", "__xx0\xE9"}) {
+    CAPTURE(name);
+    CHECK(isLanguageVariant(name));
+  }
+  for (const char* name : {"MAIN", "_1033", "MAIN_10A3", "MAIN_103", "MAIN_10333", ""}) {
+    CAPTURE(name);
+    CHECK_FALSE(isLanguageVariant(name));
+  }
+}
+
+TEST_CASE("a full table takes no more") {
+  const std::string defines = many(255, "#define IDC_A", " 7\n") + "#define IDC_LAST 8\n";
+  const std::string edit = ", \"edit\", 0\n";
+  const std::string script = defines + "M MENU\n" + many(255, "MENUITEM \"\", IDC_A", "\n") +
+                             "MENUITEM \"\", IDC_A3\n}\nD DIALOG 1\n" + "CONTROL \"\", IDC_LAST" +
+                             edit + many(255, "CONTROL \"\", IDC_A", edit) + "CONTROL \"\", IDOK" +
+                             edit + "}\nE DIALOG 1\nCONTROL \"\", IDOK" + edit + "}\n";
+  const Texts texts = textsOf(script);
+  CHECK(count(texts.header, "virtual void mnu") == 255);
+  CHECK(count(texts.implementation, ".Get(this, 7)") == 255);
+  CHECK(count(texts.implementation, ".Get(this, 8)") == 0);
+  CHECK(count(texts.implementation, ".Get(this, IDOK)") == 1);
+}
+
+TEST_CASE("texts are cut at their fields' widths") {
+  const std::string x(200, 'x');
+  const std::string d = "IDC_" + std::string(65, 'd');  // as long as a name can be kept
+  const std::string script = "#define " + d + " " + x + "\n#define " + x + " 5\n" +  //
+                             x + " MENU\nMENUITEM \"\"," + d + "\nMENUITEM \"\"," + x + "\n}\n" +
+                             x + "1033_ DIALOG 1\nMENU " + x + "\nCONTROL \"\"," + d +
+                             ",\"edit\"\nCONTROL \"\"," + x + ",\"edit\"\n}\n" +  //
+                             x + "_1033 DIALOG 1\n}\n";
+  const Texts texts = textsOf(script);
+  const std::string x39 = x.substr(0, 39);
+  const std::string x49 = x.substr(0, 49);
+  const std::string x79 = x.substr(0, 79);
+  const std::string member(65, 'd');
+  CHECK(count(texts.header, "#define CallBar_" + x49 + "() ") == 1);
+  CHECK(count(texts.header, "if (code==" + x49 + ") { mnu" + member.substr(0, 49) + "() ;") == 1);
+  CHECK(count(texts.header, "class rc" + x79 + " : public") == 1);
+  CHECK(count(texts.header, "class ") == 1);
+  CHECK(count(texts.header, "    Edit " + member + " ;\n") == 1);
+  CHECK(count(texts.header, "    Edit ") == 1);
+  CHECK(count(texts.implementation, "  " + member + ".Get(this, " + x39 + ") ;\n") == 1);
+  CHECK(count(texts.implementation, "return(mnu" + member.substr(0, 49) + "())") == 1);
+}
+
+TEST_CASE("a long line is read in pieces of 1022 characters") {
+  const std::string blanks(1022, ' ');
+  const Texts texts = textsOf(blanks + "#define IDC_A 1\n" + blanks + "D DIALOG 1\n" + blanks +
+                              "CONTROL \"\", IDC_A, \"edit\"\n" + blanks + "}\n");
+  CHECK(count(texts.header, "    Edit A ;\n") == 1);
+  CHECK(count(texts.header, "} ;\n") == 1);
+  CHECK(count(textsOf(blanks + " D DIALOG 1\n" + blanks + " }").header, "} ;\n") == 0);
+}
+
+TEST_CASE("odd bytes") {
+  using namespace std::string_literals;
+  const Texts texts = textsOf(
+      "#define \xC9T\xC9 1\n#define IDC_A 2\0 3\nD\x01 DIALOG 1\n"
+      "CONTROL \"\", \xC9T\xC9, \"edit\"\nCONTROL \"\", IDC_A, \"edit\"\0\n"
+      "CONTROL \"\", IDC_A, \"ed\0it\"\nMENU\n}\r"s);
+  CHECK(count(texts.header, "class rcD : ") == 1);
+  CHECK(count(texts.header, "    Edit ") == 2);
+  CHECK(count(texts.implementation, "\xC9T\xC9.Get(this, 1)") == 1);
+  CHECK(count(texts.header, "} ;\n") == 1);
+
+  // A line without a name defines the empty one, which an item without an identifier has.
+  CHECK(count(textsOf("#define\nM MENU\nMENUITEM SEPARATOR\n").header, "mnu() ") == 2);
+}
+
+}  // namespace kesto

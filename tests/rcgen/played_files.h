@@ -1,0 +1,82 @@
+// A file system played by the test: texts and times in memory, listed in the order in
+// which they were put there. What is done to it is noted.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "addon/rcgen/rc_files.h"
+
+namespace kesto {
+
+class PlayedFiles : public RcFiles {
+ public:
+  struct File {
+    std::string text;
+    std::int64_t modified;
+  };
+
+  std::map<std::string, File> files;
+  // What each directory lists.
+  std::map<std::string, std::vector<std::string>> scripts;
+  std::map<std::string, std::vector<std::string>> directories;
+  bool endless = false;  // every directory holds two more
+  bool locked = false;   // nothing can be written
+  std::int64_t now = 100;
+  std::string done;  // "read PATH", "write PATH", ...; a line each
+
+  void put(const std::string& path, const std::string& text) { files[path] = {text, now}; }
+  std::string takeDone() { return std::exchange(done, std::string()); }
+
+  void listFiles(const char* directory, const char* /*mask*/, Tableau<String>& names) override {
+    append(scripts[directory], names);
+  }
+  void listDirectories(const char* directory, Tableau<String>& names) override {
+    note("list", directory);
+    append(endless ? std::vector<std::string>{"loop", "more"} : directories[directory], names);
+  }
+  std::optional<RcFileStatus> status(const char* path) override {
+    const auto found = files.find(path);
+    if (found == files.end()) {
+      return std::nullopt;
+    }
+    return RcFileStatus{found->second.modified, directories.count(path) != 0};
+  }
+  bool read(const char* path, std::string& text) override {
+    note("read", path);
+    const bool there = files.count(path) != 0;
+    text = there ? files[path].text : "";
+    return there;
+  }
+  bool write(const char* path, std::string_view text) override {
+    note("write", path);
+    if (!locked) {
+      put(path, std::string(text));
+    }
+    return !locked;
+  }
+  void remove(const char* path) override {
+    note("remove", path);
+    files.erase(path);
+  }
+  void rename(const char* path, const char* new_path) override {
+    note("rename", path);
+    if (files.count(new_path) == 0) {
+      files[new_path] = files[path];
+      files.erase(path);
+    }
+  }
+
+ private:
+  void note(const char* what, const char* path) { done += std::string(what) + ' ' + path + '\n'; }
+  static void append(const std::vector<std::string>& from, Tableau<String>& names) {
+    for (const std::string& name : from) {
+      names.append(new String(name.c_str()));
+    }
+  }
+};
+
+}  // namespace kesto
