@@ -46,6 +46,7 @@ bool unitOutOfDate(RcFiles& files, const std::vector<String>& scripts, const Str
   const Time header_time = modified(files, header);
   const Time implementation_time = modified(files, implementation);
   std::vector<Time> script_times;
+  script_times.reserve(scripts.size());
   for (const String& script : scripts) {
     script_times.push_back(modified(files, script));
   }

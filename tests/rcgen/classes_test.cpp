@@ -56,7 +56,7 @@ int count(const std::string& text, const std::string& wanted) {
 std::string many(int n, const std::string& before, const std::string& after) {
   std::string all;
   for (int i = 0; i < n; ++i) {
-    all += before + std::to_string(i) + after;
+    ((all += before) += std::to_string(i)) += after;
   }
   return all;
 }

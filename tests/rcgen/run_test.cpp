@@ -111,25 +111,25 @@ TEST_CASE("lines and numbers of a version resource") {
   using namespace std::string_literals;
   struct Row {
     std::string text;
-    std::int32_t build_number;
     std::string stamped;
+    std::int32_t build_number;
     std::int32_t next;
   };
   const std::string x(254, 'x');
   const Row rows[] = {
-      {"", 7, "", 7},
-      {"no line end", 7, "no line end\n", 7},
-      {"tab\t\n\t\nlone\r", 7, "tab\t\n\t\nlone\n", 7},
-      {"a\0b\nc\n"s, 7, "a\nc\n", 7},
-      {x + x + "y\n", 7, x + "\n" + x + "\ny\n", 7},
-      {x + "FILEVERSION 1,2,3,4", 7, x + "\nFILEVERSION 1, 2, 3, 7\n", 7},
-      {"FILEVERSION ", 7, "FILEVERSION 1, 0, 0, 8\n", 8},
-      {"FILEVERSION 1,2,3,2147483647", 7, "FILEVERSION 1, 2, 3, -2147483648\n",
+      {"", "", 7, 7},
+      {"no line end", "no line end\n", 7, 7},
+      {"tab\t\n\t\nlone\r", "tab\t\n\t\nlone\n", 7, 7},
+      {"a\0b\nc\n"s, "a\nc\n", 7, 7},
+      {x + x + "y\n", x + "\n" + x + "\ny\n", 7, 7},
+      {x + "FILEVERSION 1,2,3,4", x + "\nFILEVERSION 1, 2, 3, 7\n", 7, 7},
+      {"FILEVERSION ", "FILEVERSION 1, 0, 0, 8\n", 7, 8},
+      {"FILEVERSION 1,2,3,2147483647", "FILEVERSION 1, 2, 3, -2147483648\n", 7,
        std::numeric_limits<std::int32_t>::min()},
-      {"FILEVERSION 1,2,3,-5", -6, "FILEVERSION 1, 2, 3, -4\n", -4},
-      {"FILEVERSION 1,2,3,6", 6, "FILEVERSION 1, 2, 3, 7\n", 7},
-      {"FILEVERSION -,2,3,6", 6, "FILEVERSION 1, 0, 0, 7\n", 7},
-      {"FILEVERSION 3,-x", 6, "FILEVERSION 3, 0, 0, 7\n", 7},
+      {"FILEVERSION 1,2,3,-5", "FILEVERSION 1, 2, 3, -4\n", -6, -4},
+      {"FILEVERSION 1,2,3,6", "FILEVERSION 1, 2, 3, 7\n", 6, 7},
+      {"FILEVERSION -,2,3,6", "FILEVERSION 1, 0, 0, 7\n", 6, 7},
+      {"FILEVERSION 3,-x", "FILEVERSION 3, 0, 0, 7\n", 6, 7},
   };
   for (const Row& row : rows) {
     CAPTURE(row.text);
