@@ -31,7 +31,9 @@ constexpr INT_PTR kShellFailure = 32;
 class DiskFiles : public SiteFiles {
  public:
   bool read(const char* path, std::string& text) override { return readTextFile(path, text); }
-  bool makeDirectory(const char* path) override { return CreateDirectoryA(path, nullptr) != FALSE; }
+  bool makeDirectory(const char* path) override {
+    return CreateDirectoryA(path, nullptr) != FALSE || GetLastError() == ERROR_ALREADY_EXISTS;
+  }
   bool write(const char* path, std::string_view text) override { return writeTextFile(path, text); }
 };
 
