@@ -62,6 +62,12 @@ class PosixFiles : public RcFiles {
     }
     return readTextFile(nativePath(path).c_str(), text);
   }
+  bool append(const char* path, std::string_view text) override {
+    if (noting_) {
+      writes[nativePath(path)] += text;
+    }
+    return appendTextFile(nativePath(path).c_str(), text);
+  }
   bool write(const char* path, std::string_view text) override {
     if (noting_) {
       writes[nativePath(path)] = text;

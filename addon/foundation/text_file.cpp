@@ -14,26 +14,37 @@ struct CloseFile {
 using File = std::unique_ptr<FILE, CloseFile>;
 
 constexpr char kEndOfText = '\x1A';
-constexpr std::size_t kReadSize = 65536;
+
+bool writeWith(const char* mode, const char* path, std::string_view text) {
+  FILE* const file = fopen(path, mode);
+  if (file == nullptr) {
+    return false;
+  }
+  const bool written = fwrite(text.data(), 1, text.size(), file) == text.size();
+  return fclose(file) == 0 && written;
+}
 
 }  // namespace
 
 bool readTextFile(const char* path, std::string& text) {
   text.clear();
   const File file(fopen(path, "rb"));
-  if (file == nullptr) {
+  // A directory that opens has no such end.
+  if (file == nullptr || fseek(file.get(), 0, SEEK_END) != 0) {
     return false;
   }
-  std::size_t size = 0;
-  std::size_t got = 0;
-  do {
-    text.resize(size + kReadSize);
-    got = fread(text.data() + size, 1, kReadSize, file.get());
-    size += got;
-  } while (got == kReadSize);
-  text.resize(size);
+  const long size = ftell(file.get());
+  if (size < 0 || size > kTextFileLimit || fseek(file.get(), 0, SEEK_SET) != 0) {
+    return false;
+  }
+  text.resize(static_cast<std::size_t>(size));
+  text.resize(fread(text.data(), 1, text.size(), file.get()));
+  if (ferror(file.get()) != 0) {
+    text.clear();
+    return false;
+  }
   takeTextMode(text);
-  return ferror(file.get()) == 0;
+  return true;
 }
 
 void takeTextMode(std::string& bytes) {
@@ -54,12 +65,11 @@ void takeTextMode(std::string& bytes) {
 }
 
 bool writeTextFile(const char* path, std::string_view text) {
-  FILE* const file = fopen(path, "w");
-  if (file == nullptr) {
-    return false;
-  }
-  const bool written = fwrite(text.data(), 1, text.size(), file) == text.size();
-  return fclose(file) == 0 && written;
+  return writeWith("w", path, text);
+}
+
+bool appendTextFile(const char* path, std::string_view text) {
+  return writeWith("a", path, text);
 }
 
 bool TextLines::next(std::string_view& line) {

@@ -9,14 +9,19 @@
 
 namespace kesto {
 
-// Replaces text by the file's. False, and text empty, when it cannot be opened or is
-// a directory.
+// Bytes of a file that is read at most: a 32-bit process holds no two of them.
+inline constexpr long kTextFileLimit = 256L * 1024 * 1024;
+
+// Replaces text by the file's. False, and text empty, when it cannot be opened, is a
+// directory or is longer than the limit.
 bool readTextFile(const char* path, std::string& text);
 // What a file of these bytes holds as text.
 void takeTextMode(std::string& bytes);
 // Creates or overwrites the file; line feeds become the system's line ends. False when
 // the file cannot be created or written whole.
 bool writeTextFile(const char* path, std::string_view text);
+// The same, but goes on after what the file holds.
+bool appendTextFile(const char* path, std::string_view text);
 
 // The lines of a text, read through a buffer of limit bytes: at most limit - 1
 // characters at a time, the line feed among them; the next read goes on in a longer

@@ -53,41 +53,78 @@ bool unitOutOfDate(RcFiles& files, const std::vector<String>& scripts, const Str
   return isOutOfDate(header_time, implementation_time, script_times);
 }
 
-struct UnitTexts {
-  std::string header;
-  std::string implementation;
-};
+// The two files while they are made. A short script can ask for classes beyond any
+// memory, so that they are written piece by piece.
+class UnitOutput : private DialogDrain {
+ public:
+  UnitOutput(RcFiles& files, const ClassUnit& unit)
+      : files_(files),
+        header_{outputPath(unit, ".h"), {}},
+        implementation_{outputPath(unit, ".cpp"), {}} {}
 
-void readScripts(RcFiles& files, const std::vector<String>& scripts, UnitTexts& texts) {
-  const std::unique_ptr<RcReader> reader(new (std::nothrow) RcReader);
-  if (reader == nullptr) {
-    return;
+  void write(const std::vector<String>& scripts, std::string_view name) {
+    appendFormat(header_.text,
+                 "// Generated file : do not edit by hand\n#ifndef _rc%s_h_\n#define _rc%s_h_\n",
+                 {name, name});
+    appendFormat(implementation_.text,
+                 "// Generated file : do not edit by hand\n#include \"kesto.h\"\n"
+                 "#include \"rc%s.h\"\n",
+                 {name});
+    readScripts(scripts);
+    if (name.empty()) {
+      implementation_.text += "\nRCRCMAIN\n\n";
+    }
+    header_.text += "\n#endif\n";
+    flush();
   }
-  DialogEmitter emitter(texts.header, texts.implementation);
-  std::string script;
-  for (const String& path : scripts) {
-    if (files.read(path, script)) {
-      reader->read(script, emitter);
+
+ private:
+  struct Output {
+    String path;
+    std::string text;
+    bool created = false;
+  };
+
+  void readScripts(const std::vector<String>& scripts) {
+    const std::unique_ptr<RcReader> reader(new (std::nothrow) RcReader);
+    if (reader == nullptr) {
+      return;
+    }
+    DialogEmitter emitter(header_.text, implementation_.text, this);
+    std::string script;
+    for (const String& path : scripts) {
+      if (files_.read(path, script)) {
+        reader->read(script, emitter);
+      }
     }
   }
-}
 
-UnitTexts unitTexts(RcFiles& files, const std::vector<String>& scripts, std::string_view name) {
-  UnitTexts texts;
-  appendFormat(texts.header,
-               "// Generated file : do not edit by hand\n#ifndef _rc%s_h_\n#define _rc%s_h_\n",
-               {name, name});
-  appendFormat(texts.implementation,
-               "// Generated file : do not edit by hand\n#include \"kesto.h\"\n"
-               "#include \"rc%s.h\"\n",
-               {name});
-  readScripts(files, scripts, texts);
-  if (name.empty()) {
-    texts.implementation += "\nRCRCMAIN\n\n";
+  void dialogWritten() override {
+    if (header_.text.size() + implementation_.text.size() > kPiece) {
+      flush();
+    }
   }
-  texts.header += "\n#endif\n";
-  return texts;
-}
+
+  void flush() {
+    for (Output* output : {&header_, &implementation_}) {
+      if (!begun_) {
+        files_.remove(output->path);
+        output->created = files_.write(output->path, output->text);
+      } else if (output->created) {
+        files_.append(output->path, output->text);
+      }
+      output->text.clear();
+    }
+    begun_ = true;
+  }
+
+  static constexpr std::size_t kPiece = 1024UL * 1024;
+
+  RcFiles& files_;
+  Output header_;
+  Output implementation_;
+  bool begun_ = false;
+};
 
 }  // namespace
 
@@ -107,11 +144,7 @@ void updateClassUnit(RcFiles& files, const ClassUnit& unit) {
   if (!unitOutOfDate(files, scripts, header, implementation)) {
     return;
   }
-  const UnitTexts texts = unitTexts(files, scripts, unit.name.view());
-  files.remove(header);
-  files.write(header, texts.header);
-  files.remove(implementation);
-  files.write(implementation, texts.implementation);
+  UnitOutput(files, unit).write(scripts, unit.name.view());
 }
 
 }  // namespace kesto

@@ -70,6 +70,9 @@ void DialogEmitter::closeDialog(const RcDialog& dialog, Items items) {
   commandSwitch(dialog, items);
   notificationSwitch(dialog);
   header_ += "} ;\n";
+  if (drain_ != nullptr) {
+    drain_->dialogWritten();
+  }
 }
 
 void DialogEmitter::initialisation(const RcDialog& dialog) {

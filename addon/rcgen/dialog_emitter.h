@@ -15,10 +15,17 @@
 
 namespace kesto {
 
+// Told after each dialog: whoever holds the texts may empty them.
+class DialogDrain {
+ public:
+  virtual ~DialogDrain() = default;
+  virtual void dialogWritten() = 0;
+};
+
 class DialogEmitter {
  public:
-  DialogEmitter(std::string& header, std::string& implementation)
-      : header_(header), implementation_(implementation) {}
+  DialogEmitter(std::string& header, std::string& implementation, DialogDrain* drain = nullptr)
+      : header_(header), implementation_(implementation), drain_(drain) {}
 
   // Once a script, before its dialogs; also when it has no items.
   void menuMacros(std::span<const RcMenuItem> items);
@@ -35,6 +42,7 @@ class DialogEmitter {
 
   std::string& header_;
   std::string& implementation_;
+  DialogDrain* drain_;
 };
 
 // Appends the format with the arguments in the places of its "%s".

@@ -24,6 +24,8 @@ class RcFiles : public MaskLister {
   virtual bool read(const char* path, std::string& text) = 0;
   // Creates or overwrites the file, in text mode. False when it cannot.
   virtual bool write(const char* path, std::string_view text) = 0;
+  // Goes on after what the file holds.
+  virtual bool append(const char* path, std::string_view text) = 0;
   virtual void remove(const char* path) = 0;
   // Does nothing when there is a file of the new name.
   virtual void rename(const char* path, const char* new_path) = 0;

@@ -36,6 +36,10 @@ bool RcFilesWin::write(const char* path, std::string_view text) {
   return writeTextFile(path, text);
 }
 
+bool RcFilesWin::append(const char* path, std::string_view text) {
+  return appendTextFile(path, text);
+}
+
 void RcFilesWin::remove(const char* path) {
   DeleteFileA(path);
 }

@@ -13,6 +13,7 @@ class RcFilesWin : public RcFiles {
   std::optional<RcFileStatus> status(const char* path) override;
   bool read(const char* path, std::string& text) override;
   bool write(const char* path, std::string_view text) override;
+  bool append(const char* path, std::string_view text) override;
   void remove(const char* path) override;
   void rename(const char* path, const char* new_path) override;
 

@@ -87,7 +87,8 @@ void RcReader::readMenus(std::string_view script) {
 
 void RcReader::readMenuItem(std::string_view line, std::string_view menu) {
   const std::string_view identifier = rcCommaFields(line)[1];
-  const RcDefine* const define = findDefine(identifier);
+  // A line that defines nothing has an empty name; separators have no identifier.
+  const RcDefine* const define = identifier.empty() ? nullptr : findDefine(identifier);
   RcMenuItem* const item = define != nullptr ? menu_items_.add() : nullptr;
   if (item != nullptr) {
     item->member.assign(rcMemberName(identifier));

@@ -86,6 +86,15 @@ TEST_CASE("what cannot be read leaves no text") {
     CHECK(!readTextFile(path, text));
     CHECK(text.empty());
   }
+  const NamedFile file;
+  FILE* const too_long = fopen(NamedFile::path(), "wb");
+  REQUIRE(too_long != nullptr);
+  CHECK(fseek(too_long, kTextFileLimit, SEEK_SET) == 0);
+  putc('x', too_long);
+  fclose(too_long);
+  std::string text = "before";
+  CHECK(!readTextFile(NamedFile::path(), text));
+  CHECK(text.empty());
 }
 
 TEST_CASE("a text is written with the system's line ends and read back as it was") {

@@ -10,12 +10,12 @@ class Dialog {
  public:
   virtual ~Dialog() {}
   virtual int wmCommand(int, int) { return 0; }
-  virtual void wmNotify(NMHDR *) {}
+  virtual void wmNotify(NMHDR*) {}
   void End(int) {}
 };
 
 struct Control {
-  void Get(Dialog *, int) {}
+  void Get(Dialog*, int) {}
 };
 
 struct CheckBox : Control {};

@@ -58,6 +58,11 @@ class PlayedFiles : public RcFiles {
     }
     return !locked;
   }
+  bool append(const char* path, std::string_view text) override {
+    note("append", path);
+    files[path].text += text;
+    return true;
+  }
   void remove(const char* path) override {
     note("remove", path);
     files.erase(path);

@@ -16,6 +16,7 @@
 #include "addon/rcgen/version_stamp.h"
 #include "doctest.h"
 #include "tests/rcgen/played_files.h"
+#include "tests/rcgen/text_count.h"
 
 namespace kesto {
 
@@ -57,6 +58,36 @@ TEST_CASE("when a unit is out of date") {
   for (const Row& row : rows) {
     CHECK(isOutOfDate(row.header, row.implementation, row.scripts) == row.expected);
   }
+}
+
+// Every dialog has a stub for each item of the menu.
+TEST_CASE("classes longer than their scripts are written in pieces") {
+  std::string script = "#define IDM_ITEM 1\nM MENU\n{\n";
+  for (int i = 0; i < 255; ++i) {
+    script += "MENUITEM \"\", IDM_ITEM\n";
+  }
+  script += "}\n";
+  for (int i = 0; i < 60; ++i) {
+    script += "D DIALOG 1\nMENU M\n{\n}\n";
+  }
+  PlayedFiles files;
+  files.scripts["P"] = {"a.rc"};
+  files.put("P\\a.rc", script);
+  std::int32_t build_number = 0;
+  const std::string done = ran(files, kClasses, build_number);
+  CHECK(done.find(written("P\\rc") + "append P\\rc.h\nappend P\\rc.cpp\n") != std::string::npos);
+  const std::string& header = files.files["P\\rc.h"].text;
+  const std::string& implementation = files.files["P\\rc.cpp"].text;
+  CHECK(count(header, "class rcD : public Dialog\n") == 60);
+  CHECK(header.ends_with("} ;\n\n#endif\n"));
+  CHECK(count(implementation, "    case 1 : return(mnuITEM()) ;\n") == 60 * 255);
+  CHECK(implementation.ends_with("}\n\n\nRCRCMAIN\n\n"));
+
+  // What could not be created is not gone on with.
+  files.files.clear();
+  files.put("P\\a.rc", script);
+  files.locked = true;
+  CHECK(ran(files, kClasses, build_number).find("append") == std::string::npos);
 }
 
 TEST_CASE("units are made in order, each when something of its own changed") {
