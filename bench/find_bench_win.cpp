@@ -15,10 +15,10 @@
 #include <string>
 #include <vector>
 
+#include "addon/foundation/directory_listing.h"
 #include "addon/ide/access.h"
 #include "addon/ide/file_text.h"
 #include "addon/ide/unknown_imp.h"
-#include "addon/foundation/directory_listing.h"
 #include "addon/navigation/name_search.h"
 
 namespace kesto {

@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "addon/ide/file_text.h"
 #include "addon/foundation/directory_listing.h"
 #include "addon/foundation/directory_walk.h"
+#include "addon/ide/file_text.h"
 
 namespace kesto {
 namespace {

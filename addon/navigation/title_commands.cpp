@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "addon/foundation/directory_listing.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/editor_operations.h"
@@ -11,7 +12,6 @@
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/status_line.h"
-#include "addon/foundation/directory_listing.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/include_search.h"
 #include "addon/navigation/quick_find.h"

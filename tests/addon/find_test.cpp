@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "addon/foundation/directory_listing.h"
 #include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
-#include "addon/foundation/directory_listing.h"
 #include "addon/navigation/name_search.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
