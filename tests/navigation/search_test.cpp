@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "addon/foundation/directory_walk.h"
 #include "addon/foundation/path.h"
 #include "addon/navigation/cross_header.h"
-#include "addon/foundation/directory_walk.h"
 #include "addon/navigation/prompt_history.h"
 #include "addon/navigation/quick_resu.h"
 #include "addon/navigation/search_plan.h"

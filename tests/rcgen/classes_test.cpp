@@ -11,8 +11,8 @@
 #include "addon/rcgen/rc_fields.h"
 #include "addon/rcgen/rc_reader.h"
 #include "doctest.h"
-#include "tests/rcgen/text_count.h"
 #include "tests/rcgen/played_files.h"
+#include "tests/rcgen/text_count.h"
 
 namespace kesto {
 
