@@ -251,7 +251,12 @@ bool Application::readOption(const std::string& name, std::string* bytes) {
 }
 
 bool Application::writeOption(const std::string& name, const std::string& bytes) {
-  return project_.commitOption(project_.prepareOption(name, bytes));
+  if (!project_.commitOption(project_.prepareOption(name, bytes))) {
+    return false;
+  }
+  // Add-ons read their options as a project opens, and write what they hold as it is saved.
+  root_.project().announceOpened();
+  return true;
 }
 
 }  // namespace workbench
