@@ -120,8 +120,11 @@ std::string scriptText(int number) {
             "STYLE DS_MODALFRAME | WS_POPUP | WS_CAPTION\nMENU MENU" + stem +
             "\nFONT 8, \"MS Sans Serif\"\n{\n";
     for (int i = 0; i < 30; ++i) {
-      text += " CONTROL \"A text, of it\", IDC_FIELD" + std::to_string((i * 7 + dialog) % 60) +
-              ", " + kControls[i % 5] + ", 10, 10, 80, 12\n";
+      text += " CONTROL \"A text, of it\", IDC_FIELD";
+      text += std::to_string((i * 7 + dialog) % 60);
+      text += ", ";
+      text += kControls[i % 5];
+      text += ", 10, 10, 80, 12\n";
     }
     text += " CONTROL \"OK\", IDOK, \"button\", BS_DEFPUSHBUTTON, 10, 80, 40, 14\n}\n";
   }
@@ -236,6 +239,7 @@ int measure(const std::string& directory) {
   printf("second-reads %zu\nsecond-writes %zu\n", files.reads.size(), files.writes.size());
   files.setNoting(false);
   std::vector<double> times;
+  times.reserve(kRounds);
   for (int i = 0; i < kRounds; ++i) {
     times.push_back(timeOf([&] { runGenerator(files, directory, kClasses, build_number); }));
   }

@@ -69,8 +69,9 @@ class SourceMaker {
   }
 
   std::string name() {
-    static const char* const kParts[] = {"Account", "total",  "Frame", "count", "paint", "window",
-                                         "Line",    "buffer", "find",  "Index", "size",  "open"};
+    static constexpr const char* kParts[] = {"Account", "total",  "Frame", "count",
+                                             "paint",   "window", "Line",  "buffer",
+                                             "find",    "Index",  "size",  "open"};
     std::string all = kParts[dice_(std::size(kParts))];
     for (unsigned more = dice_(3); more > 0; --more) {
       all += kParts[dice_(std::size(kParts))];
@@ -79,7 +80,8 @@ class SourceMaker {
   }
 
   void function() {
-    static const char* const kTypes[] = {"int ", "void ", "static long ", "const char *", "BOOL "};
+    static constexpr const char* kTypes[] = {"int ", "void ", "static long ", "const char *",
+                                             "BOOL "};
     line({});
     if (dice_(2) == 0) {
       line({"// Keeps the ", name(), " in step with the ", name(), "."});
