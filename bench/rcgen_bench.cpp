@@ -116,9 +116,13 @@ std::string scriptText(int number) {
   }
   text += " }\n}\n";
   for (int dialog = 0; dialog < kDialogsOfScript; ++dialog) {
-    text += "\nDLG" + stem + "X" + std::to_string(dialog) + " DIALOG 0, 0, 200, 100\n" +
-            "STYLE DS_MODALFRAME | WS_POPUP | WS_CAPTION\nMENU MENU" + stem +
-            "\nFONT 8, \"MS Sans Serif\"\n{\n";
+    text += "\nDLG";
+    text += stem;
+    text += 'X';
+    text += std::to_string(dialog);
+    text += " DIALOG 0, 0, 200, 100\nSTYLE DS_MODALFRAME | WS_POPUP | WS_CAPTION\nMENU MENU";
+    text += stem;
+    text += "\nFONT 8, \"MS Sans Serif\"\n{\n";
     for (int i = 0; i < 30; ++i) {
       text += " CONTROL \"A text, of it\", IDC_FIELD";
       text += std::to_string((i * 7 + dialog) % 60);
