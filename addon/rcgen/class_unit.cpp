@@ -9,6 +9,7 @@
 #include "addon/foundation/path.h"
 #include "addon/rcgen/dialog_emitter.h"
 #include "addon/rcgen/rc_reader.h"
+#include "addon/rcgen/text_format.h"
 
 namespace kesto {
 
@@ -65,11 +66,11 @@ class UnitOutput : private DialogDrain {
   void write(const std::vector<String>& scripts, std::string_view name) {
     appendFormat(header_.text,
                  "// Generated file : do not edit by hand\n#ifndef _rc%s_h_\n#define _rc%s_h_\n",
-                 {name, name});
+                 name, name);
     appendFormat(implementation_.text,
                  "// Generated file : do not edit by hand\n#include \"kesto.h\"\n"
                  "#include \"rc%s.h\"\n",
-                 {name});
+                 name);
     readScripts(scripts);
     if (name.empty()) {
       implementation_.text += "\nRCRCMAIN\n\n";

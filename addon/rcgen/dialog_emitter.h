@@ -6,7 +6,6 @@
 // classes of the controls with Get, and RCRCMAIN.
 #pragma once
 
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -44,9 +43,5 @@ class DialogEmitter {
   std::string& implementation_;
   DialogDrain* drain_;
 };
-
-// Appends the format with the arguments in the places of its "%s".
-void appendFormat(std::string& text, std::string_view format,
-                  std::initializer_list<std::string_view> arguments);
 
 }  // namespace kesto

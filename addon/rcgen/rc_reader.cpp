@@ -33,16 +33,21 @@ bool isNoName(std::string_view identifier) {
 }  // namespace
 
 void RcReader::read(std::string_view script, DialogEmitter& emitter) {
-  readDefines(script);
-  readMenus(script);
-  emitter.menuMacros(menu_items_.entries());
-  readDialogs(script, emitter);
-}
-
-void RcReader::readDefines(std::string_view script) {
-  defines_.clear();
+  lines_.clear();
   TextLines lines(script, kLineBuffer);
   for (std::string_view line; lines.next(line);) {
+    lines_.push_back(withoutLineEnd(line));
+  }
+  readDefines();
+  readMenus();
+  emitter.menuMacros(menu_items_.entries());
+  readDialogs(emitter);
+}
+
+void RcReader::readDefines() {
+  defines_.clear();
+  defines_by_name_.clear();
+  for (const std::string_view line : lines_) {
     if (!line.starts_with(kDefine)) {
       continue;
     }
@@ -53,25 +58,20 @@ void RcReader::readDefines(std::string_view script) {
     const RcToken name = rcToken(line, kDefineName);
     define->name.assign(name.text);
     define->value.assign(rcToken(line, name.end).text);
+    defines_by_name_.emplace(define->name.view(), define);
   }
 }
 
 const RcDefine* RcReader::findDefine(std::string_view name) const {
-  for (const RcDefine& define : defines_.entries()) {
-    if (define.name.view() == name) {
-      return &define;
-    }
-  }
-  return nullptr;
+  const auto found = defines_by_name_.find(name);
+  return found != defines_by_name_.end() ? found->second : nullptr;
 }
 
-void RcReader::readMenus(std::string_view script) {
+void RcReader::readMenus() {
   menu_items_.clear();
   bool inside = false;
   std::string_view menu;
-  TextLines lines(script, kLineBuffer);
-  for (std::string_view line; lines.next(line);) {
-    line = withoutLineEnd(line);
+  for (const std::string_view line : lines_) {
     if (!inside) {
       inside = holdsAfterBlank(line, "MENU");
       if (inside) {
@@ -97,11 +97,9 @@ void RcReader::readMenuItem(std::string_view line, std::string_view menu) {
   }
 }
 
-void RcReader::readDialogs(std::string_view script, DialogEmitter& emitter) {
+void RcReader::readDialogs(DialogEmitter& emitter) {
   bool inside = false;
-  TextLines lines(script, kLineBuffer);
-  for (std::string_view line; lines.next(line);) {
-    line = withoutLineEnd(line);
+  for (const std::string_view line : lines_) {
     if (!inside) {
       inside = openDialog(line, emitter);
     } else if (!readDialogLine(line)) {

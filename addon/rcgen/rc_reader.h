@@ -5,6 +5,8 @@
 #pragma once
 
 #include <string_view>
+#include <unordered_map>
+#include <vector>
 
 #include "addon/rcgen/dialog_emitter.h"
 #include "addon/rcgen/rc_tables.h"
@@ -17,9 +19,9 @@ class RcReader {
   void read(std::string_view script, DialogEmitter& emitter);
 
  private:
-  void readDefines(std::string_view script);
-  void readMenus(std::string_view script);
-  void readDialogs(std::string_view script, DialogEmitter& emitter);
+  void readDefines();
+  void readMenus();
+  void readDialogs(DialogEmitter& emitter);
   void readMenuItem(std::string_view line, std::string_view menu);
   void readControl(std::string_view line);
   // False: a line of the dialog that ends it.
@@ -29,7 +31,9 @@ class RcReader {
   // The first of that name; null when there is none.
   const RcDefine* findDefine(std::string_view name) const;
 
+  std::vector<std::string_view> lines_;  // of the script, without their ends
   RcTable<RcDefine> defines_;
+  std::unordered_map<std::string_view, const RcDefine*> defines_by_name_;  // the first of each
   RcTable<RcMenuItem> menu_items_;
   RcDialog dialog_;
 };
