@@ -43,10 +43,6 @@ std::string projectName() {
   return name;
 }
 
-bool isRunning(HANDLE thread) {
-  return thread != nullptr && WaitForSingleObject(thread, 0) == WAIT_TIMEOUT;
-}
-
 }  // namespace
 
 DocumentationRun::~DocumentationRun() {
@@ -71,7 +67,9 @@ void DocumentationRun::generate() {
   if (!isProjectOpen() || htmlSettings == nullptr) {
     return;
   }
-  if (runningGenerations > 0 || isRunning(thread_)) {
+  // A thread that has not come to counting itself runs as well.
+  const bool ended = phase_ == Phase::kDone || phase_ == Phase::kStopped;
+  if (runningGenerations > 0 || (thread_ != nullptr && !ended)) {
     showMessage(nullptr, "HTML generation in progress", "Warning", kMessageOk);
     return;
   }
