@@ -64,9 +64,9 @@ bool SourceReader::readHeader(std::string_view line) {
   } else if (isMethodComment(line)) {
     return beginMethodComment(line);
   } else if (isMacroComment(line)) {
-    beginMacroComment(line);
+    beginSymbolComment(line.substr(kMacroComment.size()), &htProjet::findOrAddMacro);
   } else if (isFunctionComment(line)) {
-    beginFunctionComment(line);
+    beginSymbolComment(line.substr(kEntryComment.size()), &htProjet::findOrAddFunction);
   } else if (line == kFileComment) {
     begin(State::kComment, file_, &htSymbol::documentation);
   }
@@ -123,18 +123,9 @@ bool SourceReader::beginMethodComment(std::string_view line) {
   return true;
 }
 
-void SourceReader::beginMacroComment(std::string_view line) {
-  line.remove_prefix(kMacroComment.size());
+void SourceReader::beginSymbolComment(std::string_view line, FindOrAdd find_or_add) {
   const std::string_view name = leadingIdentifier(line);
-  htSymbol& entry = projet_.findOrAddMacro(name, file_, EntryKind::kDocumentation);
-  entry.brief = line.substr(name.size());
-  begin(State::kComment, entry, &htSymbol::documentation);
-}
-
-void SourceReader::beginFunctionComment(std::string_view line) {
-  line.remove_prefix(kEntryComment.size());
-  const std::string_view name = leadingIdentifier(line);
-  htSymbol& entry = projet_.findOrAddFunction(name, file_, EntryKind::kDocumentation);
+  htSymbol& entry = (projet_.*find_or_add)(name, file_, EntryKind::kDocumentation);
   entry.brief = line.substr(name.size());
   begin(State::kComment, entry, &htSymbol::documentation);
 }

@@ -18,6 +18,8 @@ class SourceReader {
   bool read(std::string_view text);
 
  private:
+  using FindOrAdd = htSymbol& (htProjet::*)(std::string_view name, htFile& in, EntryKind kind);
+
   enum class State { kIdle, kComment, kClassBody, kMacro };
 
   bool readLine(std::string_view line);
@@ -28,8 +30,8 @@ class SourceReader {
 
   void beginClassComment(std::string_view line);
   bool beginMethodComment(std::string_view line);
-  void beginMacroComment(std::string_view line);
-  void beginFunctionComment(std::string_view line);
+  // The line from the name of a macro or function on.
+  void beginSymbolComment(std::string_view line, FindOrAdd find_or_add);
   bool beginClassBody(std::string_view line);
   bool addFunction(std::string_view line);
   bool addMethod(std::string_view line);
