@@ -127,6 +127,9 @@ void actOnMakeStart() {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeStarted();
   }
+}
+
+void generateFromResources() {
   if (rcGenerator != nullptr) {
     rcGenerator->run(projectDirectory());
   }
@@ -145,7 +148,7 @@ void generateAfterMake(int result) {
   }
 }
 
-constexpr MakeStep kMakeStarted[] = {actOnMakeStart};
+constexpr MakeStep kMakeStarted[] = {actOnMakeStart, generateFromResources};
 constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace

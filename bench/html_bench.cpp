@@ -27,9 +27,7 @@ class NativeFiles : public SiteFiles {
   bool read(const char* path, std::string& text) override {
     return readTextFile(nativePath(path).c_str(), text);
   }
-  bool makeDirectory(const char* path) override {
-    return mkdir(nativePath(path).c_str(), 0777) == 0;
-  }
+  void makeDirectory(const char* path) override { mkdir(nativePath(path).c_str(), 0777); }
   bool write(const char* path, std::string_view text) override {
     return writeTextFile(nativePath(path).c_str(), text);
   }

@@ -49,10 +49,7 @@ class PlayedProject : public MaskLister, public SiteFiles, public SiteProgress {
     }
     return false;
   }
-  bool makeDirectory(const char* path) override {
-    FUZZ_CHECK(kSite.starts_with(path));
-    return true;
-  }
+  void makeDirectory(const char* path) override { FUZZ_CHECK(kSite.starts_with(path)); }
   bool write(const char* path, std::string_view text) override {
     const std::string_view name(path);
     FUZZ_CHECK(name.starts_with(kSite) && name.ends_with(".html"));

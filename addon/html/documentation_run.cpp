@@ -31,9 +31,7 @@ constexpr INT_PTR kShellFailure = 32;
 class DiskFiles : public SiteFiles {
  public:
   bool read(const char* path, std::string& text) override { return readTextFile(path, text); }
-  bool makeDirectory(const char* path) override {
-    return CreateDirectoryA(path, nullptr) != FALSE || GetLastError() == ERROR_ALREADY_EXISTS;
-  }
+  void makeDirectory(const char* path) override { CreateDirectoryA(path, nullptr); }
   bool write(const char* path, std::string_view text) override { return writeTextFile(path, text); }
 };
 
@@ -150,7 +148,7 @@ void DocumentationRun::show() {
     return;
   }
   const std::string directory = siteDirectory(projectDirectory());
-  const std::string page = directory + "\\Documentation " + projectName() + ".html";
+  const std::string page = siteStartPage(projectDirectory(), projectName());
   const HINSTANCE result = ShellExecuteA(GetActiveWindow(), "open", page.c_str(), nullptr,
                                          directory.c_str(), SW_SHOWMAXIMIZED);
   if (reinterpret_cast<INT_PTR>(result) <= kShellFailure) {

@@ -10,9 +10,7 @@ namespace {
 
 constexpr char kMark = '\xA7';  // the paragraph sign
 
-constexpr std::string_view kClassLink = "<a href =\"Class ";
-constexpr std::string_view kMacroLink = "<a href =\"Define ";
-constexpr std::string_view kFunctionLink = "<a href =\"Fnc ";
+constexpr std::string_view kFirstOfName = " 0.html\" target=\"space\">";
 
 constexpr std::string_view kKeywords[] = {
     "public", "private",  "protected", "virtual",  "static",   "friend",
@@ -66,15 +64,7 @@ class TextRuns {
     return taken;
   }
 
-  void word(std::string_view taken) {
-    const std::string_view link = links_.find(taken, entry_);
-    if (link.empty()) {
-      page_ += taken;
-    } else {
-      append(page_,
-             {link, taken, WordLinks::afterWord(link), ".html\" target=\"space\">", taken, "</a>"});
-    }
-  }
+  void word(std::string_view taken) { links_.appendWord(page_, taken, entry_); }
 
   // What follows a mark: another one, for the return value, or the name of a parameter.
   void marked(ProseForm form) {
@@ -161,22 +151,19 @@ void WordLinks::add(const Table& entries, Sort sort) {
   }
 }
 
-std::string_view WordLinks::find(std::string_view word, const htSymbol* entry) const {
+void WordLinks::appendWord(std::string& page, std::string_view word, const htSymbol* entry) const {
   const auto found = named_.find(word);
-  if (found == named_.end() || word.empty()) {
-    return {};
+  const Named named = found != named_.end() && !word.empty() ? found->second : Named();
+  const auto leads = [entry](const htSymbol* to) { return to != nullptr && to != entry; };
+  if (leads(named.of_class)) {
+    append(page, {"<a href =\"Class ", word, ".html\" target=\"space\">", word, "</a>"});
+  } else if (leads(named.of_macro)) {
+    append(page, {"<a href =\"Define ", word, kFirstOfName, word, "</a>"});
+  } else if (leads(named.of_function)) {
+    append(page, {"<a href =\"Fnc ", word, kFirstOfName, word, "</a>"});
+  } else {
+    page += word;
   }
-  const auto leads = [entry](const htSymbol* named) { return named != nullptr && named != entry; };
-  const Named& named = found->second;
-  return leads(named.of_class)      ? kClassLink
-         : leads(named.of_macro)    ? kMacroLink
-         : leads(named.of_function) ? kFunctionLink
-                                    : std::string_view();
-}
-
-// A word leads to the first entry of its name.
-std::string_view WordLinks::afterWord(std::string_view link) {
-  return link == kClassLink ? "" : " 0";
 }
 
 void appendProse(std::string& page, std::string_view text, const WordLinks& links,

@@ -18,12 +18,9 @@ class WordLinks {
  public:
   explicit WordLinks(const htProjet& projet);
 
-  // The start of a link to the page of the word, up to the word in the page's name;
-  // empty when the word names nothing but the entry. Classes come before macros, macros
-  // before functions; of one name the first is meant.
-  std::string_view find(std::string_view word, const htSymbol* entry) const;
-  // What follows the word in the page's name.
-  static std::string_view afterWord(std::string_view link);
+  // Appends the word: as a link, if it names something besides the entry. Classes come
+  // before macros, macros before functions; of one name the first is meant.
+  void appendWord(std::string& page, std::string_view word, const htSymbol* entry) const;
 
  private:
   struct Named {

@@ -69,6 +69,12 @@ std::string siteDirectory(std::string_view directory) {
   return path;
 }
 
+std::string siteStartPage(std::string_view directory, std::string_view project_name) {
+  std::string path = siteDirectory(directory);
+  append(path, {"\\", kFramesetPage, project_name, kPageExtension});
+  return path;
+}
+
 bool generateSite(const SiteRequest& request, MaskLister& lister, SiteFiles& files,
                   SiteProgress& progress) {
   htProjet projet(request.directory, request.filters, request.project_name);

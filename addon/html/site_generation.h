@@ -22,8 +22,8 @@ class SiteFiles {
   virtual ~SiteFiles() = default;
   // Replaces text by the file's; false when it cannot be opened.
   virtual bool read(const char* path, std::string& text) = 0;
-  // False when there is no such directory afterwards.
-  virtual bool makeDirectory(const char* path) = 0;
+  // Leaves one that is there as it is. Where none can be made, no page can be written.
+  virtual void makeDirectory(const char* path) = 0;
   // Creates or overwrites; false when the file cannot be written.
   virtual bool write(const char* path, std::string_view text) = 0;
 };
@@ -37,6 +37,8 @@ class SiteProgress {
 
 // The directory of the site of a project in this directory.
 std::string siteDirectory(std::string_view directory);
+// The full path of the page that shows the site.
+std::string siteStartPage(std::string_view directory, std::string_view project_name);
 
 // Reads the sources and writes every page. Files that cannot be read and pages that
 // cannot be written are left out; false only after a failed internal check, which was

@@ -87,7 +87,7 @@ void appendFileLink(std::string& text, std::string_view file) {
 
 void SitePages::frameset(Page& page) const {
   const std::string_view name = projet_.name.view();
-  beginPage(page, {"Documentation ", name});
+  beginPage(page, {kFramesetPage, name});
   append(page.text, {"<frameset rows=\"44,*\">\n",                                     //
                      "<frame src=\"", name, " Title.html\" noresize scrolling=no>\n",  //
                      "<frameset cols=\"120,150,*\">\n",                                //

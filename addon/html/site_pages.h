@@ -9,6 +9,10 @@
 
 namespace kesto {
 
+// What the name of the page of the frames starts with; the project's name follows.
+inline constexpr std::string_view kFramesetPage = "Documentation ";
+inline constexpr std::string_view kPageExtension = ".html";
+
 // A page is used for one after the other: each begins by emptying it.
 struct Page {
   std::string name;  // of its file, without ".html"

@@ -60,7 +60,7 @@ bool SiteWriter::writeSymbols(const Ensemble<htSymbol>& symbols) {
 void SiteWriter::writePage() {
   if (isFileName(page_.name)) {
     path_ = directory_;
-    append(path_, {"\\", page_.name, ".html"});
+    append(path_, {"\\", page_.name, kPageExtension});
     files_.write(path_.c_str(), page_.text);
   }
   ++written_;

@@ -49,10 +49,7 @@ class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
     }
     return false;
   }
-  bool makeDirectory(const char* path) override {
-    made = path;
-    return true;
-  }
+  void makeDirectory(const char* path) override { made = path; }
   bool write(const char* path, std::string_view text) override {
     if (!unwritable.empty() && std::string_view(path).find(unwritable) != std::string_view::npos) {
       return false;
