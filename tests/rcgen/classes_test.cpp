@@ -104,6 +104,43 @@ TEST_CASE("fields of a line") {
   }
 }
 
+TEST_CASE("the framework's classes") {
+  const struct {
+    const char *lower, *upper, *framework_class;
+  } rows[] = {
+      {"button", "BUTTON", "Control"},
+      {"edit", "EDIT", "Edit"},
+      {"listbox", "LISTBOX", "List"},
+      {"combobox", "COMBOBOX", "ComboBox"},
+      {"SysListView32", "SYSLISTVIEW32", "ListView"},
+      {"msctls_statusbar32", "MSCTLS_STATUSBAR32", "StatusBar"},
+      {"ToolbarWindow32", "TOOLBARWINDOW32", "ToolBar"},
+      {"msctls_progress32", "MSCTLS_PROGRESS32", "Progress"},
+      {"msctls_trackbar32", "MSCTLS_TRACKBAR32", "TrackBar"},
+      {"SysTabControl32", "SYSTABCONTROL32", "TabControl"},
+      {"SysTreeView32", "SYSTREEVIEW32", "TreeView"},
+      {"static", "syslistview32", ""},
+      {"Button", "scrollbar", ""},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.lower);
+    CHECK(rcFrameworkClass(row.lower, "0") == row.framework_class);
+    CHECK(rcFrameworkClass(row.upper, "0") == row.framework_class);
+  }
+  const struct {
+    const char *style, *framework_class;
+  } styles[] = {
+      {"BS_3STATE", "CheckBox"},       {"BS_AUTO3STATE", "CheckBox"},
+      {"BS_CHECKBOX | 1", "CheckBox"}, {"1 | BS_AUTOCHECKBOX", "CheckBox"},
+      {"BS_RADIOBUTTON", "Radio"},     {"BS_AUTORADIOBUTTON", "Radio"},
+      {"BS_PUSHBUTTON", "Control"},    {"BS_RADIOBUTTON | BS_3STATE", "CheckBox"},
+  };
+  for (const auto& row : styles) {
+    CAPTURE(row.style);
+    CHECK(rcFrameworkClass("BUTTON", row.style) == row.framework_class);
+  }
+}
+
 TEST_CASE("language variants") {
   for (const char* name : {"MAIN_1033", "A_1036", "A_xx1x", "__xx0\xE9"}) {
     CAPTURE(name);

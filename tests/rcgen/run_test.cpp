@@ -159,6 +159,7 @@ TEST_CASE("lines and numbers of a version resource") {
        std::numeric_limits<std::int32_t>::min()},
       {"FILEVERSION 1,2,3,-5", "FILEVERSION 1, 2, 3, -4\n", -6, -4},
       {"FILEVERSION 1,2,3,6", "FILEVERSION 1, 2, 3, 7\n", 6, 7},
+      {"FILEVERSION \t3,\t4, \t5,\t6", "FILEVERSION 3, 4, 5, 7\n", 6, 7},
       {"FILEVERSION -,2,3,6", "FILEVERSION 1, 0, 0, 7\n", 6, 7},
       {"FILEVERSION 3,-x", "FILEVERSION 3, 0, 0, 7\n", 6, 7},
   };

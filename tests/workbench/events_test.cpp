@@ -61,7 +61,8 @@ TEST_CASE("A JSON string is escaped") {
       {"", R"("")"},
       {R"(C:\a "b")", R"("C:\\a \"b\"")"},
       {"a\tb\r\n\b\f", R"("a\tb\r\n\b\f")"},
-      {std::string("\0\x1F\x7F", 3), R"("\u0000\u001f\u007f")"},
+      {std::string("\0\1\x0B\x10\x1A\x1F\x7F", 7),
+       R"("\u0000\u0001\u000b\u0010\u001a\u001f\u007f")"},
       {"a/\xE9", "\"a/\xC3\xA9\""},
   };
   for (const auto& row : rows) {

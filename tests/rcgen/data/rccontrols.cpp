@@ -5,6 +5,7 @@ void rcFIND_10A3::rcInit()
 {
   OK.Get(this, IDOK) ;
   CANCEL.Get(this, IDCANCEL) ;
+  HELP.Get(this, IDHELP) ;
   NAME.Get(this, 101) ;
   CM_CHECK.Get(this, 103) ;
   IDC_.Get(this, 104) ;
@@ -27,6 +28,12 @@ int rcFIND_10A3::cmdOK(int notify)
 int rcFIND_10A3::cmdCANCEL(int notify)
 {
   End(0) ;
+  return(0) ;
+}
+
+#pragma argsused
+int rcFIND_10A3::cmdHELP(int notify)
+{
   return(0) ;
 }
 
@@ -61,6 +68,7 @@ int rcFIND_10A3::wmCommand(int id, int notify)
   {
     case IDOK : return(cmdOK(notify)) ;
     case IDCANCEL : return(cmdCANCEL(notify)) ;
+    case IDHELP : return(cmdHELP(notify)) ;
     case 101 : return(cmdNAME(notify)) ;
     case 103 : return(cmdCM_CHECK(notify)) ;
     case 104 : return(cmdIDC_(notify)) ;

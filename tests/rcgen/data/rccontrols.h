@@ -14,6 +14,7 @@ class rcFIND_10A3 : public Dialog
   public :
     Control OK ;
     Control CANCEL ;
+    Control HELP ;
     Edit NAME ;
     CheckBox CM_CHECK ;
     Radio IDC_ ;
@@ -23,6 +24,7 @@ class rcFIND_10A3 : public Dialog
     char *Name() ;
     virtual int cmdOK(int notify) ;
     virtual int cmdCANCEL(int notify) ;
+    virtual int cmdHELP(int notify) ;
     virtual int cmdNAME(int notify) ;
     virtual int cmdCM_CHECK(int notify) ;
     virtual int cmdIDC_(int notify) ;

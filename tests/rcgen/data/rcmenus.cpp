@@ -7,10 +7,6 @@ void rcPAGES::rcInit()
   TREE.Get(this, 201) ;
   LIST.Get(this, 202) ;
   BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
 }
 
 char *rcPAGES::Name()
@@ -42,30 +38,6 @@ int rcPAGES::cmdBAR(int notify)
   return(0) ;
 }
 
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
-  return(0) ;
-}
-
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
-  return(0) ;
-}
-
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
-  return(0) ;
-}
-
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
-  return(0) ;
-}
-
 int rcPAGES::mnuOPEN()
 {
   return(0) ;
@@ -81,10 +53,6 @@ int rcPAGES::wmCommand(int id, int notify)
 {
   switch (id)
   {
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
     case 203 : return(cmdBAR(notify)) ;
     case 10 : return(mnuOPEN()) ;
     case 11 : return(mnuCM_EXIT()) ;

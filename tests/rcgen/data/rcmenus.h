@@ -43,20 +43,12 @@ class rcPAGES : public Dialog
     TreeView TREE ;
     ListView LIST ;
     StatusBar BAR ;
-    ToolBar BAR ;
-    Progress BAR ;
-    TrackBar BAR ;
-    ComboBox BAR ;
   public :
     void rcInit() ;
     char *Name() ;
     virtual int cmdTAB(NMHDR *ndr) ;
     virtual int cmdTREE(NMHDR *ndr) ;
     virtual int cmdLIST(NMHDR *ndr) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
     virtual int cmdBAR(int notify) ;
     virtual int mnuOPEN() ;
     virtual int mnuCM_EXIT() ;
