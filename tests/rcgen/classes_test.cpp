@@ -1,9 +1,5 @@
 // The classes made of resource scripts. data/NAME.rc is the only script of a unit NAME,
-// whose files must be data/rcNAME.h and data/rcNAME.cpp. What differs is left beside the
-// program as FILE.actual.
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+// whose files must be data/rcNAME.h and data/rcNAME.cpp.
 #include <memory>
 #include <string>
 
@@ -11,6 +7,7 @@
 #include "addon/rcgen/rc_fields.h"
 #include "addon/rcgen/rc_reader.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/rcgen/played_files.h"
 #include "tests/rcgen/text_count.h"
 
@@ -19,20 +16,6 @@ namespace kesto {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-void checkFile(const fs::path& expected, const std::string& actual) {
-  CHECK(fs::exists(expected));
-  const bool same = actual == contents(expected);
-  CHECK(same);
-  if (!same) {
-    std::ofstream(expected.filename().string() + ".actual", std::ios::binary) << actual;
-  }
-}
 
 struct Texts {
   std::string header;
@@ -67,11 +50,11 @@ TEST_CASE("each unit's files are those written out for it") {
     CAPTURE(unit);
     PlayedFiles files;
     files.scripts["P"] = {path.filename().string()};
-    files.put("P\\" + unit + ".rc", contents(path));
+    files.put("P\\" + unit + ".rc", tests::contents(path));
     updateClassUnit(files, {"P", String(unit.c_str())});
     for (const char* extension : {".h", ".cpp"}) {
       const std::string name = "rc" + unit + extension;
-      checkFile(path.parent_path() / name, files.files["P\\" + name].text);
+      tests::checkFile(path.parent_path() / name, files.files["P\\" + name].text);
     }
     ++cases;
   }
