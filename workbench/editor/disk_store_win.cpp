@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "workbench/app/handles.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 namespace {
