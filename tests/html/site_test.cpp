@@ -89,6 +89,25 @@ TEST_CASE("a page that cannot be written is left out, and none leaves the direct
   CHECK(site.last_written == 12);
 }
 
+TEST_CASE("a class without documentation says so unless its methods speak for it") {
+  const struct {
+    bool documented, has_method, says_so;
+  } cases[] = {{false, false, true}, {false, true, false}, {true, true, false}};
+  for (const auto& c : cases) {
+    CAPTURE(c.documented);
+    CAPTURE(c.has_method);
+    htProjet projet("C:\\P", "*.h", "P");
+    htClass& shown = projet.findOrAddClass("Stack", projet.addFile("C:\\P\\a.h"));
+    shown.documentation = c.documented ? "x\n" : "";
+    if (c.has_method) {
+      projet.findOrAddMethod(shown, "push", EntryKind::kAny).documentation = "y\n";
+    }
+    Page page;
+    SitePages(projet).classPage(page, shown);
+    CHECK((page.text.find("Pas de documentation") != std::string::npos) == c.says_so);
+  }
+}
+
 TEST_CASE("a page for what the project does not have fails its check") {
   htProjet projet("C:\\P", "*.h", "P");
   htFile& file = projet.addFile("C:\\P\\a.h");
