@@ -154,4 +154,9 @@ TEST_CASE("recipients, and counts that no project has") {
     delivery.readGroups(store);
     CHECK(delivery.groups.size() == kept);
   }
+  Store uncounted;
+  uncounted.plantText("Kesto_MAIL_PJ_0", "+anna");
+  kesto::MailProjectOptions mail;
+  mail.read(uncounted);
+  CHECK(mail.recipients.empty());
 }
