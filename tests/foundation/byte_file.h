@@ -12,7 +12,7 @@ namespace kesto {
 class ByteFile {
  public:
   explicit ByteFile(const std::string& bytes = {})
-      : name_("bytes" + std::to_string(made_++) + ".tmp"), file_(fopen(name_.c_str(), "w+b")) {
+      : name_("bytes" + std::to_string(made++) + ".tmp"), file_(fopen(name_.c_str(), "w+b")) {
     REQUIRE(file_ != nullptr);
     fwrite(bytes.data(), 1, bytes.size(), file_);
     rewind(file_);
@@ -35,7 +35,7 @@ class ByteFile {
   }
 
  private:
-  inline static int made_ = 0;
+  inline static int made = 0;
   std::string name_;
   FILE* file_;
 };
