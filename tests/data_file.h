@@ -16,13 +16,12 @@ inline std::string contents(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-// What differs is left in the build folder, under the expected file's name and ".actual".
+// What differs is left in the build tree as test-output/FILE.actual.
 inline void checkFile(const std::filesystem::path& expected, const std::string& actual) {
   const bool same = actual == contents(expected);
   CHECK(same);
   if (!same) {
-    const std::string name = expected.filename().string() + ".actual";
-    std::ofstream(std::filesystem::path(TEST_OUTPUT_DIR) / name, std::ios::binary) << actual;
+    std::ofstream(expected.filename().string() + ".actual", std::ios::binary) << actual;
   }
 }
 

@@ -12,7 +12,7 @@ using namespace std::string_literals;
 
 namespace {
 
-// A file of these bytes in the build folder, gone with the object.
+// A file of these bytes in the current directory, gone with the object.
 class NamedFile {
  public:
   explicit NamedFile(const std::string& bytes = {}) {
@@ -25,7 +25,7 @@ class NamedFile {
   NamedFile& operator=(const NamedFile&) = delete;
   ~NamedFile() { remove(path()); }
 
-  static const char* path() { return TEST_OUTPUT_DIR "/text_file_test.tmp"; }
+  static const char* path() { return "text_file_test.tmp"; }
   static std::string bytes() {
     std::string all;
     FILE* const file = fopen(path(), "rb");
