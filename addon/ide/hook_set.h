@@ -76,6 +76,8 @@ class HookSet {
   // Set while a title-bar popup is tracked: title-bar clicks go to the IDE.
   void suspend(bool suspended) { suspended_ = suspended; }
   bool suspended() const { return suspended_; }
+  // True while the painting command is being posted.
+  bool postingPaint() const { return posting_paint_; }
 
  private:
   static LRESULT CALLBACK mouseHook(int code, WPARAM wParam, LPARAM lParam);
