@@ -62,6 +62,8 @@ Step stepOf(Verb verb) {
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDoubleClickTitle:
+      return stepDoubleClickTitle;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
@@ -82,6 +84,8 @@ Step stepOf(Verb verb) {
       return stepMake;
     case Verb::kMark:
       return stepMark;
+    case Verb::kMaximize:
+      return stepMaximize;
     case Verb::kMessageOpen:
       return stepMessageOpen;
     case Verb::kMinimize:
@@ -94,6 +98,8 @@ Step stepOf(Verb verb) {
       return stepOpen;
     case Verb::kOption:
       return stepOption;
+    case Verb::kOtherIde:
+      return stepOtherIde;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:
