@@ -149,14 +149,14 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
 
 }  // namespace
 
-bool registerBarClass(HINSTANCE instance) {
+void registerBarClass(HINSTANCE instance) {
   WNDCLASSA bar_class = {};
   bar_class.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
   bar_class.lpfnWndProc = barProcedure;
   bar_class.hInstance = instance;
   bar_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
   bar_class.lpszClassName = kBarClass;
-  return RegisterClassA(&bar_class) != 0;
+  RegisterClassA(&bar_class);
 }
 
 void unregisterBarClass(HINSTANCE instance) {

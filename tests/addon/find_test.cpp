@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "addon/foundation/directory_listing.h"
-#include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
 #include "addon/navigation/name_search.h"
 #include "doctest.h"
-#include "tests/addon/fake_ide.h"
+#include "tests/addon/bar_session.h"
 
 namespace kesto {
 
@@ -105,9 +104,8 @@ TEST_CASE("a selection is read and the clipboard's text survives") {
 }
 
 TEST_CASE("the files of a tree are searched as the IDE holds them") {
-  fake::Ide ide;
-  ide.AddRef();
-  storeIde(&ide);
+  BarSession session;
+  fake::Ide& ide = session.ide;
   ide.stream.disk = "int f()\n{\n  call();\n  call();\n}\n";
   const Folder folder;
   const std::vector<SearchStep> plan = {{folder.path(), "*.cpp"}, {folder.path() + "2", "*.cpp"}};
@@ -140,14 +138,11 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
     CHECK(hits.count() > 1000);
     CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
   }
-  releaseIde();
 }
 
 TEST_CASE("references go into a group of their own, each run below its header") {
-  const int references = fake::live_references;
-  fake::Ide ide;
-  ide.AddRef();
-  storeIde(&ide);
+  BarSession session;
+  fake::Ide& ide = session.ide;
   {
     CrossReferenceMessages messages;
     Tableau<QuickResu> hits;
@@ -172,8 +167,6 @@ TEST_CASE("references go into a group of their own, each run below its header") 
   ide.services.erase(ideapi::kMessageService.Data1);
   CrossReferenceMessages().write("Paint", Tableau<QuickResu>());
   CHECK(log.size() == 6);
-  releaseIde();
-  CHECK(fake::live_references == references);
 }
 
 }  // namespace kesto

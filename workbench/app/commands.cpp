@@ -136,30 +136,30 @@ void Application::saveAll() {
   }
 }
 
-bool Application::editCommand(int id, EditorChild* child) {
+void Application::editCommand(int id, EditorChild* child) {
   TextWindow& text = child->textView();
   switch (id) {
     case CM_EDIT_UNDO:
       text.undo();
-      return true;
+      break;
     case CM_EDIT_REDO:
       text.redo();
-      return true;
+      break;
     case CM_EDIT_CUT:
       text.cut();
-      return true;
+      break;
     case CM_EDIT_COPY:
       text.copy();
-      return true;
+      break;
     case CM_EDIT_PASTE:
       text.paste();
-      return true;
+      break;
     case CM_EDIT_DELETE:
       text.clear();
-      return true;
+      break;
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
-      return true;
+      break;
     case CM_EDIT_FIND: {
       const std::string selected = text.selection();
       if (!selected.empty() && selected.size() < 256 &&
@@ -169,19 +169,19 @@ bool Application::editCommand(int id, EditorChild* child) {
       if (askFind(frame_.window(), &find_)) {
         findNext(find_.backward);
       }
-      return true;
+      break;
     }
     case CM_EDIT_FIND_NEXT:
       findNext(find_.backward);
-      return true;
+      break;
     case CM_EDIT_FIND_PREVIOUS:
       findNext(!find_.backward);
-      return true;
+      break;
     case CM_EDIT_GO_TO_LINE:
       goToLine(*child);
-      return true;
+      break;
     default:
-      return false;
+      break;
   }
 }
 

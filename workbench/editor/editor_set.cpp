@@ -239,12 +239,10 @@ bool EditorSet::askToSaveAll() {
   return true;
 }
 
-bool EditorSet::closeAll() {
-  if (!askToSaveAll()) {
-    return false;
+void EditorSet::closeAll() {
+  if (askToSaveAll()) {
+    destroyAll();
   }
-  destroyAll();
-  return true;
 }
 
 void EditorSet::destroyAll() {

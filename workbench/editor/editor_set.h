@@ -45,7 +45,7 @@ class EditorSet final : public EditorChildHost {
   // Asks about every modified file; false when the user cancelled or a save failed.
   bool askToSaveAll();
   // Asks, then closes every editor.
-  bool closeAll();
+  void closeAll();
   // Closes every editor as it is.
   void destroyAll();
   // Offers to read again what other programs changed.
