@@ -193,14 +193,15 @@ void GeneralBehaviours::autoSave() {
   if (!isProjectOpen() || frame == nullptr || !IsWindowEnabled(frame)) {
     return;
   }
-  IEditorService* editors = editorService();
-  if (editors == nullptr) {
+  const ComPtr<IEditorService> editors = editorService();
+  if (!editors) {
     return;
   }
   IIdeString* saved = nullptr;
   const int count = editors->SaveModified(&saved);
   const std::unique_ptr<char[]> names = takeIdeString(saved);
-  if (count <= 0) {
+  // Saving may ask, and the IDE may have closed by the answer.
+  if (count <= 0 || generalBehaviours != this) {
     return;
   }
   const std::string text = "Auto-save (" + std::to_string(timer_count_) +

@@ -56,6 +56,9 @@ class Frame {
   bool createClient();
   void layOut();
   void enableItems(HMENU menu);
+  // Asks what has to be asked before the program may end.
+  bool mayClose();
+  // Ends the program, from within whatever menu, box or dialog is open.
   void close();
 
   FrameHandler& handler_;
@@ -66,6 +69,7 @@ class Frame {
   HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
   OwnedAccelerators accelerators_;
+  bool asking_ = false;
   bool closing_ = false;
 };
 

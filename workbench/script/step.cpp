@@ -54,20 +54,28 @@ Step stepOf(Verb verb) {
       return stepClickCaption;
     case Verb::kClickTitle:
       return stepClickTitle;
+    case Verb::kClipboard:
+      return stepClipboard;
     case Verb::kClose:
       return stepClose;
+    case Verb::kCloseFrame:
+      return stepCloseFrame;
     case Verb::kCommand:
       return stepCommand;
     case Verb::kDeactivate:
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDocument:
+      return stepDocument;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
       return stepEcho;
     case Verb::kEdit:
       return stepEdit;
+    case Verb::kEndSession:
+      return stepEndSession;
     case Verb::kExpect:
       return stepExpect;
     case Verb::kExpectNot:
