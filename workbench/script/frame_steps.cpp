@@ -124,6 +124,14 @@ StepResult stepMinimize(StepTry& step) {
   return IsIconic(frame) ? StepResult::kDone : step.again("the frame is not minimized");
 }
 
+StepResult stepMaximize(StepTry& step) {
+  HWND frame = step.stage.window.frame();
+  if (step.attempt == 0) {
+    ShowWindow(frame, SW_MAXIMIZE);
+  }
+  return IsZoomed(frame) ? StepResult::kDone : step.again("the frame is not maximized");
+}
+
 StepResult stepRestore(StepTry& step) {
   HWND frame = step.stage.window.frame();
   if (step.attempt == 0) {
@@ -140,6 +148,20 @@ StepResult stepActivate(StepTry& step) {
   }
   bool active = GetActiveWindow() == frame || GetLastActivePopup(frame) == GetActiveWindow();
   return active ? StepResult::kDone : step.again("the frame does not become active");
+}
+
+// A second IDE may also end at once, for the sake of the one that runs.
+StepResult stepOtherIde(StepTry& step) {
+  OtherIde& other = step.stage.other_ide;
+  const bool plain = step.argCount() == 1;
+  if (plain && step.arg(0) != "plain") {
+    return step.fail("another IDE is plain or has the add-on");
+  }
+  if (step.attempt == 0 && !other.start(!plain)) {
+    return step.fail("another IDE cannot be started");
+  }
+  return other.inFront() || other.ended() ? StepResult::kDone
+                                          : step.again("the other IDE does not come forward");
 }
 
 StepResult stepDeactivate(StepTry& step) {

@@ -68,6 +68,8 @@ Step stepOf(Verb verb) {
       return stepDescribeNode;
     case Verb::kDocument:
       return stepDocument;
+    case Verb::kDoubleClickTitle:
+      return stepDoubleClickTitle;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
@@ -90,6 +92,8 @@ Step stepOf(Verb verb) {
       return stepMake;
     case Verb::kMark:
       return stepMark;
+    case Verb::kMaximize:
+      return stepMaximize;
     case Verb::kMessageOpen:
       return stepMessageOpen;
     case Verb::kMinimize:
@@ -102,6 +106,8 @@ Step stepOf(Verb verb) {
       return stepOpen;
     case Verb::kOption:
       return stepOption;
+    case Verb::kOtherIde:
+      return stepOtherIde;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:
