@@ -99,13 +99,13 @@ bool Application::fileCommand(int id, EditorChild* child) {
       }
       return true;
     case CM_FILE_SAVE:
-      if (child != nullptr && child->save()) {
-        setStatus("Saved " + child->file());
-      }
-      return true;
     case CM_FILE_SAVE_AS:
-      if (child != nullptr && editors_.saveAs(child->openFile())) {
-        setStatus("Saved " + child->file());
+      if (child != nullptr) {
+        // Its editors may be gone when a box has been answered.
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        if (id == CM_FILE_SAVE ? editors_.save(*file) : editors_.saveAs(*file)) {
+          setStatus("Saved " + file->path);
+        }
       }
       return true;
     case CM_FILE_SAVE_ALL:
@@ -186,8 +186,11 @@ void Application::editCommand(int id, EditorChild* child) {
 }
 
 void Application::findNext(bool backward) {
+  if (editors_.active() == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
+    return;
+  }
   EditorChild* child = editors_.active();
-  if (child == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
+  if (child == nullptr) {
     return;
   }
   if (!child->textView().findText(find_.text, find_.match_case, backward)) {
@@ -198,8 +201,12 @@ void Application::findNext(bool backward) {
 
 void Application::goToLine(EditorChild& child) {
   int line = child.textView().caret().line + 1;
-  if (askLine(frame_.window(), child.openFile().document.lineCount(), &line)) {
-    child.setCaret(line, 1);
+  const unsigned int handle = child.handle();
+  if (!askLine(frame_.window(), child.openFile().document.lineCount(), &line)) {
+    return;
+  }
+  if (EditorChild* asked = editors_.byHandle(handle)) {
+    asked->setCaret(line, 1);
   }
 }
 
@@ -276,8 +283,9 @@ void Application::openProjectFile() {
       files.push_back(node->name);
     }
   }
+  const std::string folder = project_.folder();
   std::string path;
-  if (hasProject() && askProjectFile(frame_.window(), project_.folder(), files, &path)) {
+  if (hasProject() && askProjectFile(frame_.window(), folder, files, &path)) {
     editFile(path, 0);
   }
 }
