@@ -132,7 +132,7 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
     return nullptr;
   }
   if (line > 0) {
-    child->setCaret(line, 1);
+    child->showHit(line, 1);
   }
   return announce(child);
 }
@@ -162,7 +162,7 @@ bool Application::openMessage(int position) {
 bool Application::showPlace(const Message& message) {
   EditorWindow* editor = message.file.empty() ? nullptr : editFile(message.file, message.line);
   if (editor != nullptr && message.line > 0 && message.column > 1) {
-    editor->setCaret(message.line, message.column);
+    editor->showHit(message.line, message.column);
   }
   return editor != nullptr;
 }

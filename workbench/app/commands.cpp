@@ -206,7 +206,7 @@ void Application::goToLine(EditorChild& child) {
     return;
   }
   if (EditorChild* asked = editors_.byHandle(handle)) {
-    asked->setCaret(line, 1);
+    asked->showHit(line, 1);
   }
 }
 

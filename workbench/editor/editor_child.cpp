@@ -89,6 +89,15 @@ void EditorChild::setCaret(int line, int column) {
   text_.setCaret({line - 1, column - 1});
 }
 
+void EditorChild::showHit(int line, int column) {
+  setCaret(line, column);
+  text_.showHit();
+}
+
+TextView EditorChild::view() {
+  return {text_.topLine() + 1, text_.shownLines(), text_.markedLine() + 1};
+}
+
 void EditorChild::select(int line1, int column1, int line2, int column2) {
   text_.select({line1 - 1, column1 - 1}, {line2 - 1, column2 - 1});
 }

@@ -62,6 +62,8 @@ class EditorChild final : public EditorWindow,
   std::string text() override { return file_->document.bytes(); }
   void caret(int* line, int* column) override;
   void setCaret(int line, int column) override;
+  void showHit(int line, int column) override;
+  TextView view() override;
   void select(int line1, int column1, int line2, int column2) override;
   std::string selection() override { return text_.selection(); }
   void type(const std::string& text) override;

@@ -334,7 +334,11 @@ bool TextWindow::findText(std::string_view what, bool match_case, bool backward)
       !document_.find(what, match_case, backward, far_end, &found)) {
     return false;
   }
+  const bool seen = found.line >= top_ && found.line < top_ + visibleLines();
   select(found, {found.line, found.column + static_cast<int>(what.size())});
+  if (!seen) {
+    showHit();
+  }
   return true;
 }
 

@@ -22,6 +22,9 @@ int previousWord(std::string_view line, int column);
 // The bounds of the word (or the run of other characters) at the column.
 void wordAround(std::string_view line, int column, int* from, int* to);
 
+// The first line to show so that the line stands a third down a window of so many lines.
+int topForHit(int line, int visible);
+
 // The blanks that a line begins with.
 std::string_view indentOf(std::string_view line);
 

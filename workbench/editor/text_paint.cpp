@@ -121,6 +121,9 @@ void TextWindow::paintLine(HDC dc, int line, const RECT& area) {
     paintText(dc, line, area);
   }
   paintMargin(dc, line, area);
+  if (line == marked_) {
+    tintMarked(dc, area);
+  }
 }
 
 void TextWindow::paintMargin(HDC dc, int line, const RECT& area) {

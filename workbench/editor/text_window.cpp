@@ -192,6 +192,9 @@ std::string TextWindow::selection() const {
 }
 
 void TextWindow::afterMove() {
+  if (caret_.line != marked_) {
+    unmark();
+  }
   revealCaret();
   placeCaret();
   if (window_ != nullptr && painting_held_ == 0) {
@@ -377,6 +380,7 @@ Place moved(Place place, const DocumentChange& change) {
 }  // namespace
 
 void TextWindow::documentChanged(const DocumentChange& change) {
+  unmark();
   highlighter_.invalidate(change.from.line);
   trackWidth(change.from.line, change.new_end.line);
   caret_ = document_.clamp(moved(caret_, change));

@@ -50,6 +50,13 @@ class TextWindow final : public DocumentListener {
   std::string selection() const;
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
+  // text_hit.cpp: the caret's line is what was looked for. It is shown a third down the
+  // window and stays marked until the caret leaves it or the text changes.
+  void showHit();
+  // -1 for none.
+  int markedLine() const { return marked_; }
+  int topLine() const { return top_; }
+  int shownLines() const { return visibleLines(); }
 
   // Replaces the selection as typing does.
   void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
@@ -102,6 +109,8 @@ class TextWindow final : public DocumentListener {
   void scrollTo(int top, int left);
   void wheel(int delta);
   void revealCaret();
+  void unmark();
+  void tintMarked(HDC dc, const RECT& row) const;
   void placeCaret();
   void afterMove();
   Place placeAt(int x, int y) const;
@@ -119,6 +128,7 @@ class TextWindow final : public DocumentListener {
   Highlighter highlighter_;
   Place caret_;
   Place anchor_;
+  int marked_ = -1;       // the line of a hit; -1 for none
   int wanted_cell_ = -1;  // of vertical moves; -1 takes the caret's
   int top_ = 0;           // first line shown
   int left_ = 0;          // first cell shown

@@ -123,10 +123,14 @@ StepResult dumpText(StepTry& step) {
   }
   int line = 0, column = 0;
   editor->caret(&line, &column);
+  const TextView view = editor->view();
   step.stage.log.emit(Event("text")
                           .text("file", editor->file())
                           .number("line", line)
                           .number("column", column)
+                          .number("top", view.top)
+                          .number("rows", view.rows)
+                          .number("marked", view.marked)
                           .flag("modified", editor->modified())
                           .text("selection", editor->selection())
                           .text("text", editor->text()));
