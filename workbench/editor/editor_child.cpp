@@ -21,9 +21,9 @@ EditorChild::~EditorChild() {
   file_->document.removeListener(this);
 }
 
-bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
-  return createChild(mdi_client, instance, ideapi::kEditorClass, title().c_str(), CW_USEDEFAULT,
-                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+bool EditorChild::create(HWND mdi_client, HINSTANCE instance, const Area& place) {
+  return createChild(mdi_client, instance, ideapi::kEditorClass, title().c_str(), place.left,
+                     place.top, place.width(), place.height());
 }
 
 LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {

@@ -10,6 +10,7 @@
 #include "workbench/editor/editor_window.h"
 #include "workbench/editor/open_file.h"
 #include "workbench/editor/text_window.h"
+#include "workbench/windows/child_place.h"
 #include "workbench/windows/mdi_child.h"
 
 namespace workbench {
@@ -45,7 +46,7 @@ class EditorChild final : public EditorWindow,
   ~EditorChild() override;
 
   // Returns false when the window cannot be made.
-  bool create(HWND mdi_client, HINSTANCE instance);
+  bool create(HWND mdi_client, HINSTANCE instance, const Area& place);
   OpenFile& openFile() { return *file_; }
   const std::shared_ptr<OpenFile>& sharedFile() const { return file_; }
   TextWindow& textView() { return text_; }

@@ -63,6 +63,7 @@ class EditorSet final : public EditorChildHost {
 
  private:
   EditorChild* show(const std::shared_ptr<OpenFile>& file);
+  Area freePlace() const;
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
   // Reads a text that an editor can take; stamps it as it was before.
