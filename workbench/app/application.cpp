@@ -147,7 +147,7 @@ void Application::messagesChanged(const MessageGroupInfo& group, const Message* 
                      .number("column", added->column)
                      .number("kind", added->kind));
   }
-  message_window_.storeChanged();
+  message_window_.storeChanged(group, added);
 }
 
 bool Application::openMessage(int position) {

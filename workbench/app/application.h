@@ -69,6 +69,8 @@ class Application final : public Workbench,
   void make(int result) override;
   bool startMake() override;
   const MessageStore& messages() override { return messages_; }
+  unsigned int shownGroup() override { return message_window_.shownGroup(); }
+  int selectedMessage() override { return message_window_.selectedRow(); }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
   EditorWindow* editOrStart(const std::string& path) override;

@@ -174,6 +174,11 @@ int MessageViewer::selectedRow() const {
   return row == LB_ERR ? -1 : static_cast<int>(row);
 }
 
+void MessageViewer::selectRow(int row) {
+  SendMessageA(window_, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+  SendMessageA(window_, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+}
+
 void MessageViewer::openSelected() {
   const std::vector<Message>* messages = host_.shownMessages();
   const int row = selectedRow();

@@ -41,6 +41,8 @@ class MessageViewer {
   void refresh(bool other_group);
   // -1 for none.
   int selectedRow() const;
+  // Selects the row and shows it with what follows.
+  void selectRow(int row);
   void openSelected();
 
  private:

@@ -44,8 +44,8 @@ bool MessageWindow::createControls() {
   if (!viewer_.create(inner_, instance()) || !tabs_.create(inner_, instance())) {
     return false;
   }
+  other_group_ = true;
   catchUp();
-  viewer_.refresh(true);
   return true;
 }
 
@@ -85,12 +85,16 @@ bool MessageWindow::paneMessage(UINT message, WPARAM, LPARAM, LRESULT* result) {
   }
   update_posted_ = false;
   catchUp();
-  viewer_.refresh(false);
   *result = 0;
   return true;
 }
 
-void MessageWindow::storeChanged() {
+void MessageWindow::storeChanged(const MessageGroupInfo& group, const Message* added) {
+  if (added != nullptr && added->parent == 0) {
+    other_group_ = other_group_ || shown_ != group.id;
+    shown_ = group.id;
+    header_ = group.id != MessageStore::kBuildGroup ? added->id : 0;
+  }
   if (window() != nullptr && !update_posted_) {
     update_posted_ = PostMessageA(window(), kCatchUp, 0, 0) != 0;
   }
@@ -102,6 +106,19 @@ void MessageWindow::catchUp() {
     names.push_back(group.name);
   }
   tabs_.setTabs(names, static_cast<int>(shown_) - 1);
+  viewer_.refresh(std::exchange(other_group_, false));
+  showHeader();
+}
+
+void MessageWindow::showHeader() {
+  const unsigned int header = std::exchange(header_, 0);
+  const std::vector<Message>* messages = shownMessages();
+  for (std::size_t row = messages != nullptr ? messages->size() : 0; header != 0 && row-- > 0;) {
+    if ((*messages)[row].id == header) {
+      viewer_.selectRow(static_cast<int>(row));
+      return;
+    }
+  }
 }
 
 void MessageWindow::showGroup(unsigned int group) {
@@ -109,8 +126,9 @@ void MessageWindow::showGroup(unsigned int group) {
     return;
   }
   shown_ = group;
+  header_ = 0;
+  other_group_ = true;
   catchUp();
-  viewer_.refresh(true);
 }
 
 const std::vector<Message>* MessageWindow::shownMessages() {

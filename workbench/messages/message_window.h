@@ -16,9 +16,15 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   MessageWindow(MessageStore& store, std::function<void(const Message&)> open);
 
   static bool registerClasses(HINSTANCE instance);
-  // A group has come or changed; the window catches up when the queue is empty.
-  void storeChanged();
+  // A group has come or changed; the window catches up when the queue is empty. A new
+  // message at the top level raises its group, and outside the makes it is selected:
+  // what belongs to it follows below.
+  void storeChanged(const MessageGroupInfo& group, const Message* added);
   void showGroup(unsigned int group);
+
+  unsigned int shownGroup() const { return shown_; }
+  // -1 for none.
+  int selectedRow() const { return viewer_.selectedRow(); }
 
   const std::vector<Message>* shownMessages() override;
   void openMessage(const Message& message) override { open_(message); }
@@ -36,6 +42,7 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
  private:
   static LRESULT CALLBACK innerProc(HWND window, UINT message, WPARAM w, LPARAM l);
   void catchUp();
+  void showHeader();
 
   MessageStore& store_;
   std::function<void(const Message&)> open_;
@@ -43,6 +50,8 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   MessageViewer viewer_;
   HWND inner_ = nullptr;  // between this window and its controls
   unsigned int shown_ = MessageStore::kBuildGroup;
+  unsigned int header_ = 0;    // the message to select next, 0 for none
+  bool other_group_ = false;  // since the list was last filled
   bool update_posted_ = false;
 };
 
