@@ -168,7 +168,12 @@ bool Application::showPlace(const Message& message) {
 }
 
 EditorWindow* Application::editOrStart(const std::string& path) {
-  return announce(editors_.openOrStart(resolve(path)));
+  const bool open = findEditor(path) != nullptr;
+  EditorChild* child = announce(editors_.openOrStart(resolve(path)));
+  if (child != nullptr && !open && !child->openFile().stamp.exists) {
+    setStatus("New file: " + child->file());
+  }
+  return child;
 }
 
 EditorChild* Application::announce(EditorChild* child) {
@@ -201,7 +206,8 @@ void Application::showEditorState() {
   std::string position = std::to_string(line);
   position += ':';
   position += std::to_string(column);
-  frame_.statusBar().setFields(position, child->modified() ? "Modified" : "",
+  const char* state = child->openFile().stamp.exists ? "" : "New file";
+  frame_.statusBar().setFields(position, child->modified() ? "Modified" : state,
                                child->textView().insertMode() ? "Insert" : "Overwrite");
 }
 

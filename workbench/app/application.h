@@ -78,6 +78,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
+  std::string editorState() override { return frame_.statusBar().state(); }
   HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;

@@ -19,8 +19,9 @@ class StatusBar {
   int height() const;
   void setText(const std::string& text);
   const std::string& text() const { return text_; }
-  // "line:column", "Modified" or empty, "Insert" or "Overwrite"; all empty without
+  // "line:column", "Modified", "New file" or empty, "Insert" or "Overwrite"; all empty without
   // an editor.
+  const std::string& state() const { return state_; }
   void setFields(const std::string& position, const std::string& state, const std::string& mode);
 
  private:

@@ -137,6 +137,13 @@ StepResult dumpText(StepTry& step) {
   return StepResult::kDone;
 }
 
+StepResult dumpStatus(StepTry& step) {
+  MainWindow& window = step.stage.window;
+  step.stage.log.emit(
+      Event("status-line").text("text", window.status()).text("state", window.editorState()));
+  return StepResult::kDone;
+}
+
 }  // namespace
 
 StepResult stepDump(StepTry& step) {
@@ -147,7 +154,7 @@ StepResult stepDump(StepTry& step) {
       {"menu", dumpMenu},          {"bar", dumpBar},           {"editors", dumpEditors},
       {"windows", dumpWindows},    {"dialog", dumpDialog},     {"text", dumpText},
       {"project", dumpProject},    {"messages", dumpMessages}, {"documents", dumpAllDocuments},
-      {"clipboard", dumpClipboard}};
+      {"clipboard", dumpClipboard}, {"status", dumpStatus}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
       return kind.dump(step);
