@@ -7,6 +7,7 @@
 #include "workbench/app/editor_page.h"
 #include "workbench/app/options_dialog.h"
 #include "workbench/app/settings_store.h"
+#include "workbench/project/tool_table.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/file_dialogs.h"
 #include "workbench/windows/names.h"
@@ -279,7 +280,7 @@ bool Application::projectCommand(int id) {
 void Application::openProjectFile() {
   std::vector<std::string> files;
   for (const NodeInfo* node : project_.nodes()) {
-    if (!node->type.empty() && node->type[0] == '.') {
+    if (isTextType(node->type) && isPathName(node->name, node->type)) {
       files.push_back(node->name);
     }
   }
