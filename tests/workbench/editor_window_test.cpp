@@ -170,6 +170,8 @@ TEST_CASE("keys edit the text") {
 TEST_CASE("a hit stands a third down, and is marked until the caret leaves it or the text changes") {
   Desk desk;
   ShowWindow(desk.program.application.frame(), SW_SHOWNOACTIVATE);
+  SendMessageA(desk.program.application.mdiClient(), WM_MDIMAXIMIZE,
+               reinterpret_cast<WPARAM>(desk.editor->window()), 0);
   std::string lines;
   for (int i = 0; i < 300; ++i) {
     lines += "line\n";

@@ -59,7 +59,10 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
     case WM_CREATE:
       return createClient() ? 0 : -1;
     case WM_SIZE:
-      layOut();
+      // What is opened meanwhile still has room.
+      if (w != SIZE_MINIMIZED) {
+        layOut();
+      }
       return 0;
     case WM_COMMAND:
       if (LOWORD(w) < CM_FIRST_CHILD) {

@@ -60,7 +60,8 @@ Area placeForNew(const Area& whole, const std::vector<Area>& panes, const std::v
   const int left = room.left + best * step;
   const int top = room.top + best * step;
   const int inset = (steps - 1) * step;
-  return {left, top, left + room.width() - inset, top + room.height() - inset};
+  return {left, top, left + std::max(kLeastWidth, room.width() - inset),
+          top + std::max(kLeastHeight, room.height() - inset)};
 }
 
 }  // namespace workbench
