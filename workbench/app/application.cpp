@@ -55,6 +55,9 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
   editors_.setChangeListener([this] { showEditorState(); });
+  editors_.setEditListener([this] { frame_.statusBar().passText(); });
+  frame_.statusBar().setLeftListener(
+      [this](const std::string& text) { events_.emit(Event("status-left").text("text", text)); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
   return true;

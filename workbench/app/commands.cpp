@@ -16,6 +16,7 @@
 namespace workbench {
 
 void Application::frameCommand(int id) {
+  frame_.statusBar().passText();
   EditorChild* child = editors_.active();
   if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id)) {
     return;

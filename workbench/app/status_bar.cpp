@@ -10,6 +10,9 @@ namespace {
 constexpr char kClass[] = "WorkbenchStatus";
 constexpr int kFieldWidth = 84;  // pixels
 constexpr int kGap = 3;
+constexpr UINT kTimer = 1;
+// So long even a text that is overtaken at once can be read.
+constexpr DWORD kLeastShownMs = 3000;
 
 void drawField(HDC dc, RECT area, const std::string& text) {
   DrawEdge(dc, &area, BDR_SUNKENOUTER, BF_RECT);
@@ -52,6 +55,10 @@ LRESULT CALLBACK StatusBar::windowProc(HWND window, UINT message, WPARAM w, LPAR
     self->paint();
     return 0;
   }
+  if (self != nullptr && message == WM_TIMER) {
+    self->textLeaves();
+    return 0;
+  }
   if (message == WM_ERASEBKGND) {
     return 1;
   }
@@ -92,7 +99,35 @@ void StatusBar::paint() {
   EndPaint(window_, &info);
 }
 
+void StatusBar::passText() {
+  if (text_.empty() || passing_ || window_ == nullptr) {
+    return;
+  }
+  passing_ = true;
+  const DWORD shown = GetTickCount() - shown_at_;
+  if (shown >= kLeastShownMs) {
+    textLeaves();
+  } else {
+    SetTimer(window_, kTimer, kLeastShownMs - shown, nullptr);
+  }
+}
+
+void StatusBar::textLeaves() {
+  if (passing_) {
+    const std::string text = text_;
+    setText("");
+    if (left_) {
+      left_(text);
+    }
+  }
+}
+
 void StatusBar::setText(const std::string& text) {
+  if (passing_ && window_ != nullptr) {
+    KillTimer(window_, kTimer);
+  }
+  passing_ = false;
+  shown_at_ = GetTickCount();
   text_ = text;
   if (window_ != nullptr) {
     InvalidateRect(window_, nullptr, FALSE);

@@ -4,7 +4,9 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "workbench/windows/handles.h"
 
@@ -17,7 +19,12 @@ class StatusBar {
   bool create(HWND parent, HINSTANCE instance);
   HWND window() const { return window_; }
   int height() const;
+  // Called with a text that has left by itself.
+  void setLeftListener(std::function<void(const std::string&)> left) { left_ = std::move(left); }
   void setText(const std::string& text);
+  // Something else has happened than what the text tells: it leaves, though not before it
+  // was there long enough to be read.
+  void passText();
   const std::string& text() const { return text_; }
   // "line:column", "Modified", "New file" or empty, "Insert" or "Overwrite"; all empty without
   // an editor.
@@ -27,9 +34,13 @@ class StatusBar {
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
   void paint();
+  void textLeaves();
 
   HWND window_ = nullptr;
   OwnedFont font_;
+  std::function<void(const std::string&)> left_;
+  DWORD shown_at_ = 0;    // the system's milliseconds
+  bool passing_ = false;  // the text leaves when its time is over
   std::string text_;
   std::string position_;
   std::string state_;

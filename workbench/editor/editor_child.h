@@ -27,6 +27,8 @@ class EditorChildHost {
   virtual void childActivated(EditorChild& child) = 0;
   // Caret, insert mode or modified state.
   virtual void childChanged(EditorChild& child) = 0;
+  // Its text, whoever did it.
+  virtual void childEdited() = 0;
   // False when the file may not be edited; the reason has been shown.
   virtual bool mayEdit(EditorChild& child) = 0;
 
@@ -73,7 +75,7 @@ class EditorChild final : public EditorWindow,
   void textCaretMoved() override;
   void textFocused() override;
   bool allowEdit() override { return host_.mayEdit(*this); }
-  void documentChanged(const DocumentChange&) override {}
+  void documentChanged(const DocumentChange&) override { host_.childEdited(); }
   void documentStateChanged() override;
 
  private:

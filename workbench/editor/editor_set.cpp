@@ -310,6 +310,12 @@ void EditorSet::childChanged(EditorChild&) {
   }
 }
 
+void EditorSet::childEdited() {
+  if (edited_) {
+    edited_();
+  }
+}
+
 bool EditorSet::mayEdit(EditorChild& child) {
   OpenFile& file = child.openFile();
   // Asked once, before the first change: later the text is saved under another name.

@@ -22,6 +22,9 @@ class EditorSet final : public EditorChildHost {
   // Called when the active editor, its caret or its state changes.
   void setChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
 
+  // Called when a text is edited.
+  void setEditListener(std::function<void()> listener) { edited_ = std::move(listener); }
+
   // The topmost editor of the file, or null.
   EditorChild* find(const std::string& path) const;
   // Null for a handle whose editor is gone.
@@ -59,6 +62,7 @@ class EditorSet final : public EditorChildHost {
   void childGone(EditorChild& child) override;
   void childActivated(EditorChild& child) override;
   void childChanged(EditorChild& child) override;
+  void childEdited() override;
   bool mayEdit(EditorChild& child) override;
 
  private:
@@ -78,6 +82,7 @@ class EditorSet final : public EditorChildHost {
   FileStore& store_;
   EditorSettings& settings_;
   std::function<void()> changed_;
+  std::function<void()> edited_;
   HWND frame_ = nullptr;
   HWND mdi_client_ = nullptr;
   HINSTANCE instance_ = nullptr;
