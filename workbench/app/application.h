@@ -132,6 +132,8 @@ class Application final : public Workbench,
   void addContainer();
   void removeSelected();
   void editSelected();
+  // Offers to rename the node's file on the disk as well.
+  void renameAsked(unsigned int node, const std::string& name);
   void editBuild();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();

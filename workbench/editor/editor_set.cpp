@@ -230,6 +230,27 @@ bool EditorSet::saveAs(OpenFile& file) {
   return write(file, path);
 }
 
+bool EditorSet::renameFile(const std::string& from, const std::string& to) {
+  if (!samePath(from, to) && find(to) != nullptr) {
+    ask(to + " is open in another editor. Close it first, or choose another name.",
+        MB_OK | MB_ICONERROR);
+    return false;
+  }
+  const FileFault fault = store_.move(from, to);
+  if (fault != FileFault::kNone) {
+    ask("The file was not renamed. " + describeFault(fault, from), MB_OK | MB_ICONERROR);
+    return false;
+  }
+  // Its stamps hold on: neither the content nor its time has changed.
+  for (const auto& file : files()) {
+    if (samePath(file->path, from)) {
+      file->path = to;
+      renumber(*file);
+    }
+  }
+  return true;
+}
+
 bool EditorSet::saveAll(std::vector<std::string>* names) {
   bool done = true;
   for (const auto& file : files()) {

@@ -44,6 +44,9 @@ class EditorSet final : public EditorChildHost {
   // caller keeps the file, and its editors may be gone afterwards.
   bool save(OpenFile& file);
   bool saveAs(OpenFile& file);
+  // Gives a file on disk another name, which must be free; its editors follow. False when
+  // it could not be done (the reason has been shown).
+  bool renameFile(const std::string& from, const std::string& to);
   // Saves every modified file; false when one could not be. Names are appended.
   bool saveAll(std::vector<std::string>* names);
   // Asks about every modified file; false when the user cancelled or a save failed.

@@ -66,6 +66,9 @@ class ProjectWindow final : public MdiPane, public ProjectView {
   ProjectWindowHost& host_;
   HWND tree_ = nullptr;
   std::unordered_map<unsigned int, HTREEITEM> items_;  // by node
+  // What was typed for a node and is still to be told.
+  unsigned int renamed_node_ = 0;
+  std::string new_name_;
 };
 
 }  // namespace workbench
