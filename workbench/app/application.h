@@ -7,6 +7,7 @@
 #include <string>
 
 #include "workbench/app/addon_module.h"
+#include "workbench/app/find_dialogs.h"
 #include "workbench/app/find_request.h"
 #include "workbench/app/frame.h"
 #include "workbench/editor/disk_store_win.h"
@@ -138,7 +139,10 @@ class Application final : public Workbench,
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
   void runTool(ToolHandle tool);
+  // find_commands.cpp
+  void findCommand(int id, TextWindow& text);
   void findNext(bool backward);
+  void replace(unsigned int editor, ReplaceWhat what);
   void goToLine(EditorChild& child);
   void openProjectFile();
   void editOptions();

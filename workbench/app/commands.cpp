@@ -36,6 +36,7 @@ bool Application::commandEnabled(int id) {
     case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
     case CM_EDIT_FIND_PREVIOUS:
+    case CM_EDIT_REPLACE:
     case CM_EDIT_GO_TO_LINE:
     case CM_WINDOW_CLOSE_ALL:
     case CM_WINDOW_NEW_VIEW:
@@ -162,42 +163,17 @@ void Application::editCommand(int id, EditorChild* child) {
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
       break;
-    case CM_EDIT_FIND: {
-      const std::string selected = text.selection();
-      if (!selected.empty() && selected.size() < 256 &&
-          selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
-        find_.text = selected;
-      }
-      if (askFind(frame_.window(), &find_)) {
-        findNext(find_.backward);
-      }
-      break;
-    }
+    case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
-      findNext(find_.backward);
-      break;
     case CM_EDIT_FIND_PREVIOUS:
-      findNext(!find_.backward);
+    case CM_EDIT_REPLACE:
+      findCommand(id, text);
       break;
     case CM_EDIT_GO_TO_LINE:
       goToLine(*child);
       break;
     default:
       break;
-  }
-}
-
-void Application::findNext(bool backward) {
-  if (editors_.active() == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
-    return;
-  }
-  EditorChild* child = editors_.active();
-  if (child == nullptr) {
-    return;
-  }
-  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
-    setStatus("\"" + find_.text + "\" was not found");
-    MessageBeep(MB_ICONWARNING);
   }
 }
 

@@ -70,7 +70,13 @@ class TextWindow final : public DocumentListener {
   void clear();
   void selectAll();
   // Selects the next place of the text from the caret, going round at the end.
-  bool findText(std::string_view what, bool match_case, bool backward);
+  bool findText(const TextSearch& search, bool backward);
+  // text_replace.cpp: replaces the selection when it is a hit, and selects the next one.
+  // False when there is none.
+  bool replaceNext(const TextSearch& search, std::string_view with);
+  // Replaces every hit, or those in the selection, which stays selected. Returns how many,
+  // -1 when the text may not be edited.
+  int replaceAll(const TextSearch& search, std::string_view with, bool in_selection);
 
   void settingsChanged();
   // While held, nothing is repainted; calls nest.
