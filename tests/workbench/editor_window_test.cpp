@@ -7,6 +7,7 @@
 
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
+#include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
 
 using namespace workbench;
@@ -167,7 +168,8 @@ TEST_CASE("keys edit the text") {
   }
 }
 
-TEST_CASE("a hit stands a third down, and is marked until the caret leaves it or the text changes") {
+TEST_CASE(
+    "a hit stands a third down, and is marked until the caret leaves it or the text changes") {
   Desk desk;
   ShowWindow(desk.program.application.frame(), SW_SHOWNOACTIVATE);
   SendMessageA(desk.program.application.mdiClient(), WM_MDIMAXIMIZE,
@@ -259,6 +261,31 @@ TEST_CASE("closing a modified text asks, and only yes writes") {
       CHECK(desk.onDisk() == (each.written ? "x" + kOnDisk : kOnDisk));
     }
   }
+}
+
+TEST_CASE("the files used last are kept, the latest first, but not by a script") {
+  Desk desk;
+  Application& application = desk.program.application;
+  const std::vector<std::string> before = loadRecent();
+  saveRecent({"one", "two", "three"});
+  REQUIRE(application.editFile("inc\\b.h", 0) != nullptr);
+  REQUIRE(application.editFile("a.cpp", 0) != nullptr);
+  CHECK(loadRecent() == std::vector<std::string>{"one", "two", "three"});
+  saveRecent({"four"});
+  CHECK(loadRecent() == std::vector<std::string>{"four"});
+  saveRecent(before);
+
+  // The second is the one before that which is shown.
+  application.frameCommand(CM_FIRST_RECENT + 1);
+  CHECK(application.activeEditor()->file() == desk.folder.file("inc\\b.h"));
+  HMENU menu = GetSubMenu(GetMenu(application.frame()), 0);
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 1, MF_BYCOMMAND) != static_cast<UINT>(-1));
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 2, MF_BYCOMMAND) == static_cast<UINT>(-1));
+  // One that has gone leaves the list.
+  DeleteFileA(desk.folder.file("a.cpp").c_str());
+  Answers answers({IDOK});
+  application.frameCommand(CM_FIRST_RECENT + 1);
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 1, MF_BYCOMMAND) == static_cast<UINT>(-1));
 }
 
 TEST_CASE("the end of the session waits for the answer") {

@@ -1,5 +1,6 @@
 #include "workbench/app/application.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "workbench/app/settings_store.h"
@@ -46,6 +47,9 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   keep_settings_ = keep_settings;
   if (keep_settings_) {
     loadSettings(&settings_);
+    const std::vector<std::string> recent = loadRecent();
+    std::for_each(recent.rbegin(), recent.rend(),
+                  [this](const std::string& path) { recent_.add(path); });
   }
   if (!TextWindow::registerClass(instance) || !EditorChild::registerClass(instance) ||
       !MessageWindow::registerClasses(instance) || !frame_.create(instance) ||
@@ -60,6 +64,7 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
       [this](const std::string& text) { events_.emit(Event("status-left").text("text", text)); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
+  showRecent();
   return true;
 }
 
@@ -72,6 +77,43 @@ void Application::showTools() {
     items.push_back({CM_FIRST_TOOL + static_cast<int>(tool.handle), tool.text});
   }
   frame_.setTools(items);
+}
+
+void Application::noteRecent(const std::string& path) {
+  if (recent_.add(path)) {
+    showRecent();
+  }
+}
+
+void Application::openRecent(std::size_t position) {
+  if (position >= recent_.all().size()) {
+    return;
+  }
+  const std::string path = recent_.all()[position];
+  const bool project = foldCase(extensionOf(path)) == ".ide";
+  if (!store_.stamp(path).exists) {
+    showError(describeFault(FileFault::kMissing, path));
+    recent_.remove(path);
+    showRecent();
+  } else if (project) {
+    openPath(path);
+  } else {
+    editFile(path, 0);
+  }
+}
+
+void Application::showRecent() {
+  if (frame_.window() == nullptr) {
+    return;
+  }
+  std::vector<std::string> texts;
+  for (const std::string& path : recent_.all()) {
+    texts.push_back(menuTextOfPath(texts.size() + 1, path));
+  }
+  frame_.setRecent(texts);
+  if (keep_settings_) {
+    saveRecent(recent_.all());
+  }
 }
 
 HWND Application::addonBar() {
@@ -181,6 +223,9 @@ EditorWindow* Application::editOrStart(const std::string& path) {
 
 EditorChild* Application::announce(EditorChild* child) {
   if (child != nullptr) {
+    if (child->openFile().stamp.exists) {
+      noteRecent(child->file());
+    }
     events_.emit(Event("editor")
                      .text("file", child->file())
                      .number("line", child->textView().caret().line + 1));

@@ -20,6 +20,8 @@
 #include "workbench/project/project.h"
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/path_text.h"
 #include "workbench/workbench.h"
 
 namespace workbench {
@@ -115,6 +117,10 @@ class Application final : public Workbench,
   void saveAll();
   // Tells that an editor opened or came to a line; null tells nothing.
   EditorChild* announce(EditorChild* child);
+  // The file or project was worked with.
+  void noteRecent(const std::string& path);
+  void openRecent(std::size_t position);
+  void showRecent();
   void showTitle();
   void showTools();
   void showEditorState();
@@ -164,6 +170,7 @@ class Application final : public Workbench,
   ProjectWindow project_window_;
   MakeRun make_;
   FindRequest find_;
+  RecentTexts recent_{CM_LAST_RECENT - CM_FIRST_RECENT + 1, samePath};
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;
   // Last, so that it is unloaded before anything it may use goes.

@@ -75,6 +75,10 @@ bool Application::commandEnabled(int id) {
 }
 
 bool Application::fileCommand(int id, EditorChild* child) {
+  if (id >= CM_FIRST_RECENT && id <= CM_LAST_RECENT) {
+    openRecent(static_cast<std::size_t>(id - CM_FIRST_RECENT));
+    return true;
+  }
   std::string path;
   switch (id) {
     case CM_FILE_NEW:
@@ -107,6 +111,7 @@ bool Application::fileCommand(int id, EditorChild* child) {
         // Its editors may be gone when a box has been answered.
         const std::shared_ptr<OpenFile> file = child->sharedFile();
         if (id == CM_FILE_SAVE ? editors_.save(*file) : editors_.saveAs(*file)) {
+          noteRecent(file->path);
           setStatus("Saved " + file->path);
         }
       }

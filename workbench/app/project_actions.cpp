@@ -123,6 +123,9 @@ bool Application::newProject(const std::string& folder) {
 // stamp: the file as it was read, or as the user agreed to replace it.
 void Application::projectOpened(const FileStamp& stamp) {
   project_stamp_ = stamp;
+  if (stamp.exists) {
+    noteRecent(project_.file());
+  }
   showTitle();
   project_window_.projectChanged();
   events_.emit(Event("project").text("action", "opened").text("file", project_.file()));
@@ -153,6 +156,7 @@ bool Application::saveProject() {
   }
   project_stamp_ = store_.stamp(file);
   project_.markSaved();
+  noteRecent(file);
   events_.emit(Event("project").text("action", "saved").text("file", file));
   return true;
 }

@@ -12,6 +12,10 @@
 #define CM_FILE_EXIT 13108
 #define CM_FILE_NEW_PROJECT 13109
 
+/* The files and projects used last, from the latest on. */
+#define CM_FIRST_RECENT 13121
+#define CM_LAST_RECENT 13128
+
 #define CM_EDIT_UNDO 13151
 #define CM_EDIT_REDO 13152
 #define CM_EDIT_CUT 13153
