@@ -13,8 +13,12 @@ void appendItem(MenuPlan& menu, MenuPlanItem item, int column_size) {
   menu.push_back(std::move(item));
 }
 
-MenuPlanItem command(const char* text, int id) {
-  return {text, id, false, {}};
+MenuPlanItem command(const char* text, int id, int last_id) {
+  return {text, id, false, id <= last_id, {}};
+}
+
+int shownEntries(int count, int first_id) {
+  return std::min(count, kLastMenuId - first_id + 1);
 }
 
 }  // namespace
@@ -25,19 +29,19 @@ MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size) {
   const char* open_class = "";
   const auto close_submenu = [&] {
     if (!submenu.empty()) {
-      appendItem(menu, {open_class, 0, false, std::move(submenu)}, column_size);
+      appendItem(menu, {open_class, 0, false, true, std::move(submenu)}, column_size);
       submenu.clear();
     }
   };
-  const int count = std::min(functions.count(), kLastFunctionId - kFirstFunctionId + 1);
+  const int count = shownEntries(functions.count(), kFirstFunctionId);
   for (int i = 0; i < count; ++i) {
     const Fnc& entry = *functions.at(i);
     if (strcmp(entry.className(), open_class) != 0) {
       close_submenu();
       open_class = entry.className();
     }
-    appendItem(*open_class != '\0' ? submenu : menu, command(entry.name(), kFirstFunctionId + i),
-               column_size);
+    appendItem(*open_class != '\0' ? submenu : menu,
+               command(entry.name(), kFirstFunctionId + i, kLastFunctionId), column_size);
   }
   close_submenu();
   return menu;
@@ -45,9 +49,9 @@ MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size) {
 
 MenuPlan planIncludesMenu(const Tableau<String>& includes) {
   MenuPlan menu;
-  const int count = std::min(includes.count(), kLastIncludeId - kFirstIncludeId + 1);
+  const int count = shownEntries(includes.count(), kFirstIncludeId);
   for (int i = 0; i < count; ++i) {
-    menu.push_back(command(includes.at(i)->text(), kFirstIncludeId + i));
+    menu.push_back(command(includes.at(i)->text(), kFirstIncludeId + i, kLastIncludeId));
   }
   return menu;
 }

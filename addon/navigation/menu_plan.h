@@ -20,13 +20,15 @@ struct MenuPlanItem {
   const char* text = "";
   int id = 0;  // 0 for a submenu
   bool column_break = false;
+  bool enabled = true;
   std::vector<MenuPlanItem> submenu;
 };
 
 using MenuPlan = std::vector<MenuPlanItem>;
 
-// Both plans leave out the entries whose identifiers would be those of other
-// commands: the list may be longer than the menu.
+// In both plans the entries whose identifiers would be those of other commands can be
+// seen and not chosen. What no menu has identifiers for is left out.
+inline constexpr int kLastMenuId = 0xFFFE;
 
 // column_size: items in a column; below 1 there is one endless column.
 MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size);

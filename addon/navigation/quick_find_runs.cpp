@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "addon/foundation/menu_text.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/find_window.h"
@@ -161,7 +162,7 @@ void QuickFind::showMethodResults(HWND bar) {
     // Ids beyond the range of the results belong to other commands: those are only shown.
     const UINT state = i < kResultCommands ? MF_ENABLED : MF_GRAYED;
     AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
-                method_results_.at(i)->text());
+                menuText(method_results_.at(i)->text().view()).c_str());
   }
   POINT mouse = {};
   GetCursorPos(&mouse);

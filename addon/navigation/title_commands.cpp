@@ -3,6 +3,7 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/editor_operations.h"
@@ -38,7 +39,7 @@ void appendSearch(HMENU popup, Search search, const char* text) {
   std::string item(text);
   if (quickFind != nullptr && quickFind->key(search) != 0) {
     item += '\t';
-    item += quickFind->keyText(search).view();
+    item += menuText(quickFind->keyText(search).view());
   }
   AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
 }

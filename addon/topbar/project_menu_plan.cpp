@@ -40,7 +40,7 @@ class Builder {
     const int id = kFirstToolId + static_cast<int>(plan_.tools.size());
     if (id <= kLastToolId) {
       popup(BarMenuPlan::kMain)
-          .items.push_back({BarItem::Kind::kCommand, "run " + titleOf(name), id, 0, false});
+          .items.push_back({BarItem::Kind::kCommand, toolText(titleOf(name)), id, 0, false});
       plan_.tools.push_back(node);
     }
   }

@@ -1,5 +1,6 @@
 #include "addon/topbar/recent_files.h"
 
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/status_line.h"
@@ -113,7 +114,8 @@ void RecentFiles::refreshHeaderMenu() const {
     DeleteMenu(submenu, 0, MF_BYPOSITION);
   }
   for (int i = 0; i < headers_.count(); ++i) {
-    AppendMenuA(submenu, MF_STRING, static_cast<UINT_PTR>(kFirstHeaderId + i), headers_.at(i));
+    AppendMenuA(submenu, MF_STRING, static_cast<UINT_PTR>(kFirstHeaderId + i),
+                menuText(headers_.at(i)).c_str());
   }
   DrawMenuBar(bar_);
 }

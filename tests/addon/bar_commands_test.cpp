@@ -181,12 +181,13 @@ TEST_CASE("a renamed node takes its item along") {
     session.ide.project.nodes[node - 1].name = name;
     session.ide.project.clients.at(0)->NodeChanged(node);
   };
-  rename(3, "C:\\p\\new.rc");
+  rename(3, "C:\\p\\R&D.rc");
   rename(5, "C:\\p\\core.lib");
   rename(1, "C:\\p\\other.exe");
   CHECK(session.barTexts() == Texts{"Kesto", "other.exe"});
+  CHECK(session.mainTexts().at(0) == "run other.exe");
   const HMENU files = GetSubMenu(GetMenu(session.windows.bar), 1);
-  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp", "core.lib"});
+  CHECK(BarSession::texts(files) == Texts{"a.cpp", "R&&D.rc", "c.cpp", "core.lib"});
   CHECK(GetMenuItemID(files, 1) == 10001);
   session.ide.project.close();
   CHECK(session.barTexts() == Texts{"Kesto"});
