@@ -81,7 +81,16 @@ TEST_CASE("entries without an identifier of their own are shown and cannot be ch
   CHECK(headers[99].id == 799);
   CHECK(headers[99].enabled);
   CHECK_FALSE(headers[100].enabled);
-  CHECK(headers[102].text == std::string("102"));
+  CHECK(headers[102].text == "102");
+
+  // A source that a program wrote: the menu tells what it does not show.
+  while (includes.count() < 5000) {
+    includes.append(new String("x.h"));
+  }
+  const MenuPlan many = planIncludesMenu(includes);
+  REQUIRE(many.size() == 1101);
+  CHECK(many[1100].text == "... and 3900 more");
+  CHECK_FALSE(many[1100].enabled);
 }
 
 }  // namespace kesto
