@@ -123,6 +123,12 @@ void nodeChanged(ProjectNode node, const char* name) {
   }
 }
 
+void treeChanged() {
+  if (barMenu != nullptr) {
+    barMenu->rebuildSoon();
+  }
+}
+
 void actOnMakeStart() {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeStarted();
@@ -154,7 +160,7 @@ constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 }  // namespace
 
 constinit const ProjectOrder kProjectOrder = {
-    kAnnounced, kOpened, kSettled, kClosing, kClosingLoaded, kClosed, kGone, kSaved, nodeChanged};
+    kAnnounced, kOpened, kSettled, kClosing, kClosingLoaded, kClosed, kGone, kSaved, nodeChanged, treeChanged};
 constinit const MakeOrder kMakeOrder = {kMakeStarted, kMakeEnded};
 
 }  // namespace kesto

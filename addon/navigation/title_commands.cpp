@@ -3,6 +3,7 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/full_path.h"
 #include "addon/foundation/menu_text.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
@@ -60,11 +61,11 @@ bool ready() {
 }  // namespace
 
 bool showFunctionsPopup(HWND bar) {
-  return ready() && trackPopup(bar, editorNavigation->scanFunctions(hookSet->target().title));
+  return ready() && trackPopup(bar, editorNavigation->scanFunctions(hookSet->target().file));
 }
 
 bool showIncludesPopup(HWND bar) {
-  return ready() && trackPopup(bar, editorNavigation->scanIncludes(hookSet->target().title));
+  return ready() && trackPopup(bar, editorNavigation->scanIncludes(hookSet->target().file));
 }
 
 bool showQuickFindPopup(HWND bar) {
@@ -93,7 +94,7 @@ bool chooseFunction(int index) {
   activateFrame();
   if (ready()) {
     if (const Fnc* function = editorNavigation->functionAt(index)) {
-      goToLine(hookSet->target().title, function->line());
+      goToLine(hookSet->target().file, function->line());
     }
   }
   return true;
@@ -110,22 +111,24 @@ bool chooseInclude(int index) {
   }
   DirectoryListing listing;
   const String path =
-      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
+      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().file).view());
   String found;
   if (!findInclude(listing, path.view(), name, found)) {
     showStatus("Pas trouve");
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;
   }
-  showStatus(found.text());
-  openAndRecord(found.text());
+  const std::string file = fullPath(found.view());
+  showStatus(file.c_str());
+  openAndRecord(file.c_str());
   return true;
 }
 
 bool editDocumentation() {
   activateFrame();
   if (hookSet != nullptr) {
-    openFile((std::string(hookSet->target().documented) + ".txt").c_str());
+    // Each view of a file leads to the file's one documentation.
+    openFile((std::string(fileWithoutLine(hookSet->target().documented)) + ".txt").c_str());
   }
   return true;
 }

@@ -1,8 +1,11 @@
 #include "addon/topbar/bar_commands.h"
 
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/full_path.h"
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/header_recorder.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/project_nodes.h"
 #include "addon/ide/status_line.h"
@@ -10,6 +13,7 @@
 #include "addon/ide/tool_table.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/recent_files.h"
+#include "ideapi/ide_identifiers.h"
 
 namespace kesto {
 namespace {
@@ -37,16 +41,22 @@ std::string extensionOf(std::string_view path) {
   return dot != std::string_view::npos ? std::string(name.substr(dot)) : std::string();
 }
 
-void runToolOfNode(const ProjectNodes& nodes, unsigned node) {
+void runToolOfFile(const std::string& kind, const std::string& file) {
   if (toolTable == nullptr) {
     return;
   }
-  const std::string file = nodes.name(node);
-  std::string kind = nodes.type(node);
-  if (kind.empty()) {
-    kind = extensionOf(file);
+  String window_class;
+  const char* tool = toolTable->findTool(kind.c_str(), &window_class);
+  if (window_class == ideapi::kEditorClass) {
+    openAndRecord(file.c_str());
+  } else {
+    runTool(tool, file.c_str());
   }
-  runTool(toolTable->findTool(kind.c_str(), nullptr), file.c_str());
+}
+
+// A header's own editor that is still there, or its file.
+bool canOpen(const std::string& header) {
+  return findEditorOf(header) != nullptr || DirectoryListing().isFile(header.c_str());
 }
 
 void askToRemove(const ProjectNodes& nodes, unsigned node, const std::string& name) {
@@ -91,8 +101,18 @@ void openRecentHeader(int position) {
   }
   // A copy: opening moves the entries.
   const std::string path = recentHeaderPath(position);
-  openFile(path.c_str());
-  recentFiles->headerUsed(path.c_str(), nullptr);
+  const std::string file = fullPath(path);
+  if (!canOpen(file)) {
+    recentFiles->forgetHeader(path);
+    showStatus(("Cannot locate " + path).c_str());
+    return;
+  }
+  openFile(file.c_str());
+  if (file != path) {
+    // Written another way by an older list: it is listed once, as it is now.
+    recentFiles->headers().remove(path);
+  }
+  recentFiles->headerUsed(file.c_str(), findEditorOf(file));
 }
 
 void runExecutable(int position) {
@@ -100,7 +120,8 @@ void runExecutable(int position) {
   const unsigned node = barMenu != nullptr ? barMenu->tool(position) : 0;
   if (isUsable(nodes, node)) {
     showStatus("Running");
-    runToolOfNode(nodes, node);
+    // Its type is that one in some case of letters.
+    runToolOfFile(".exe", nodes.name(node));
   }
 }
 
@@ -119,7 +140,9 @@ void chooseProjectFile(int position) {
     } else if (ctrl) {
       askToRemove(nodes, node, projectFileName(position));
     } else {
-      runToolOfNode(nodes, node);
+      const std::string file = nodes.name(node);
+      const std::string type = nodes.type(node);
+      runToolOfFile(type.empty() ? extensionOf(file) : type, file);
     }
   }
   activateFrame();

@@ -79,11 +79,18 @@ void BarMenu::menuOpened(bool open) {
   open_ = open;
   if (!open && rebuild_due_) {
     // What was chosen comes as a message of its own and means the present menus.
-    PostMessageA(bar_, WM_COMMAND, kCommandRebuildMenu, 0);
+    rebuildSoon();
+  }
+}
+
+void BarMenu::rebuildSoon() {
+  if (!rebuild_posted_) {
+    rebuild_posted_ = PostMessageA(bar_, WM_COMMAND, kCommandRebuildMenu, 0) != FALSE;
   }
 }
 
 void BarMenu::rebuild() {
+  rebuild_posted_ = false;
   rebuild_due_ = open_;
   if (open_) {
     return;

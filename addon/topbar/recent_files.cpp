@@ -1,5 +1,6 @@
 #include "addon/topbar/recent_files.h"
 
+#include "addon/foundation/full_path.h"
 #include "addon/foundation/menu_text.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/open_file.h"
@@ -75,9 +76,9 @@ void RecentFiles::save() const {
 }
 
 int RecentFiles::headerUsed(const char* path, HWND new_editor) {
-  const std::string file(headerPath(path));
+  const std::string file = fullPath(headerPath(path));
   if (!wantsOtherView()) {
-    if (const HWND editor = findEditorTitled(file.c_str(), new_editor)) {
+    if (const HWND editor = findEditorTitled(file, new_editor)) {
       raiseEditor(editor);
       return 0;
     }
@@ -87,6 +88,11 @@ int RecentFiles::headerUsed(const char* path, HWND new_editor) {
     refreshHeaderMenu();
   }
   return 1;
+}
+
+void RecentFiles::forgetHeader(const std::string& path) {
+  headers_.remove(path);
+  refreshHeaderMenu();
 }
 
 void RecentFiles::refreshHeaderMenu() const {

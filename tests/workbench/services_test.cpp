@@ -311,6 +311,14 @@ TEST_CASE("tools") {
   CHECK(*program.last("tool")->find("name") == "EditText");
   CHECK(*program.last("tool")->find("result") == "0");
   CHECK(tools->RunTool(tools->FindTool(name), nullptr) == kToolNotHandled);
+  // Once more, it is another view; who opens the file within the program gets that one.
+  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  char title[300] = {};
+  EditorWindow* view = program.application.activeEditor();
+  GetWindowTextA(view->window(), title, sizeof title);
+  CHECK(title == folder.file("inc\\b.h") + ":2");
+  CHECK(program.application.editFile(folder.file("inc\\b.h"), 0) == view);
+  SendMessageA(view->window(), WM_CLOSE, 0, 0);
 
   ToolFake tool;
   CHECK(tools->AddTool(name, name, &tool) == 0);

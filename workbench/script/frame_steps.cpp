@@ -110,6 +110,17 @@ StepResult stepSelect(StepTry& step) {
   return StepResult::kDone;
 }
 
+StepResult stepMaximize(StepTry& step) {
+  Workbench& workbench = step.stage.workbench;
+  EditorWindow* editor = workbench.findEditor(workbench.resolve(step.arg(0)));
+  if (editor == nullptr) {
+    return noEditor(step);
+  }
+  SendMessageA(workbench.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
+               0);
+  return StepResult::kDone;
+}
+
 StepResult stepMinimize(StepTry& step) {
   HWND frame = step.stage.workbench.frame();
   if (step.attempt == 0) {

@@ -71,6 +71,8 @@ Step stepOf(Verb verb) {
       return stepMark;
     case Verb::kMessageOpen:
       return stepMessageOpen;
+    case Verb::kMaximize:
+      return stepMaximize;
     case Verb::kMinimize:
       return stepMinimize;
     case Verb::kNewProject:

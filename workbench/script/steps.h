@@ -14,6 +14,7 @@ StepResult stepSave(StepTry& step);
 StepResult stepType(StepTry& step);
 StepResult stepCaret(StepTry& step);
 StepResult stepSelect(StepTry& step);
+StepResult stepMaximize(StepTry& step);
 StepResult stepMinimize(StepTry& step);
 StepResult stepRestore(StepTry& step);
 StepResult stepActivate(StepTry& step);

@@ -32,6 +32,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kKey, kBeside, "key", 1, 1, "key [Ctrl+][Alt+][Shift+]KEY"},
     {Verb::kMake, kWithout, "make", 0, 1, "make [ok|fail]"},
     {Verb::kMark, kBeside, "mark", 0, 0, "mark"},
+    {Verb::kMaximize, kWithout, "maximize", 1, 1, "maximize FILE"},
     {Verb::kMessageOpen, kWithout, "message-open", 1, 1, "message-open N"},
     {Verb::kMinimize, kBeside, "minimize", 0, 0, "minimize"},
     {Verb::kNewProject, kWithout, "new-project", 1, 1, "new-project FOLDER"},

@@ -33,6 +33,7 @@ enum class Verb {
   kMake,
   kMark,
   kMessageOpen,
+  kMaximize,
   kMinimize,
   kNewProject,
   kNodePath,

@@ -111,7 +111,11 @@ void STDMETHODCALLTYPE EditorService::InsertText(IIdeString* text) {
 
 int STDMETHODCALLTYPE EditorService::SaveModified(IIdeString** names) {
   std::vector<std::string> saved;
-  context_.editors.saveAll(&saved);
+  std::string failure;
+  context_.editors.saveQuietly(&saved, &failure);
+  if (!failure.empty()) {
+    context_.workbench.setStatus(failure);
+  }
   if (names != nullptr) {
     *names = nullptr;
     std::string list;
