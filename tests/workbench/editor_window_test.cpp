@@ -7,7 +7,7 @@
 
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
-#include "workbench/app/command_ids.h"
+#include "workbench/windows/command_ids.h"
 
 using namespace workbench;
 

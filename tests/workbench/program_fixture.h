@@ -11,7 +11,7 @@
 #include "ideapi/ide_identifiers.h"
 #include "ideapi/ide_interfaces.h"
 #include "workbench/app/application.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

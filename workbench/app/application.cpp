@@ -1,15 +1,15 @@
 #include "workbench/app/application.h"
 
-#include "workbench/app/command_ids.h"
-#include "workbench/app/names.h"
 #include "workbench/app/settings_store.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
 Application::Application()
     : editors_(store_, settings_),
-      root_({*this, editors_, project_, messages_, live_}),
+      root_({events_, *this, *this, *this, *this, editors_, project_, messages_, live_}),
       frame_(*this),
       message_window_(messages_, [this](const Message& message) { showPlace(message); }),
       project_window_(project_, *this),

@@ -3,14 +3,14 @@
 #include <vector>
 
 #include "workbench/app/application.h"
-#include "workbench/app/command_ids.h"
 #include "workbench/app/edit_dialogs.h"
 #include "workbench/app/editor_page.h"
-#include "workbench/app/file_dialogs.h"
-#include "workbench/app/names.h"
 #include "workbench/app/options_dialog.h"
 #include "workbench/app/settings_store.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

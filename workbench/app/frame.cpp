@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/command_ids.h"
-#include "workbench/app/names.h"
-#include "workbench/app/window_class.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {

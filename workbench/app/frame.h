@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "workbench/app/handles.h"
 #include "workbench/app/status_bar.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 

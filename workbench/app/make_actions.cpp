@@ -1,6 +1,6 @@
 // Making the project.
 #include "workbench/app/application.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -1,10 +1,10 @@
 // What the commands about the project's nodes do; they work on the node that is
 // selected in the project window.
 #include "workbench/app/application.h"
-#include "workbench/app/command_ids.h"
-#include "workbench/app/file_dialogs.h"
 #include "workbench/app/node_dialogs.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

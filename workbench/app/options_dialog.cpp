@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "workbench/app/command_ids.h"
-#include "workbench/app/dialog.h"
-#include "workbench/app/page_template.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/dialog.h"
+#include "workbench/windows/page_template.h"
 
 namespace workbench {
 namespace {

@@ -1,8 +1,8 @@
 // The project and what is done to it.
 #include "workbench/app/application.h"
-#include "workbench/app/names.h"
-#include "workbench/project/path_text.h"
 #include "workbench/project/project_file.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

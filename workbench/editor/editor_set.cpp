@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "workbench/app/file_dialogs.h"
-#include "workbench/app/names.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

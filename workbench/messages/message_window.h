@@ -4,9 +4,9 @@
 
 #include <functional>
 
-#include "workbench/app/mdi_pane.h"
 #include "workbench/messages/message_viewer.h"
 #include "workbench/messages/note_tab.h"
+#include "workbench/windows/mdi_pane.h"
 
 namespace workbench {
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/command_ids.h"
-#include "workbench/app/handles.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/handles.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -10,9 +10,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "workbench/app/mdi_pane.h"
 #include "workbench/project/project.h"
 #include "workbench/project/project_view.h"
+#include "workbench/windows/mdi_pane.h"
 
 namespace workbench {
 

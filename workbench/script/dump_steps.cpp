@@ -1,6 +1,8 @@
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
 #include "workbench/events/event_log.h"
+#include "workbench/main_window.h"
 #include "workbench/script/menu_reader.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/window_text.h"
@@ -27,21 +29,20 @@ StepResult dumpMenuOf(StepTry& step, HMENU menu, const char* what) {
 
 StepResult dumpMenu(StepTry& step) {
   const MenuLoop* loop = step.stage.observer.menu();
-  HMENU menu = loop != nullptr ? loop->root : GetMenu(step.stage.workbench.frame());
+  HMENU menu = loop != nullptr ? loop->root : GetMenu(step.stage.window.frame());
   return dumpMenuOf(step, menu, "menu");
 }
 
 StepResult dumpBar(StepTry& step) {
-  HWND bar = step.stage.workbench.addonBar();
+  HWND bar = step.stage.window.addonBar();
   return dumpMenuOf(step, bar != nullptr ? GetMenu(bar) : nullptr, "menu in the add-on's bar");
 }
 
 // From the topmost down.
 StepResult dumpEditors(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  EditorWindow* active = workbench.activeEditor();
+  EditorWindow* active = step.stage.editing.activeEditor();
   std::vector<Event> items;
-  for (HWND window = GetWindow(workbench.mdiClient(), GW_CHILD); window != nullptr;
+  for (HWND window = GetWindow(step.stage.window.mdiClient(), GW_CHILD); window != nullptr;
        window = GetWindow(window, GW_HWNDNEXT)) {
     if (windowClass(window) != ideapi::kEditorClass) {
       continue;
@@ -103,7 +104,7 @@ StepResult dumpDialog(StepTry& step) {
 }
 
 StepResult dumpText(StepTry& step) {
-  EditorWindow* editor = step.stage.workbench.activeEditor();
+  EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return step.again("no editor is open", 2000);
   }

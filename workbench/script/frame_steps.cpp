@@ -1,5 +1,10 @@
 #include "ideapi/ide_interfaces.h"
-#include "workbench/app/workbench.h"
+#include "workbench/building.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
+#include "workbench/main_window.h"
+#include "workbench/paths.h"
+#include "workbench/projects.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/window_text.h"
 
@@ -22,44 +27,43 @@ HWND focusedControl(const StepTry& step) {
 }  // namespace
 
 StepResult stepOpen(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  std::string path = workbench.resolve(step.arg(0));
-  return workbench.openPath(path) ? StepResult::kDone : step.fail("could not open " + path);
+  std::string path = step.stage.paths.resolve(step.arg(0));
+  return step.stage.projects.openPath(path) ? StepResult::kDone
+                                            : step.fail("could not open " + path);
 }
 
 StepResult stepClose(StepTry& step) {
-  bool closed = step.stage.workbench.closeProject();
+  bool closed = step.stage.projects.closeProject();
   return closed ? StepResult::kDone : step.fail("the project was not closed");
 }
 
 StepResult stepEdit(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
   long line = 0;
   if (step.argCount() == 2 && !step.number(1, 1, kMostLines, &line)) {
     return StepResult::kFailed;
   }
-  std::string path = workbench.resolve(step.arg(0));
-  bool shown = workbench.editFile(path, static_cast<int>(line)) != nullptr;
+  std::string path = step.stage.paths.resolve(step.arg(0));
+  bool shown = step.stage.editing.editFile(path, static_cast<int>(line)) != nullptr;
   return shown ? StepResult::kDone : step.fail("could not edit " + path);
 }
 
 StepResult stepMake(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
   if (step.argCount() == 0) {
-    return workbench.startMake() ? StepResult::kDone : step.fail("the make did not start");
+    return step.stage.building.startMake() ? StepResult::kDone
+                                           : step.fail("the make did not start");
   }
   const bool failed = step.arg(0) == "fail";
   if (!failed && step.arg(0) != "ok") {
     return step.fail("a make ends with ok or fail");
   }
-  workbench.make(failed ? kMakeFailed : kMakeSucceeded);
+  step.stage.building.make(failed ? kMakeFailed : kMakeSucceeded);
   return StepResult::kDone;
 }
 
 StepResult stepSave(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  EditorWindow* editor = step.argCount() == 1 ? workbench.findEditor(workbench.resolve(step.arg(0)))
-                                              : workbench.activeEditor();
+  EditorWindow* editor = step.argCount() == 1
+                             ? step.stage.editing.findEditor(step.stage.paths.resolve(step.arg(0)))
+                             : step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return noEditor(step);
   }
@@ -73,7 +77,7 @@ StepResult stepType(StepTry& step) {
     }
     return StepResult::kDone;
   }
-  EditorWindow* editor = step.stage.workbench.activeEditor();
+  EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return noEditor(step);
   }
@@ -86,7 +90,7 @@ StepResult stepCaret(StepTry& step) {
   if (!step.number(0, 1, kMostLines, &line) || !step.number(1, 1, kMostLines, &column)) {
     return StepResult::kFailed;
   }
-  EditorWindow* editor = step.stage.workbench.activeEditor();
+  EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return noEditor(step);
   }
@@ -101,7 +105,7 @@ StepResult stepSelect(StepTry& step) {
       return StepResult::kFailed;
     }
   }
-  EditorWindow* editor = step.stage.workbench.activeEditor();
+  EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return noEditor(step);
   }
@@ -111,18 +115,18 @@ StepResult stepSelect(StepTry& step) {
 }
 
 StepResult stepMaximize(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  EditorWindow* editor = workbench.findEditor(workbench.resolve(step.arg(0)));
+  Stage& stage = step.stage;
+  EditorWindow* editor = stage.editing.findEditor(stage.paths.resolve(step.arg(0)));
   if (editor == nullptr) {
     return noEditor(step);
   }
-  SendMessageA(workbench.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
+  SendMessageA(stage.window.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
                0);
   return StepResult::kDone;
 }
 
 StepResult stepMinimize(StepTry& step) {
-  HWND frame = step.stage.workbench.frame();
+  HWND frame = step.stage.window.frame();
   if (step.attempt == 0) {
     ShowWindow(frame, SW_MINIMIZE);
   }
@@ -130,7 +134,7 @@ StepResult stepMinimize(StepTry& step) {
 }
 
 StepResult stepRestore(StepTry& step) {
-  HWND frame = step.stage.workbench.frame();
+  HWND frame = step.stage.window.frame();
   if (step.attempt == 0) {
     ShowWindow(frame, SW_RESTORE);
   }
@@ -138,7 +142,7 @@ StepResult stepRestore(StepTry& step) {
 }
 
 StepResult stepActivate(StepTry& step) {
-  HWND frame = step.stage.workbench.frame();
+  HWND frame = step.stage.window.frame();
   SetForegroundWindow(frame);
   if (step.stage.elsewhere != nullptr) {
     ShowWindow(step.stage.elsewhere, SW_HIDE);

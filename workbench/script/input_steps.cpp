@@ -1,6 +1,9 @@
 #include <cstdlib>
 
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
+#include "workbench/main_window.h"
+#include "workbench/paths.h"
 #include "workbench/script/input.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/title_bar.h"
@@ -14,22 +17,22 @@ void takeForeground(const StepTry& step) {
   DWORD process = 0;
   GetWindowThreadProcessId(GetForegroundWindow(), &process);
   if (process != GetCurrentProcessId()) {
-    SetForegroundWindow(step.stage.workbench.frame());
+    SetForegroundWindow(step.stage.window.frame());
   }
 }
 
 // The editor of a file, brought forward, or null with the step failed.
 HWND editorToClick(StepTry& step, const std::string& file) {
-  Workbench& workbench = step.stage.workbench;
-  std::string path = workbench.resolve(file);
-  EditorWindow* editor = workbench.findEditor(path);
+  std::string path = step.stage.paths.resolve(file);
+  EditorWindow* editor = step.stage.editing.findEditor(path);
   if (editor == nullptr) {
     step.fail("no editor shows " + path);
     return nullptr;
   }
   HWND window = editor->window();
-  if (workbench.activeEditor() == nullptr || workbench.activeEditor()->window() != window) {
-    workbench.editFile(path, 0);
+  if (step.stage.editing.activeEditor() == nullptr ||
+      step.stage.editing.activeEditor()->window() != window) {
+    step.stage.editing.editFile(path, 0);
   }
   return window;
 }

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "workbench/app/workbench.h"
+#include "workbench/main_window.h"
 #include "workbench/script/menu_reader.h"
 #include "workbench/script/steps.h"
 
@@ -166,7 +166,7 @@ StepResult openBar(StepTry& step, const Wanted& wanted) {
   if (stage.bar_opened) {
     return step.again("the menu bar does not open");
   }
-  for (HWND window : {stage.workbench.frame(), stage.workbench.addonBar()}) {
+  for (HWND window : {stage.window.frame(), stage.window.addonBar()}) {
     if (window != nullptr && wanted.position == 0 && holds(GetMenu(window), wanted)) {
       stage.bar_opened = true;
       PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, 0);
@@ -221,7 +221,7 @@ StepResult stepCommand(StepTry& step) {
   if (!step.number(0, 1, 65535, &id)) {
     return StepResult::kFailed;
   }
-  HWND bar = step.stage.workbench.addonBar();
+  HWND bar = step.stage.window.addonBar();
   if (bar == nullptr) {
     return step.again("there is no bar of the add-on", 2000);
   }
@@ -234,7 +234,7 @@ StepResult stepTick(StepTry& step) {
   if (!step.number(0, 1, 1000000, &count)) {
     return StepResult::kFailed;
   }
-  HWND bar = step.stage.workbench.addonBar();
+  HWND bar = step.stage.window.addonBar();
   if (bar == nullptr) {
     return step.again("there is no bar of the add-on", 2000);
   }

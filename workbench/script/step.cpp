@@ -3,8 +3,21 @@
 #include <charconv>
 
 #include "workbench/script/steps.h"
+#include "workbench/workbench.h"
 
 namespace workbench {
+
+Stage::Stage(Workbench& workbench, Observer& the_observer, EventHistory& the_history)
+    : window(workbench),
+      paths(workbench),
+      editing(workbench),
+      projects(workbench),
+      content(workbench),
+      building(workbench),
+      messages(workbench),
+      log(workbench.events()),
+      observer(the_observer),
+      history(the_history) {}
 
 bool StepTry::number(size_t index, long least, long most, long* value) {
   const std::string& text = arg(index);

@@ -14,11 +14,26 @@
 
 namespace workbench {
 
+class Building;
+class Editing;
+class MainWindow;
+class MessageList;
+class Paths;
+class ProjectContent;
+class Projects;
 class Workbench;
 
-// What all steps of a run share.
+// What all steps of a run share. All of it outlives the run.
 struct Stage {
-  Workbench& workbench;
+  Stage(Workbench& workbench, Observer& the_observer, EventHistory& the_history);
+
+  MainWindow& window;
+  Paths& paths;
+  Editing& editing;
+  Projects& projects;
+  ProjectContent& content;
+  Building& building;
+  MessageList& messages;
   EventLog& log;
   Observer& observer;
   EventHistory& history;

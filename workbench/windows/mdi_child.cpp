@@ -1,6 +1,6 @@
-#include "workbench/app/mdi_child.h"
+#include "workbench/windows/mdi_child.h"
 
-#include "workbench/app/window_class.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 
