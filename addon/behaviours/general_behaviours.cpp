@@ -22,12 +22,13 @@ constexpr int kFirstTabX = 20;
 constexpr int kFirstTabY = 11;
 
 void leaveToRunningIde() {
-  const HWND running = findFrame();
+  // Whichever process it is of: this one has no frame yet.
+  const HWND running = FindWindowA(ideapi::kFrameClass, nullptr);
   if (running == nullptr) {
     return;
   }
   if (IsIconic(running)) {
-    ShowWindow(running, SW_SHOW);
+    ShowWindow(running, SW_RESTORE);
   }
   SetActiveWindow(running);
   // Activation alone stays within the calling thread.

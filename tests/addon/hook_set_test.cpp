@@ -189,14 +189,27 @@ TEST_CASE("keys become commands when their whole code fits") {
   hooked.host.searches[3] = 2116;  // Alt+F5
   hooked.afterInput();
 
-  hooked.press({222});
-  CHECK(hooked.afterInput() == std::vector<int>{102});
-  hooked.press({VK_CONTROL, 222});
-  CHECK(hooked.afterInput().empty());
-  hooked.press({VK_CONTROL, VK_SHIFT, VK_F5});
-  CHECK(hooked.afterInput().empty());  // no editor yet
+  const auto pressed = [&](std::initializer_list<BYTE> keys) {
+    hooked.press(keys);
+    return hooked.afterInput();
+  };
+  const std::vector<int> nothing;
+  // No editor yet.
+  CHECK(pressed({222}) == nothing);
+  CHECK(pressed({VK_CONTROL, VK_SHIFT, VK_F5}) == nothing);
   const HWND editor = hooked.windows.editor("C:\\A.CPP:1");
+  const HWND text = hooked.windows.editorText(editor);
+  hooked.afterInput();
+  CHECK(pressed({222}) == std::vector<int>{102});
+  CHECK(pressed({VK_CONTROL, 222}) == nothing);
+  // Keys are for the dialog that disables the frame, with its own fields.
+  EnableWindow(hooked.windows.frame, FALSE);
+  SetFocus(text);
+  CHECK(pressed({222}) == nothing);
+  CHECK(pressed({VK_CONTROL, VK_SHIFT, VK_F5}) == nothing);
+  EnableWindow(hooked.windows.frame, TRUE);
   SetFocus(hooked.windows.frame);
+  CHECK(pressed({222}) == nothing);
   hooked.afterInput();
   hooked.press({VK_CONTROL, VK_SHIFT, VK_F5});
   CHECK(hooked.afterInput() == std::vector<int>{190});
@@ -225,6 +238,8 @@ TEST_CASE("a capturing window gets every key but the modifiers") {
   CHECK(hooked.afterInput().empty());
   CHECK(captured == std::vector<WPARAM>{VK_F5, 222});
   hooked.hooks.stopKeyCapture();
+  hooked.windows.editorText(hooked.windows.editor("A.CPP"));
+  hooked.afterInput();
   hooked.press({222});
   CHECK(hooked.afterInput() == std::vector<int>{102});
   DestroyWindow(capture);
@@ -273,6 +288,9 @@ TEST_CASE("windows that come, go and repaint are told by the host's wishes") {
   PostMessageA(hooked.windows.bar, WM_COMMAND, 13104, 0);
   hooked.windows.drain();
   CHECK(hooked.host.auto_save_resets == 1);
+  // As a shortcut says it.
+  SendMessageA(hooked.windows.frame, WM_COMMAND, MAKEWPARAM(13104, 1), 0);
+  CHECK(hooked.host.auto_save_resets == 2);
 }
 
 TEST_CASE("the bar hides, comes back and rises with the frame") {

@@ -1,11 +1,26 @@
 #include "workbench/app/application.h"
 
+#include <cstring>
+
 #include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/path_text.h"
 
 namespace workbench {
+namespace {
+
+BOOL CALLBACK takeBar(HWND window, LPARAM data) {
+  char name[8] = "";
+  GetClassNameA(window, name, sizeof name);
+  if (std::strcmp(name, "KADO") != 0) {
+    return TRUE;
+  }
+  *reinterpret_cast<HWND*>(data) = window;
+  return FALSE;
+}
+
+}  // namespace
 
 Application::Application()
     : editors_(store_, settings_),
@@ -54,6 +69,12 @@ void Application::showTools() {
     items.push_back({CM_FIRST_TOOL + static_cast<int>(tool.handle), tool.text});
   }
   frame_.setTools(items);
+}
+
+HWND Application::addonBar() {
+  HWND bar = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), takeBar, reinterpret_cast<LPARAM>(&bar));
+  return bar;
 }
 
 int Application::run() {

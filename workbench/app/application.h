@@ -76,7 +76,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
-  HWND addonBar() override { return FindWindowA("KADO", nullptr); }
+  HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;
   void renameFromWindow(unsigned int node, const std::string& name) override;

@@ -50,7 +50,8 @@ StepResult dumpEditors(StepTry& step) {
     Event item("");
     item.text("title", windowText(window))
         .flag("active", active != nullptr && active->window() == window)
-        .flag("iconic", IsIconic(window) != 0);
+        .flag("iconic", IsIconic(window) != 0)
+        .flag("maximized", IsZoomed(window) != 0);
     addPlace(item, window);
     items.push_back(item);
   }

@@ -24,6 +24,17 @@ HWND focusedControl(const StepTry& step) {
   return dialog != nullptr && focus != nullptr && IsChild(dialog, focus) ? focus : nullptr;
 }
 
+StepResult maximizeEditor(StepTry& step) {
+  Stage& stage = step.stage;
+  EditorWindow* editor = stage.editing.findEditor(stage.paths.resolve(step.arg(0)));
+  if (editor == nullptr) {
+    return noEditor(step);
+  }
+  SendMessageA(stage.window.mdiClient(), WM_MDIMAXIMIZE,
+               reinterpret_cast<WPARAM>(editor->window()), 0);
+  return StepResult::kDone;
+}
+
 }  // namespace
 
 StepResult stepOpen(StepTry& step) {
@@ -114,23 +125,23 @@ StepResult stepSelect(StepTry& step) {
   return StepResult::kDone;
 }
 
-StepResult stepMaximize(StepTry& step) {
-  Stage& stage = step.stage;
-  EditorWindow* editor = stage.editing.findEditor(stage.paths.resolve(step.arg(0)));
-  if (editor == nullptr) {
-    return noEditor(step);
-  }
-  SendMessageA(stage.window.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
-               0);
-  return StepResult::kDone;
-}
-
 StepResult stepMinimize(StepTry& step) {
   HWND frame = step.stage.window.frame();
   if (step.attempt == 0) {
     ShowWindow(frame, SW_MINIMIZE);
   }
   return IsIconic(frame) ? StepResult::kDone : step.again("the frame is not minimized");
+}
+
+StepResult stepMaximize(StepTry& step) {
+  if (step.argCount() == 1) {
+    return maximizeEditor(step);
+  }
+  HWND frame = step.stage.window.frame();
+  if (step.attempt == 0) {
+    ShowWindow(frame, SW_MAXIMIZE);
+  }
+  return IsZoomed(frame) ? StepResult::kDone : step.again("the frame is not maximized");
 }
 
 StepResult stepRestore(StepTry& step) {
@@ -149,6 +160,20 @@ StepResult stepActivate(StepTry& step) {
   }
   bool active = GetActiveWindow() == frame || GetLastActivePopup(frame) == GetActiveWindow();
   return active ? StepResult::kDone : step.again("the frame does not become active");
+}
+
+// A second IDE may also end at once, for the sake of the one that runs.
+StepResult stepOtherIde(StepTry& step) {
+  OtherIde& other = step.stage.other_ide;
+  const bool plain = step.argCount() == 1;
+  if (plain && step.arg(0) != "plain") {
+    return step.fail("another IDE is plain or has the add-on");
+  }
+  if (step.attempt == 0 && !other.start(!plain)) {
+    return step.fail("another IDE cannot be started");
+  }
+  return other.inFront() || other.ended() ? StepResult::kDone
+                                          : step.again("the other IDE does not come forward");
 }
 
 StepResult stepDeactivate(StepTry& step) {

@@ -62,6 +62,8 @@ Step stepOf(Verb verb) {
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDoubleClickTitle:
+      return stepDoubleClickTitle;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
@@ -96,6 +98,8 @@ Step stepOf(Verb verb) {
       return stepOpen;
     case Verb::kOption:
       return stepOption;
+    case Verb::kOtherIde:
+      return stepOtherIde;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:

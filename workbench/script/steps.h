@@ -14,10 +14,11 @@ StepResult stepSave(StepTry& step);
 StepResult stepType(StepTry& step);
 StepResult stepCaret(StepTry& step);
 StepResult stepSelect(StepTry& step);
-StepResult stepMaximize(StepTry& step);
 StepResult stepMinimize(StepTry& step);
+StepResult stepMaximize(StepTry& step);
 StepResult stepRestore(StepTry& step);
 StepResult stepActivate(StepTry& step);
+StepResult stepOtherIde(StepTry& step);
 StepResult stepDeactivate(StepTry& step);
 
 // project_steps.cpp: the project's tree and options, the message window
@@ -37,6 +38,7 @@ StepResult dumpMessages(StepTry& step);
 // input_steps.cpp: real keys and clicks
 StepResult stepKey(StepTry& step);
 StepResult stepClickTitle(StepTry& step);
+StepResult stepDoubleClickTitle(StepTry& step);
 StepResult stepRightClickTitle(StepTry& step);
 StepResult stepClickAt(StepTry& step);
 StepResult stepClickCaption(StepTry& step);
