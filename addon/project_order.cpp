@@ -159,8 +159,9 @@ constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace
 
-constinit const ProjectOrder kProjectOrder = {
-    kAnnounced, kOpened, kSettled, kClosing, kClosingLoaded, kClosed, kGone, kSaved, nodeChanged, treeChanged};
+constinit const ProjectOrder kProjectOrder = {kAnnounced,     kOpened,    kSettled, kClosing,
+                                              kClosingLoaded, kClosed,    kGone,    kSaved,
+                                              nodeChanged,    treeChanged};
 constinit const MakeOrder kMakeOrder = {kMakeStarted, kMakeEnded};
 
 }  // namespace kesto

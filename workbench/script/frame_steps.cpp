@@ -30,8 +30,8 @@ StepResult maximizeEditor(StepTry& step) {
   if (editor == nullptr) {
     return noEditor(step);
   }
-  SendMessageA(stage.window.mdiClient(), WM_MDIMAXIMIZE,
-               reinterpret_cast<WPARAM>(editor->window()), 0);
+  SendMessageA(stage.window.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
+               0);
   return StepResult::kDone;
 }
 
