@@ -48,7 +48,8 @@ HWND findEditorOf(const std::string& path) {
 }
 
 void raiseEditor(HWND editor) {
-  ShowWindow(editor, SW_SHOWNORMAL);
+  // Only an icon has to be restored: one that is maximised would lose that.
+  ShowWindow(editor, IsIconic(editor) ? SW_SHOWNORMAL : SW_SHOW);
   SetWindowPos(editor, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

@@ -23,12 +23,12 @@ constexpr char kBadFile[] = "Internal error: bad file";
 constexpr int kTitleSize = 512;
 
 // Whether the node can be worked on; the status line says why when it cannot.
-bool isUsable(const ProjectNodes& nodes, unsigned node) {
+bool isUsable(unsigned node) {
   if (node == 0) {
     showStatus(kNotEnoughFiles);
     return false;
   }
-  if (!nodes.exists(node)) {
+  if (!ProjectNodes().exists(node)) {
     showStatus(kBadFile);
     return false;
   }
@@ -59,10 +59,33 @@ bool canOpen(const std::string& header) {
   return findEditorOf(header) != nullptr || DirectoryListing().isFile(header.c_str());
 }
 
-void askToRemove(const ProjectNodes& nodes, unsigned node, const std::string& name) {
+void openNode(unsigned node) {
+  std::string file;
+  std::string kind;
+  {
+    const ProjectNodes nodes;
+    file = nodes.name(node);
+    kind = nodes.type(node);
+  }
+  runToolOfFile(kind.empty() ? extensionOf(file) : kind, file);
+}
+
+// Nothing of the IDE is held while it asks, and only what was asked about is removed.
+void askToRemove(unsigned node, const std::string& name) {
+  const std::string file = ProjectNodes().name(node);
   const std::string question = "Okay to remove\n" + name + " ?";
-  if (showMessage(nullptr, question.c_str(), "Confirmation", kMessageYesNo) == kAnswerYes) {
+  if (showMessage(nullptr, question.c_str(), "Confirmation", kMessageYesNo) != kAnswerYes) {
+    return;
+  }
+  const ProjectNodes nodes;
+  if (nodes.exists(node) && nodes.name(node) == file) {
     nodes.remove(node);
+  }
+}
+
+void openAlternatively(unsigned node) {
+  if (const char* text = toolResultText(ProjectNodes().openAlternatively(node))) {
+    showStatus(text);
   }
 }
 
@@ -108,6 +131,9 @@ void openRecentHeader(int position) {
     return;
   }
   openFile(file.c_str());
+  if (recentFiles == nullptr) {
+    return;
+  }
   if (file != path) {
     // Written another way by an older list: it is listed once, as it is now.
     recentFiles->headers().remove(path);
@@ -116,33 +142,27 @@ void openRecentHeader(int position) {
 }
 
 void runExecutable(int position) {
-  const ProjectNodes nodes;
   const unsigned node = barMenu != nullptr ? barMenu->tool(position) : 0;
-  if (isUsable(nodes, node)) {
+  if (isUsable(node)) {
     showStatus("Running");
     // Its type is that one in some case of letters.
-    runToolOfFile(".exe", nodes.name(node));
+    runToolOfFile(".exe", ProjectNodes().name(node));
   }
 }
 
 void chooseProjectFile(int position) {
   const bool alt = GetKeyState(VK_MENU) < 0;
   const bool ctrl = GetKeyState(VK_CONTROL) < 0;
-  const ProjectNodes nodes;
   const unsigned node = barMenu != nullptr ? barMenu->file(position) : 0;
-  if (isUsable(nodes, node)) {
+  if (isUsable(node)) {
     if (alt && ctrl) {
-      if (const char* text = toolResultText(nodes.openAlternatively(node))) {
-        showStatus(text);
-      }
+      openAlternatively(node);
     } else if (alt) {
       barMenu->features().quickAdd(node);
     } else if (ctrl) {
-      askToRemove(nodes, node, projectFileName(position));
+      askToRemove(node, projectFileName(position));
     } else {
-      const std::string file = nodes.name(node);
-      const std::string type = nodes.type(node);
-      runToolOfFile(type.empty() ? extensionOf(file) : type, file);
+      openNode(node);
     }
   }
   activateFrame();

@@ -57,6 +57,9 @@ class Frame {
   bool createClient();
   void layOut();
   void enableItems(HMENU menu);
+  // Asks what has to be asked before the program may end.
+  bool mayClose();
+  // Ends the program, from within whatever menu, box or dialog is open.
   void close();
 
   FrameHandler& handler_;
@@ -68,6 +71,7 @@ class Frame {
   StatusBar status_;
   TopmostOrder topmost_order_;
   OwnedAccelerators accelerators_;
+  bool asking_ = false;
   bool closing_ = false;
 };
 
