@@ -17,7 +17,7 @@ bool isPlain(char c) {
 
 bool FileMask::plain() const {
   return !mask_.empty() && mask_.back() != '.' && mask_.back() != ' ' &&
-         std::all_of(mask_.begin(), mask_.end(), isPlain);
+         mask_.find("..") == std::string::npos && std::all_of(mask_.begin(), mask_.end(), isPlain);
 }
 
 // Only the last "*" met is ever taken back: it can stand for whatever an earlier one could.

@@ -2,9 +2,9 @@
 // characters; a "." before a "*" also stands for the end of a name without one, so that
 // "main.*" fits "main". The letters a to z fit in either case.
 //
-// What else a mask may hold means different things to different systems: "?", a dot or a
-// blank at the end, letters beyond a to z. Such a mask is not plain, and the system is
-// asked what fits it.
+// What else a mask may hold means different things to different systems: "?", dots in a
+// row, a dot or a blank at the end, letters beyond a to z. Such a mask is not plain, and
+// the system is asked what fits it.
 #pragma once
 
 #include <string>

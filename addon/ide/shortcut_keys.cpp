@@ -35,9 +35,6 @@ bool HookSet::onSwallowedEscape(LPARAM lParam) {
 }
 
 bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
-  if (virtual_key == VK_ESCAPE && onSwallowedEscape(lParam)) {
-    return true;
-  }
   if (key_capture_ != nullptr) {
     return onCapturedKey(virtual_key, lParam);
   }
