@@ -1,6 +1,6 @@
 // Whole generations. The cases of data/ are pairs: NAME.tree holds the sources, NAME.site
-// the pages in their order, each after a line "==== PATH". What differs is left beside the
-// program as NAME.actual.
+// the pages in their order, each after a line "==== PATH". What differs is left in
+// the build tree as test-output/NAME.actual.
 #include <filesystem>
 #include <fstream>
 #include <iterator>

@@ -1,7 +1,8 @@
 // The scanner on the files of data/: NAME.src is scanned; NAME.functions,
 // NAME.sorted and NAME.includes, as far as they are there, hold what comes of it.
 // Functions are shown as LINE|CLASS|NAME|. A source without CR is scanned with all
-// three kinds of line ends. What differs is left beside the program as NAME.actual.
+// three kinds of line ends. What differs is left in the build tree as
+// test-output/NAME.actual.
 #include "addon/navigation/source_scanner.h"
 
 #include <filesystem>

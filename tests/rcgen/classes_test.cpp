@@ -1,6 +1,6 @@
 // The classes made of resource scripts. data/NAME.rc is the only script of a unit NAME,
-// whose files must be data/rcNAME.h and data/rcNAME.cpp. What differs is left beside the
-// program as FILE.actual.
+// whose files must be data/rcNAME.h and data/rcNAME.cpp. What differs is left in
+// the build tree as test-output/FILE.actual.
 #include <filesystem>
 #include <fstream>
 #include <iterator>
