@@ -16,11 +16,12 @@ class DirectoryEntries {
   enum class Kind : char { kFile = 'f', kDirectory = 'd', kLink = 'l' };
 
   // The short name is the one of 8 and 3 characters, empty when there is none besides
-  // the name.
+  // the name. A name ends at its first zero.
   void add(Kind kind, std::string_view name, std::string_view short_name = {}) {
     packed_ += static_cast<char>(kind);
-    ((packed_ += name) += '\0') += short_name;
-    packed_ += '\0';
+    for (const std::string_view one : {name, short_name}) {
+      (packed_ += one.substr(0, one.find('\0'))) += '\0';
+    }
   }
 
   // Calls each(kind, name, short name); the views live as long as no entry is added.

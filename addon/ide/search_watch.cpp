@@ -24,6 +24,10 @@ bool escapePressed() {
   return pressed && process == GetCurrentProcessId();
 }
 
+std::string counted(int count, const char* what) {
+  return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}
+
 void paintWindows() {
   MSG message;
   for (int i = 0; i < kMostPaintings; ++i) {
@@ -57,8 +61,8 @@ bool SearchWatch::goOn(int directories, int files) {
   }
   if (now - begun_ >= kShort && now - told_ >= kTellPeriod) {
     told_ = now;
-    const std::string shown = files > 0 ? std::to_string(files) + " files in " : std::string();
-    showStatus((text_ + ' ' + shown + std::to_string(directories) + " folders, Esc stops").c_str());
+    const std::string shown = files > 0 ? counted(files, "file") + " in " : std::string();
+    showStatus((text_ + ' ' + shown + counted(directories, "folder") + ", Esc stops").c_str());
   }
   paintWindows();
   return true;

@@ -146,7 +146,7 @@ TEST_CASE("files come before directories, depth first in listing order") {
 
 TEST_CASE("a search lists a directory once, whatever the masks and wherever it starts") {
   PlayedTree tree;
-  tree.files["P"] = {"x.html", "y.c"};
+  tree.files["P"] = {"x.html", std::string("y.c\0\0", 5)};
   tree.short_names["x.html"] = "X~1.HTM";
   tree.directories["P"] = {"sub"};
   tree.files["P\\sub"] = {"s.h"};
