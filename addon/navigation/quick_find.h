@@ -36,7 +36,7 @@ class QuickFind {
   const String& keyText(Search search) const { return key_texts_[static_cast<int>(search)]; }
 
   // Asks for a name, searches it and shows what was found. A search that comes while
-  // another still asks or searches does nothing.
+  // another still asks does nothing.
   void run(Search search);
   // The popup of the last method search, at the mouse; its ids start at 800.
   void showMethodResults(HWND bar);
@@ -69,7 +69,7 @@ class QuickFind {
   CrossReferenceMessages messages_;
 
   PromptHistory history_;
-  bool running_ = false;
+  bool asking_ = false;
   // Of the last posted message, which points here.
   char found_path_[kPathLimit + 1] = "";
 };
