@@ -70,6 +70,8 @@ Step stepOf(Verb verb) {
       return stepEdit;
     case Verb::kExpect:
       return stepExpect;
+    case Verb::kExpectButtons:
+      return stepExpectButtons;
     case Verb::kExpectNot:
       return stepExpectNot;
     case Verb::kExpectRegistry:

@@ -26,6 +26,7 @@ enum class Verb {
   kEcho,
   kEdit,
   kExpect,
+  kExpectButtons,
   kExpectNot,
   kExpectRegistry,
   kHandles,
