@@ -1,6 +1,7 @@
 // What an editor shows after painting only what changed.
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -80,6 +81,33 @@ class Views {
   EditorWindow* other = nullptr;
 };
 
+// Counts how often the frames of editors are painted.
+class FramePaintings {
+ public:
+  FramePaintings() {
+    count_ = 0;
+    hook_ = SetWindowsHookExA(WH_CALLWNDPROC, watch, nullptr, GetCurrentThreadId());
+  }
+  ~FramePaintings() { UnhookWindowsHookEx(hook_); }
+  FramePaintings(const FramePaintings&) = delete;
+  FramePaintings& operator=(const FramePaintings&) = delete;
+  int count() const { return count_; }
+
+ private:
+  static LRESULT CALLBACK watch(int code, WPARAM w, LPARAM l) {
+    const auto& message = *reinterpret_cast<const CWPSTRUCT*>(l);
+    char name[80] = "";
+    GetClassNameA(message.hwnd, name, sizeof name);
+    if (message.message == WM_NCPAINT && std::string(name) == ideapi::kEditorClass) {
+      ++count_;
+    }
+    return CallNextHookEx(nullptr, code, w, l);
+  }
+
+  static inline int count_ = 0;
+  HHOOK hook_ = nullptr;
+};
+
 }  // namespace
 
 TEST_CASE("what is painted after a change is what a full painting shows") {
@@ -142,4 +170,48 @@ TEST_CASE("a key paints the rows that it changes") {
   SendMessageA(text, WM_CHAR, 'x', 0);
   CHECK(views.stale() > 0);
   CHECK(views.stale() < area.bottom / 4);
+}
+
+TEST_CASE("many views are laid out beside or behind each other and painted once") {
+  Views views;
+  Application& application = views.program.application;
+  constexpr int kViews = 40;
+  for (int i = 2; i < kViews; ++i) {
+    application.frameCommand(CM_WINDOW_NEW_VIEW);
+  }
+  const HWND client = application.mdiClient();
+  ShowWindow(views.view->window(), SW_MINIMIZE);
+  ShowWindow(views.other->window(), SW_MAXIMIZE);
+  RECT icon = {};
+  GetWindowRect(views.view->window(), &icon);
+  for (const int command : {CM_WINDOW_TILE, CM_WINDOW_CASCADE, CM_WINDOW_TILE}) {
+    CAPTURE(command);
+    FramePaintings paintings;
+    application.frameCommand(command);
+    RedrawWindow(client, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    CHECK(paintings.count() >= kViews);
+    CHECK(paintings.count() <= 2 * kViews);
+    CHECK(IsIconic(views.view->window()) != 0);
+    RECT whole = {};
+    GetWindowRect(client, &whole);
+    long covered = 0;
+    long last_bottom = 0;
+    for (HWND child = GetWindow(client, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+      RECT place = {};
+      RECT inside = {};
+      GetWindowRect(child, &place);
+      if (IsIconic(child) == 0 && GetWindow(child, GW_OWNER) == nullptr) {
+        CHECK((IntersectRect(&inside, &place, &whole) && EqualRect(&inside, &place)));
+        covered += (place.right - place.left) * (place.bottom - place.top);
+        last_bottom = std::max(last_bottom, place.bottom);
+      }
+    }
+    if (command == CM_WINDOW_TILE) {
+      RECT area = {};
+      GetClientRect(client, &area);
+      CHECK(last_bottom <= icon.top);
+      CHECK(covered == area.right * (area.bottom - GetSystemMetrics(SM_CYICONSPACING)));
+    }
+  }
 }
