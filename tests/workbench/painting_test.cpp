@@ -34,11 +34,6 @@ class Views {
     // The caret blinks.
     SetFocus(nullptr);
   }
-  ~Views() {
-    // Closing leaves what was typed behind.
-    other->save();
-  }
-
   std::vector<DWORD> pixels() const {
     UpdateWindow(view->textWindow());
     RECT area = {};

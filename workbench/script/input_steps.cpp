@@ -12,11 +12,15 @@
 namespace workbench {
 namespace {
 
+bool isOwn(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
 // Input goes to the foreground: the thread must have it.
 void takeForeground(const StepTry& step) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(GetForegroundWindow(), &process);
-  if (process != GetCurrentProcessId()) {
+  if (!isOwn(GetForegroundWindow())) {
     SetForegroundWindow(step.stage.window.frame());
   }
 }
@@ -110,6 +114,23 @@ StepResult stepClickTitle(StepTry& step) {
   return clickEditor(step, editor, place, MouseButton::kLeft);
 }
 
+StepResult stepDoubleClickTitle(StepTry& step) {
+  long button = 0;
+  if (!step.number(1, 0, 2, &button)) {
+    return StepResult::kFailed;
+  }
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  POINT place = titleButtonCenter(editor, static_cast<int>(button), storedTitleSide());
+  StepResult result = clickEditor(step, editor, place, MouseButton::kLeft);
+  if (result == StepResult::kDone) {
+    clickMouse(place, MouseButton::kLeft);
+  }
+  return result;
+}
+
 StepResult stepExpectButtons(StepTry& step) {
   TitleSide side = TitleSide::kLeft;
   HWND editor = sideOf(step, 1, &side) ? editorToClick(step, step.arg(0)) : nullptr;
@@ -141,7 +162,10 @@ StepResult stepClickAt(StepTry& step) {
   if (!step.number(0, 0, 32767, &x) || !step.number(1, 0, 32767, &y)) {
     return StepResult::kFailed;
   }
-  takeForeground(step);
+  // A window of this program that is in reach comes forward by the click itself.
+  if (!isOwn(WindowFromPoint({x, y}))) {
+    takeForeground(step);
+  }
   return click(step, {x, y}, MouseButton::kLeft);
 }
 
