@@ -24,6 +24,9 @@ class FrameHandler {
   // The editors are gone, the frame's windows still stand.
   virtual void frameClosing() = 0;
   virtual void programActivated() = 0;
+  // Another start of the program gives its path away; empty for none. False refuses it.
+  virtual bool mayTakePath() = 0;
+  virtual void takePath(const std::string& path) = 0;
   // The dialog that is open without a loop of its own; null for none.
   virtual HWND modelessDialog() = 0;
 
@@ -58,6 +61,7 @@ class Frame {
   void layOut();
   void enableItems(HMENU menu);
   void close();
+  bool takeOver(const COPYDATASTRUCT& data);
 
   FrameHandler& handler_;
   HINSTANCE instance_ = nullptr;
@@ -69,6 +73,7 @@ class Frame {
   TopmostOrder topmost_order_;
   OwnedAccelerators accelerators_;
   bool closing_ = false;
+  std::string taken_;  // a path that another start gave away
 };
 
 }  // namespace workbench
