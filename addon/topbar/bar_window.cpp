@@ -1,5 +1,7 @@
 #include "addon/topbar/bar_window.h"
 
+#include <string>
+
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/html/documentation_run.h"
 #include "addon/ide/bar_messages.h"
@@ -77,7 +79,9 @@ void onMenuLoop(bool begins) {
 }
 
 void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
-  if (openAndRecord(reinterpret_cast<const char*>(path))) {
+  // A copy: opening may ask, and the IDE may have closed by the answer.
+  const std::string file(reinterpret_cast<const char*>(path));
+  if (openAndRecord(file.c_str()) && IsWindow(bar)) {
     PostMessageA(bar, kGoToLineMessage, line, path);
   }
 }
@@ -149,14 +153,14 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
 
 }  // namespace
 
-bool registerBarClass(HINSTANCE instance) {
+void registerBarClass(HINSTANCE instance) {
   WNDCLASSA bar_class = {};
   bar_class.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
   bar_class.lpfnWndProc = barProcedure;
   bar_class.hInstance = instance;
   bar_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
   bar_class.lpszClassName = kBarClass;
-  return RegisterClassA(&bar_class) != 0;
+  RegisterClassA(&bar_class);
 }
 
 void unregisterBarClass(HINSTANCE instance) {

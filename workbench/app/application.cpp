@@ -4,7 +4,7 @@
 
 #include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
-#include "workbench/windows/names.h"
+#include "workbench/windows/message_box.h"
 #include "workbench/windows/path_text.h"
 
 namespace workbench {
@@ -84,6 +84,8 @@ int Application::run() {
     frameClosing();
     DestroyWindow(frame_.window());
   }
+  // Calls of the add-on that were under way as it was shut down have returned by now.
+  root_.reportLeaks();
   return code;
 }
 
@@ -98,7 +100,6 @@ void Application::frameClosing() {
   root_.project().setView(nullptr);
   addon_.shutDown();
   root_.tools().setMenuListener({});
-  root_.reportLeaks();
 }
 
 void Application::showError(const std::string& text) {
@@ -106,7 +107,7 @@ void Application::showError(const std::string& text) {
 }
 
 int Application::ask(const std::string& text, UINT buttons) {
-  return MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, buttons);
+  return showBox(frame_.window(), text, buttons);
 }
 
 std::string Application::projectDirectory() {

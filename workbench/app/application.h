@@ -123,7 +123,7 @@ class Application final : public Workbench,
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
-  bool editCommand(int id, EditorChild* child);
+  void editCommand(int id, EditorChild* child);
   bool windowCommand(int id, EditorChild* child);
   bool projectCommand(int id);
   bool nodeCommand(int id);

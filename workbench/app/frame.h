@@ -60,6 +60,9 @@ class Frame {
   bool createClient();
   void layOut();
   void enableItems(HMENU menu);
+  // Asks what has to be asked before the program may end.
+  bool mayClose();
+  // Ends the program, from within whatever menu, box or dialog is open.
   void close();
   bool takeOver(const COPYDATASTRUCT& data);
 
@@ -72,6 +75,7 @@ class Frame {
   StatusBar status_;
   TopmostOrder topmost_order_;
   OwnedAccelerators accelerators_;
+  bool asking_ = false;
   bool closing_ = false;
   std::string taken_;  // a path that another start gave away
 };

@@ -141,6 +141,10 @@ bool Application::saveProject() {
           MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
     return false;
   }
+  // While it was asked the project may have closed, or given way to another.
+  if (project_.file() != file) {
+    return false;
+  }
   const FileFault fault =
       saveFile(store_, file, writeProjectFile(project_.tree(), project_.folder()));
   if (fault != FileFault::kNone) {

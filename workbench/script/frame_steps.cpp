@@ -67,7 +67,9 @@ StepResult stepSave(StepTry& step) {
   if (editor == nullptr) {
     return noEditor(step);
   }
-  return editor->save() ? StepResult::kDone : step.fail("could not save " + editor->file());
+  // The editor may be gone when a box has been answered.
+  const std::string file = editor->file();
+  return editor->save() ? StepResult::kDone : step.fail("could not save " + file);
 }
 
 StepResult stepType(StepTry& step) {
@@ -173,6 +175,33 @@ StepResult stepDeactivate(StepTry& step) {
   SetForegroundWindow(elsewhere);
   bool active = GetActiveWindow() == elsewhere;
   return active ? StepResult::kDone : step.again("the frame stays active");
+}
+
+// The system commands of a window inside the frame, found by its title.
+StepResult stepDocument(StepTry& step) {
+  const struct {
+    const char* word;
+    WPARAM command;
+  } commands[] = {{"minimize", SC_MINIMIZE}, {"maximize", SC_MAXIMIZE}, {"restore", SC_RESTORE}};
+  HWND client = step.stage.window.mdiClient();
+  HWND window = GetWindow(client, GW_CHILD);
+  while (window != nullptr && !wildcardMatch(step.arg(0), windowText(window))) {
+    window = GetWindow(window, GW_HWNDNEXT);
+  }
+  if (window == nullptr) {
+    return step.again("no window of the frame is called " + step.arg(0), 2000);
+  }
+  if (step.arg(1) == "activate") {
+    SendMessageA(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(window), 0);
+    return StepResult::kDone;
+  }
+  for (const auto& each : commands) {
+    if (step.arg(1) == each.word) {
+      SendMessageA(window, WM_SYSCOMMAND, each.command, 0);
+      return StepResult::kDone;
+    }
+  }
+  return step.fail("a window is made to activate, minimize, maximize or restore");
 }
 
 }  // namespace workbench

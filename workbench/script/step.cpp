@@ -54,14 +54,20 @@ Step stepOf(Verb verb) {
       return stepClickCaption;
     case Verb::kClickTitle:
       return stepClickTitle;
+    case Verb::kClipboard:
+      return stepClipboard;
     case Verb::kClose:
       return stepClose;
+    case Verb::kCloseFrame:
+      return stepCloseFrame;
     case Verb::kCommand:
       return stepCommand;
     case Verb::kDeactivate:
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDocument:
+      return stepDocument;
     case Verb::kDoubleClickTitle:
       return stepDoubleClickTitle;
     case Verb::kDump:
@@ -70,6 +76,8 @@ Step stepOf(Verb verb) {
       return stepEcho;
     case Verb::kEdit:
       return stepEdit;
+    case Verb::kEndSession:
+      return stepEndSession;
     case Verb::kExpect:
       return stepExpect;
     case Verb::kExpectNot:

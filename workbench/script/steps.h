@@ -20,6 +20,15 @@ StepResult stepRestore(StepTry& step);
 StepResult stepActivate(StepTry& step);
 StepResult stepOtherIde(StepTry& step);
 StepResult stepDeactivate(StepTry& step);
+StepResult stepDocument(StepTry& step);
+
+// session_steps.cpp: how the program ends
+StepResult stepCloseFrame(StepTry& step);
+StepResult stepEndSession(StepTry& step);
+
+// clipboard_steps.cpp
+StepResult stepClipboard(StepTry& step);
+StepResult dumpClipboard(StepTry& step);
 
 // project_steps.cpp: the project's tree and options, the message window
 StepResult stepNewProject(StepTry& step);
