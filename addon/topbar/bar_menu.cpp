@@ -151,7 +151,8 @@ void BarMenu::nodeChanged(unsigned node, const char* name) {
   const std::string title(fileNamePart(name));
   for (size_t n = 0; n < plan_.tools.size(); ++n) {
     if (plan_.tools[n] == node) {
-      changeText(menuAt(BarMenuPlan::kMain), static_cast<UINT>(kFirstToolId) + n, false, toolText(title));
+      changeText(menuAt(BarMenuPlan::kMain), static_cast<UINT>(kFirstToolId) + n, false,
+                 toolText(title));
     }
   }
   for (size_t n = 0; n < plan_.files.size(); ++n) {

@@ -196,7 +196,8 @@ TEST_CASE("what fits a mask") {
       }
     }
   }
-  for (const char* mask : {"", "a?", "*.", "a..*", "*.c ", "a<", "a>", "a\"", "s\\*.c", "C:*", "\xe9*"}) {
+  for (const char* mask :
+       {"", "a?", "*.", "a..*", "*.c ", "a<", "a>", "a\"", "s\\*.c", "C:*", "\xe9*"}) {
     CAPTURE(mask);
     CHECK_FALSE(FileMask(mask).plain());
   }
