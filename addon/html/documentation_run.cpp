@@ -5,9 +5,9 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/path.h"
-#include "addon/foundation/text_file.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/current_project.h"
@@ -27,13 +27,6 @@ constexpr DWORD kProgressPeriod = 100;  // milliseconds
 constexpr std::size_t kProjectExtension = 4;
 // What ShellExecute yields for a failure at most.
 constexpr INT_PTR kShellFailure = 32;
-
-class DiskFiles : public SiteFiles {
- public:
-  bool read(const char* path, std::string& text) override { return readTextFile(path, text); }
-  void makeDirectory(const char* path) override { CreateDirectoryA(path, nullptr); }
-  bool write(const char* path, std::string_view text) override { return writeTextFile(path, text); }
-};
 
 std::string projectName() {
   std::string name(fileNamePart(projectFile()));
@@ -86,7 +79,7 @@ DWORD WINAPI DocumentationRun::work(void* run) {
   DocumentationRun& self = *static_cast<DocumentationRun*>(run);
   ++runningGenerations;
   DirectoryListing listing;
-  DiskFiles files;
+  FileSystemWin files;
   const bool whole = generateSite(self.request_, listing, files, self);
   self.phase_ = whole ? Phase::kDone : Phase::kStopped;
   --runningGenerations;
@@ -119,6 +112,7 @@ void DocumentationRun::post() {
 
 void DocumentationRun::showProgress() {
   const int done = done_;
+  const int refused = all_ - done;
   char text[100] = "";
   switch (phase_) {
     case Phase::kIdle:
@@ -130,7 +124,11 @@ void DocumentationRun::showProgress() {
       snprintf(text, sizeof text, "HTML generation: page %d of %d", done, all_.load());
       break;
     case Phase::kDone:
-      snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+      if (refused > 0) {
+        snprintf(text, sizeof text, "HTML generation: %d pages written, %d refused", done, refused);
+      } else {
+        snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+      }
       break;
     case Phase::kStopped:
       snprintf(text, sizeof text, "HTML generation stopped");

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "addon/foundation/string.h"
-#include "addon/rcgen/rc_files.h"
+#include "addon/rcgen/generator_host.h"
 
 namespace kesto {
 
@@ -23,8 +23,8 @@ struct ClassUnit {
 bool isOutOfDate(std::optional<std::int64_t> header, std::optional<std::int64_t> implementation,
                  std::span<const std::optional<std::int64_t>> scripts);
 
-// Writes both files anew when the unit is out of date. Nothing is told of what fails; a
-// script that cannot be read is left out.
-void updateClassUnit(RcFiles& files, const ClassUnit& unit);
+// Writes both files anew when the unit is out of date; where that fails both stay as they
+// were, and the unit out of date. A script that cannot be read is left out.
+void updateClassUnit(const GeneratorHost& host, const ClassUnit& unit);
 
 }  // namespace kesto

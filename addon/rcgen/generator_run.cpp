@@ -8,29 +8,29 @@ namespace kesto {
 
 namespace {
 
-void updateClassUnits(RcFiles& files, const String& project_directory) {
+void updateClassUnits(const GeneratorHost& host, const String& project_directory) {
   Tableau<String> names;
-  files.listDirectories(project_directory, names);
+  host.lister.listDirectories(project_directory, names);
   for (int i = 0; i < names.count(); ++i) {
     const String& name = *names.at(i);
     if (name.view() != "." && name.view() != "..") {
-      updateClassUnit(files, {joinPath(project_directory.view(), name.view()), name});
+      updateClassUnit(host, {joinPath(project_directory.view(), name.view()), name});
     }
   }
-  updateClassUnit(files, {project_directory, String()});
+  updateClassUnit(host, {project_directory, String()});
 }
 
 }  // namespace
 
-void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
-                  std::int32_t& build_number) {
+void runGenerator(const GeneratorHost& host, std::string_view project_directory,
+                  GeneratorSwitches switches, std::int32_t& build_number) {
   const String directory(project_directory);
   if (switches.dialog_classes) {
-    updateClassUnits(files, directory);
+    updateClassUnits(host, directory);
   }
   if (switches.version_stamping) {
     build_number = nextNumber(build_number);
-    stampVersions(files, directory, build_number);
+    stampVersions(host, directory, build_number);
   }
 }
 

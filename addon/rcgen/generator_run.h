@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "addon/rcgen/rc_files.h"
+#include "addon/rcgen/generator_host.h"
 
 namespace kesto {
 
@@ -16,7 +16,7 @@ struct GeneratorSwitches {
 // Updates the class files of the project directory's own directories, then those of the
 // project directory itself, then stamps the version files of the whole tree, each as far
 // as it is switched on. build_number rises by one, and further where a file asks for it.
-void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
-                  std::int32_t& build_number);
+void runGenerator(const GeneratorHost& host, std::string_view project_directory,
+                  GeneratorSwitches switches, std::int32_t& build_number);
 
 }  // namespace kesto

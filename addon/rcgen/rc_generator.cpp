@@ -1,22 +1,35 @@
 #include "addon/rcgen/rc_generator.h"
 
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/file_system_win.h"
+#include "addon/ide/status_line.h"
 #include "addon/rcgen/generator_run.h"
 #include "addon/rcgen/project_options.h"
-#include "addon/rcgen/rc_files_win.h"
 
 namespace kesto {
 
 RcGenerator* rcGenerator = nullptr;
+
+namespace {
+
+class StatusNotices : public GeneratorNotices {
+ public:
+  void notice(const std::string& text) override { showStatus(text.c_str()); }
+};
+
+}  // namespace
 
 RcGenerator::RcGenerator() {
   rcgenProjectOptions = RcgenProjectOptions();
 }
 
 void RcGenerator::run(std::string_view project_directory) {
-  RcFilesWin files;
+  DirectoryListing lister;
+  FileSystemWin files;
+  StatusNotices notices;
   const GeneratorSwitches switches = {rcgenProjectOptions.dialog_classes.value != 0,
                                       rcgenProjectOptions.version_stamping.value != 0};
-  runGenerator(files, project_directory, switches, build_number_);
+  runGenerator({lister, files, notices}, project_directory, switches, build_number_);
 }
 
 }  // namespace kesto

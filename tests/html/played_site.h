@@ -1,4 +1,4 @@
-// A file system played by a test: sources by path, and what was read and written, in order.
+// A file system played by a test: sources by path, and what was read and put, in order.
 #pragma once
 
 #include <string>
@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "addon/html/site_generation.h"
+#include "tests/foundation/played_disk.h"
 
 namespace kesto {
 
-class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
+class PlayedSite : public PlayedDisk, public MaskLister, public SiteProgress {
  public:
   std::vector<std::pair<std::string, std::string>> sources;  // path and text, in listing order
-  std::string unwritable;                                    // the part of a path that fails
   std::string reads;                                         // each path and a line feed
   std::string pages;                                         // "==== PATH" and text of each
   std::string names;                                         // of the pages
@@ -49,13 +49,13 @@ class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
     }
     return false;
   }
-  void makeDirectory(const char* path) override { made = path; }
-  bool write(const char* path, std::string_view text) override {
-    if (!unwritable.empty() && std::string_view(path).find(unwritable) != std::string_view::npos) {
+  bool replace(const char* path, const char* new_path) override {
+    if (!PlayedDisk::replace(path, new_path)) {
       return false;
     }
-    (((pages += "==== ") += path) += '\n') += text;
-    (names += std::string_view(path).substr(made.size() + 1)) += '\n';
+    (((pages += "==== ") += new_path) += '\n') += files[new_path].text;
+    const std::string_view name(new_path);
+    (names += name.substr(name.rfind('\\') + 1)) += '\n';
     return true;
   }
   void reading(int files_read) override { (progress += 'r') += std::to_string(files_read); }
@@ -64,7 +64,6 @@ class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
     last_all = all;
   }
 
-  std::string made;
   int last_written = 0;
   int last_all = 0;
 

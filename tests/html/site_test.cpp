@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "addon/html/ht_projet.h"
 #include "addon/html/site_pages.h"
@@ -54,7 +56,7 @@ TEST_CASE("the site of each tree, byte for byte and in order") {
     PlayedSite site;
     addTree(site, contents(path));
     CHECK(generate(site));
-    CHECK(site.made == "C:\\P\\kHTML");
+    CHECK(site.directories == std::set<std::string>{"C:\\P\\kHTML"});
     const std::string wanted = contents(path.replace_extension(".site"));
     CHECK(site.pages == wanted);
     if (site.pages != wanted) {
@@ -89,7 +91,7 @@ TEST_CASE("files are read pattern by pattern, each after the text beside it") {
 
 TEST_CASE("a page that cannot be written is left out, and none leaves the directory") {
   PlayedSite site;
-  site.unwritable = "Title";
+  site.locked = "Title";
   site.sources.emplace_back("C:\\P\\a.h",
                             "/** \\..\\..\\evil::f\n*/\n/** a/b::f\n*/\n/** s:t::f\n*/\n"
                             "/** odd *::f\n*/\n/** ::Good\n*/\n");
@@ -98,7 +100,51 @@ TEST_CASE("a page that cannot be written is left out, and none leaves the direct
         "Documentation D\xE9mo.html\nD\xE9mo Contents.html\nD\xE9mo FileList.html\n"
         "D\xE9mo Presentation.html\na.h Contents.html\na.h Presentation.html\n"
         "Class Good.html\nClass odd *.html\n");
-  CHECK(site.last_written == 12);
+  CHECK(site.last_written == 8);
+  CHECK(site.last_all == 12);
+}
+
+TEST_CASE("a page is as it was until it is whole") {
+  const auto project = [](PlayedSite& site) {
+    site.sources.emplace_back("C:\\P\\a.h", "/** ::Good\n*/\n");
+    site.directories.insert("C:\\P\\kHTML");
+    site.put("C:\\P\\kHTML\\Class Good.html", "old");
+    site.put("C:\\P\\kHTML\\a.h Contents.html", "old");
+  };
+  PlayedSite whole;
+  project(whole);
+  CHECK(generate(whole));
+  CHECK(whole.last_written == 8);
+  const int steps = std::exchange(whole.changes, 0);
+  CHECK(steps == 16);
+  whole.names.clear();
+  const auto pages = whole.texts();
+  // Nothing has changed: nothing is written.
+  CHECK(generate(whole));
+  CHECK(whole.changes == 0);
+  CHECK(whole.last_written == 8);
+  CHECK(whole.names.empty());
+
+  for (int failing = 1; failing <= steps; ++failing) {
+    for (const bool ends : {false, true}) {
+      PlayedSite site;
+      project(site);
+      site.failing = failing;
+      site.ends = ends;
+      CHECK(generate(site));
+      CHECK(site.last_written == (ends ? (failing - 1) / 2 : 7));
+      for (const auto& file : site.texts()) {
+        const auto& [path, text] = file;
+        CAPTURE(file.first);
+        CHECK((text == "old" || (pages.count(path) != 0 && text == pages.at(path)) ||
+               (ends && path == "C:\\P\\kHTML\\.kesto-new\\page")));
+      }
+      site.failing = 0;
+      CHECK(generate(site));
+      CHECK(site.texts() == pages);
+      CHECK(site.directories == whole.directories);
+    }
+  }
 }
 
 TEST_CASE("a page for what the project does not have fails its check") {

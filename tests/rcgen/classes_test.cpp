@@ -68,7 +68,7 @@ TEST_CASE("each unit's files are those written out for it") {
     PlayedFiles files;
     files.scripts["P"] = {path.filename().string()};
     files.put("P\\" + unit + ".rc", contents(path));
-    updateClassUnit(files, {"P", String(unit.c_str())});
+    updateClassUnit(files.host(), {"P", String(unit.c_str())});
     for (const char* extension : {".h", ".cpp"}) {
       const std::string name = "rc" + unit + extension;
       checkFile(path.parent_path() / name, files.files["P\\" + name].text);
