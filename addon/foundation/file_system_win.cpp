@@ -20,7 +20,7 @@ MoveFileEx moveFileEx() {
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("KERNEL32.DLL"), "MoveFileExA")));
 }
 
-// A step that renames would take these away.
+// Not every system asks this before it replaces a file.
 bool mayBeReplaced(const char* path) {
   const DWORD attributes = GetFileAttributesA(path);
   return attributes == kNoAttributes ||
@@ -81,12 +81,15 @@ bool FileSystemWin::rename(const char* path, const char* new_path) {
 }
 
 bool FileSystemWin::replace(const char* path, const char* new_path) {
+  if (!mayBeReplaced(new_path)) {
+    return false;
+  }
   const MoveFileEx move = moveFileEx();
   if (move != nullptr && move(path, new_path, kReplaceExisting) != FALSE) {
     return true;
   }
   const bool missing = move == nullptr || GetLastError() == ERROR_CALL_NOT_IMPLEMENTED;
-  return missing && mayBeReplaced(new_path) && replaceInSteps(*this, path, new_path);
+  return missing && replaceInSteps(*this, path, new_path);
 }
 
 void FileSystemWin::remove(const char* path) {

@@ -97,8 +97,9 @@ bool putBoth(SafeFile& first, SafeFile& second) {
   return true;
 }
 
+// Replacing a file that is not there costs more questions than renaming to it.
 bool putText(FileSystem& files, const char* grown, const char* path, std::string_view text) {
-  if (files.write(grown, text) && files.replace(grown, path)) {
+  if (files.write(grown, text) && (files.rename(grown, path) || files.replace(grown, path))) {
     return true;
   }
   files.remove(grown);

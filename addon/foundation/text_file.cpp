@@ -20,7 +20,9 @@ bool writeWith(const char* mode, const char* path, std::string_view text) {
   if (file == nullptr) {
     return false;
   }
-  const bool written = fwrite(text.data(), 1, text.size(), file) == text.size();
+  // Of what is written as it closes, a run-time library may hide that it was not.
+  const bool written =
+      fwrite(text.data(), 1, text.size(), file) == text.size() && fflush(file) == 0;
   return fclose(file) == 0 && written;
 }
 

@@ -90,6 +90,10 @@ class PlayedDisk : public FileSystem {
   bool makeDirectory(const char* path) override { return directories.insert(path).second; }
   void removeDirectory(const char* path) override { directories.erase(path); }
 
+ protected:
+  // A file has come to stand there under another name.
+  virtual void placed(const std::string& /*path*/) {}
+
  private:
   void note(const char* what, const char* path) { done += std::string(what) + ' ' + path + '\n'; }
   bool ended() const { return ends && failing != 0 && changes >= failing; }
@@ -116,6 +120,7 @@ class PlayedDisk : public FileSystem {
     }
     files[new_path] = files[path];
     files.erase(path);
+    placed(new_path);
     return true;
   }
 };

@@ -49,15 +49,6 @@ class PlayedSite : public PlayedDisk, public MaskLister, public SiteProgress {
     }
     return false;
   }
-  bool replace(const char* path, const char* new_path) override {
-    if (!PlayedDisk::replace(path, new_path)) {
-      return false;
-    }
-    (((pages += "==== ") += new_path) += '\n') += files[new_path].text;
-    const std::string_view name(new_path);
-    (names += name.substr(name.rfind('\\') + 1)) += '\n';
-    return true;
-  }
   void reading(int files_read) override { (progress += 'r') += std::to_string(files_read); }
   void writing(int written, int all) override {
     last_written = written;
@@ -66,6 +57,12 @@ class PlayedSite : public PlayedDisk, public MaskLister, public SiteProgress {
 
   int last_written = 0;
   int last_all = 0;
+
+ protected:
+  void placed(const std::string& path) override {
+    (((pages += "==== ") += path) += '\n') += files[path].text;
+    (names += path.substr(path.rfind('\\') + 1)) += '\n';
+  }
 
  private:
   // Shows each source below the directory by its path from there.

@@ -132,13 +132,14 @@ TEST_CASE("a page is as it was until it is whole") {
       site.failing = failing;
       site.ends = ends;
       CHECK(generate(site));
-      CHECK(site.last_written == (ends ? (failing - 1) / 2 : 7));
-      for (const auto& file : site.texts()) {
-        const auto& [path, text] = file;
-        CAPTURE(file.first);
-        CHECK((text == "old" || (pages.count(path) != 0 && text == pages.at(path)) ||
-               (ends && path == "C:\\P\\kHTML\\.kesto-new\\page")));
+      int written = 0;
+      for (const auto& [path, text] : site.texts()) {
+        const bool whole_page = pages.count(path) != 0 && text == pages.at(path);
+        const bool grows = ends && path == "C:\\P\\kHTML\\.kesto-new\\page";
+        CHECK((whole_page || grows || text == "old"));
+        written += whole_page ? 1 : 0;
       }
+      CHECK(site.last_written == written);
       site.failing = 0;
       CHECK(generate(site));
       CHECK(site.texts() == pages);
