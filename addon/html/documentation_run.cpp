@@ -37,19 +37,23 @@ std::string projectName() {
 }  // namespace
 
 DocumentationRun::~DocumentationRun() {
-  join();
+  finish();
 }
 
 // Windows of other threads may send to this one's meanwhile, a box of the generation among them.
-void DocumentationRun::join() {
+void DocumentationRun::finish() {
   if (thread_ == nullptr) {
     return;
   }
-  while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_SENDMESSAGE) ==
-         WAIT_OBJECT_0 + 1) {
+  DWORD woken = 0;
+  while ((woken = MsgWaitForMultipleObjects(1, &thread_, FALSE, kProgressPeriod, QS_SENDMESSAGE)) !=
+             WAIT_OBJECT_0 &&
+         woken != WAIT_FAILED) {
     MSG message;
     PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
+    showProgress();
   }
+  showProgress();
   CloseHandle(thread_);
   thread_ = nullptr;
 }
@@ -64,7 +68,7 @@ void DocumentationRun::generate() {
     showMessage(nullptr, "HTML generation in progress", "Warning", kMessageOk);
     return;
   }
-  join();
+  finish();
   request_ = {projectDirectory(), htmlSettings->filters(), projectName()};
   phase_ = Phase::kIdle;
   shown_.clear();

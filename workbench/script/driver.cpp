@@ -234,7 +234,10 @@ void ScriptDriver::State::tidyUp() {
 
 ScriptDriver::ScriptDriver(Workbench& workbench) : state_(new State(workbench)) {
   State* state = state_.get();
-  workbench.events().setListener([state](const Event& event) { state->history.add(event); });
+  workbench.events().setListener([state](const Event& event) {
+    state->history.add(event);
+    Watchdog::instance().alive();
+  });
 }
 
 ScriptDriver::~ScriptDriver() {
