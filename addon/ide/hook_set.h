@@ -33,7 +33,7 @@ class HookHost {
   // The title-bar button of the editor under the screen point, or -1. On a hit
   // the point becomes the place for the button's popup.
   virtual int titleButtonAt(HWND editor, POINT& point) const = 0;
-  // The key code that completes a word, 0 when completion is off.
+  // The key code that completes a word, 0 when completion is off or nothing completes.
   virtual unsigned completionKey() const = 0;
   // The key code of search 0 to kSearchKeyCount - 1, 0 for none.
   virtual unsigned searchKey(int search) const = 0;
@@ -94,6 +94,7 @@ class HookSet {
   bool onKey(UINT virtual_key, LPARAM lParam);
   bool onCapturedKey(UINT virtual_key, LPARAM lParam);
   bool onSearchKey(unsigned code);
+  void onCommand(HWND window, WPARAM wParam);
   void post(int command, LPARAM lParam = 0);
 
   // The hook procedures carry no context of their own.

@@ -17,6 +17,31 @@ unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
                  GetKeyState(VK_SHIFT) < 0);
 }
 
+bool hasEditorText() {
+  const HWND focus = GetFocus();
+  return focus != nullptr && (isWindowOfClass(focus, ideapi::kEditorTextClass) ||
+                              isWindowOfClass(focus, ideapi::kEditorClass));
+}
+
+BOOL CALLBACK noticePopup(HWND window, LPARAM parameter) {
+  constexpr char kPopupMenuClass[] = "#32768";
+  bool& open = *reinterpret_cast<bool*>(parameter);
+  open = IsWindowVisible(window) && isWindowOfClass(window, kPopupMenuClass);
+  return !open;
+}
+
+// Of a title bar or a menu bar, the IDE's own among them.
+bool isPopupOpen() {
+  bool open = false;
+  EnumThreadWindows(GetCurrentThreadId(), noticePopup, reinterpret_cast<LPARAM>(&open));
+  return open;
+}
+
+// Keys belong to a popup or a modal dialog while there is one.
+bool keysAreTaken() {
+  return isPopupOpen() || !isIdeFree();
+}
+
 }  // namespace
 
 bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
@@ -28,7 +53,7 @@ bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   }
   const unsigned completion = host_.completionKey();
   if (completion != 0 && virtual_key == virtualKeyOf(completion) &&
-      pressedKeyCode(virtual_key, lParam) == completion) {
+      pressedKeyCode(virtual_key, lParam) == completion && hasEditorText() && !keysAreTaken()) {
     post(kCommandComplete);
     return true;
   }
@@ -49,7 +74,7 @@ bool HookSet::onSearchKey(unsigned code) {
       continue;
     }
     const HWND editor = findActiveEditor();
-    if (editor == nullptr) {
+    if (editor == nullptr || suspended_ || keysAreTaken()) {
       return false;
     }
     char title[kActiveTitleSize] = "";

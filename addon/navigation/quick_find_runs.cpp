@@ -10,6 +10,7 @@
 #include "addon/ide/koptions.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/name_search.h"
+#include "addon/navigation/popup_menu.h"
 #include "addon/navigation/text_prompt.h"
 
 namespace kesto {
@@ -70,8 +71,16 @@ void QuickFind::run(Search search) {
   asking_ = true;
   const std::string name =
       promptForText(frame != nullptr ? frame : owner_, targetEditor(), texts.prompt, history_);
+  // The IDE may have closed while it was asked.
+  if (quickFind != this) {
+    return;
+  }
   asking_ = false;
-  if (!name.empty() && !searchFor(search, name)) {
+  if (name.empty()) {
+    return;
+  }
+  history_.enter(name);
+  if (!searchFor(search, name)) {
     soundBeep();
     showStatus(texts.failure);
   }
@@ -119,7 +128,8 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
   }
   upperAscii(hit.file.data());
   showStatus((hit.file + " : " + std::to_string(hit.line)).c_str());
-  if (openAndRecord(hit.file.c_str())) {
+  // Opening may ask as well.
+  if (openAndRecord(hit.file.c_str()) && quickFind == this) {
     postFound(kGoToLineMessage, hit.file.c_str(), hit.line);
   }
   return true;
@@ -163,14 +173,13 @@ void QuickFind::showMethodResults(HWND bar) {
     AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
                 method_results_.at(i)->text());
   }
+  if (shown == 0) {
+    DestroyMenu(popup);
+    return;
+  }
   POINT mouse = {};
   GetCursorPos(&mouse);
-  if (hookSet != nullptr && shown > 0) {
-    hookSet->suspend(true);
-    TrackPopupMenu(popup, TPM_LEFTALIGN, mouse.x, mouse.y, 0, bar, nullptr);
-    hookSet->suspend(false);
-  }
-  DestroyMenu(popup);
+  trackPopup(bar, popup, mouse);
 }
 
 void QuickFind::chooseMethodResult(int index) {

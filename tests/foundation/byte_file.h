@@ -1,20 +1,28 @@
-// A temporary binary file for the tests, gone with the object.
+// A binary file in the current directory for the tests, gone with the object. The
+// system's own temporary files would lie outside the build tree.
 #pragma once
 
 #include <cstdio>
 #include <string>
 
+#include "doctest.h"
+
 namespace kesto {
 
 class ByteFile {
  public:
-  explicit ByteFile(const std::string& bytes = {}) : file_(tmpfile()) {
+  explicit ByteFile(const std::string& bytes = {})
+      : name_("bytes" + std::to_string(made++) + ".tmp"), file_(fopen(name_.c_str(), "w+b")) {
+    REQUIRE(file_ != nullptr);
     fwrite(bytes.data(), 1, bytes.size(), file_);
     rewind(file_);
   }
   ByteFile(const ByteFile&) = delete;
   ByteFile& operator=(const ByteFile&) = delete;
-  ~ByteFile() { fclose(file_); }
+  ~ByteFile() {
+    fclose(file_);
+    remove(name_.c_str());
+  }
 
   FILE* get() const { return file_; }
   std::string bytes() const {
@@ -27,6 +35,8 @@ class ByteFile {
   }
 
  private:
+  inline static int made = 0;
+  std::string name_;
   FILE* file_;
 };
 

@@ -10,6 +10,7 @@
 #include "addon/navigation/quick_resu.h"
 #include "addon/navigation/search_plan.h"
 #include "doctest.h"
+#include "tests/foundation/byte_file.h"
 
 namespace kesto {
 
@@ -180,8 +181,8 @@ TEST_CASE("the history keeps the last twenty texts, the most recent first") {
 }
 
 TEST_CASE("hits are written and read back") {
-  FILE* file = tmpfile();
-  REQUIRE(file != nullptr);
+  const ByteFile bytes;
+  FILE* file = bytes.get();
   Tableau<QuickResu> hits;
   hits.append(new QuickResu(7, "C:\\P\\a.cpp", "Frame::Paint"));
   hits.append(new QuickResu(-1, "", ""));
@@ -198,7 +199,6 @@ TEST_CASE("hits are written and read back") {
   CHECK(read[1]->line() == -1);
   QuickResu beyond;
   CHECK_FALSE(beyond.fRead(file));
-  fclose(file);
 }
 
 }  // namespace kesto

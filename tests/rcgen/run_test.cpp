@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <map>
 #include <optional>
@@ -17,6 +15,7 @@
 #include "addon/rcgen/class_unit.h"
 #include "addon/rcgen/version_stamp.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/rcgen/played_files.h"
 #include "tests/rcgen/text_count.h"
 
@@ -26,11 +25,6 @@ namespace {
 
 constexpr GeneratorSwitches kClasses = {true, false};
 constexpr GeneratorSwitches kVersions = {false, true};
-
-std::string contents(const char* path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 std::string ran(PlayedFiles& files, GeneratorSwitches switches, std::int32_t& build_number) {
   files.takeDone();
@@ -141,9 +135,9 @@ TEST_CASE("units are made in order, each when something of its own changed") {
 
 TEST_CASE("a version resource is stamped as written out") {
   std::int32_t build_number = 1;
-  const std::string source = contents(TEST_DATA_DIR "/rcgen/data/resource.version");
-  CHECK(stampVersion(source, build_number) ==
-        contents(TEST_DATA_DIR "/rcgen/data/resource.stamped"));
+  const std::string source = tests::contents(TEST_DATA_DIR "/rcgen/data/resource.version");
+  tests::checkFile(TEST_DATA_DIR "/rcgen/data/resource.stamped",
+                   stampVersion(source, build_number));
   CHECK(build_number == 44);
 }
 
@@ -168,6 +162,7 @@ TEST_CASE("lines and numbers of a version resource") {
        std::numeric_limits<std::int32_t>::min()},
       {"FILEVERSION 1,2,3,-5", "FILEVERSION 1, 2, 3, -4\n", -6, -4},
       {"FILEVERSION 1,2,3,6", "FILEVERSION 1, 2, 3, 7\n", 6, 7},
+      {"FILEVERSION \t3,\t4, \t5,\t6", "FILEVERSION 3, 4, 5, 7\n", 6, 7},
       {"FILEVERSION -,2,3,6", "FILEVERSION 1, 0, 0, 7\n", 6, 7},
       {"FILEVERSION 3,-x", "FILEVERSION 3, 0, 0, 7\n", 6, 7},
   };

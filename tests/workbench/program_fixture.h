@@ -11,7 +11,7 @@
 #include "ideapi/ide_identifiers.h"
 #include "ideapi/ide_interfaces.h"
 #include "workbench/app/application.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
@@ -72,8 +72,8 @@ class Program {
 
   void close() {
     if (application.frame() != nullptr) {
-      application.frameClosing();
-      DestroyWindow(application.frame());
+      PostQuitMessage(0);
+      application.run();
       UnregisterClassA(ideapi::kFrameClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorTextClass, GetModuleHandleA(nullptr));

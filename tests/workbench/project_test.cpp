@@ -8,7 +8,7 @@
 #include "doctest.h"
 #include "workbench/app/command_line.h"
 #include "workbench/project/folder_walk.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 using namespace workbench;
 

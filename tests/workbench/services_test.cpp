@@ -8,7 +8,7 @@
 #include "ideapi/ide_identifiers.h"
 #include "ideapi/ide_interfaces.h"
 #include "tests/workbench/program_fixture.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 using namespace workbench;
 

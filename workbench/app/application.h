@@ -9,7 +9,6 @@
 #include "workbench/app/addon_module.h"
 #include "workbench/app/find_request.h"
 #include "workbench/app/frame.h"
-#include "workbench/app/workbench.h"
 #include "workbench/editor/disk_store_win.h"
 #include "workbench/editor/editor_set.h"
 #include "workbench/editor/editor_settings.h"
@@ -20,6 +19,7 @@
 #include "workbench/project/project.h"
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
+#include "workbench/workbench.h"
 
 namespace workbench {
 
@@ -29,7 +29,7 @@ class Application final : public Workbench,
                           public MakeHost {
  public:
   Application();
-  ~Application() override;
+  ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
@@ -76,7 +76,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
-  HWND addonBar() override { return FindWindowA("KADO", nullptr); }
+  HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;
   void renameFromWindow(unsigned int node, const std::string& name) override;
@@ -119,7 +119,7 @@ class Application final : public Workbench,
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
-  bool editCommand(int id, EditorChild* child);
+  void editCommand(int id, EditorChild* child);
   bool windowCommand(int id, EditorChild* child);
   bool projectCommand(int id);
   bool nodeCommand(int id);

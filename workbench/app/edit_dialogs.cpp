@@ -2,10 +2,10 @@
 
 #include <cstdlib>
 
-#include "workbench/app/command_ids.h"
-#include "workbench/app/dialog.h"
-#include "workbench/app/names.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/dialog.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "workbench/app/command_ids.h"
-#include "workbench/app/names.h"
 #include "workbench/services/ide_string.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/names.h"
 
 namespace workbench {
 namespace {

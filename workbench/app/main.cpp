@@ -6,8 +6,8 @@
 
 #include "workbench/app/application.h"
 #include "workbench/app/command_line.h"
-#include "workbench/app/names.h"
 #include "workbench/script/driver.h"
+#include "workbench/windows/names.h"
 
 namespace workbench {
 namespace {

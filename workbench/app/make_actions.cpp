@@ -1,6 +1,6 @@
 // Making the project.
 #include "workbench/app/application.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {
@@ -52,6 +52,9 @@ bool Application::startMake() {
             MB_YESNO | MB_ICONQUESTION) == IDYES) {
       editBuild();
     }
+  }
+  if (!project_.loaded()) {
+    return false;
   }
   if (project_.build().empty()) {
     makeStarted("");

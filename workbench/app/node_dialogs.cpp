@@ -1,8 +1,8 @@
 #include "workbench/app/node_dialogs.h"
 
-#include "workbench/app/command_ids.h"
-#include "workbench/app/dialog.h"
 #include "workbench/project/project_tree.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/dialog.h"
 
 namespace workbench {
 namespace {

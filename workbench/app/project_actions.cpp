@@ -1,8 +1,8 @@
 // The project and what is done to it.
 #include "workbench/app/application.h"
-#include "workbench/app/names.h"
-#include "workbench/project/path_text.h"
 #include "workbench/project/project_file.h"
+#include "workbench/windows/names.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
@@ -139,6 +139,10 @@ bool Application::saveProject() {
   if (now.exists && !now.sameContent(project_stamp_) &&
       ask(file + " was written by another program.\n\nOverwrite it?",
           MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
+    return false;
+  }
+  // While it was asked the project may have closed, or given way to another.
+  if (project_.file() != file) {
     return false;
   }
   const FileFault fault =

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "workbench/app/window_class.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {

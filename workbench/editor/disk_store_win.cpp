@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "workbench/app/handles.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 namespace {
@@ -116,35 +116,16 @@ FileFault DiskStore::write(const std::string& path, const std::string& bytes) {
   return FlushFileBuffers(file.get()) != 0 ? FileFault::kNone : lastFault();
 }
 
-namespace {
-
-// Windows 95 knows no replacing move: the old file steps aside and comes back when
-// the new one cannot take its place.
-FileFault replaceInSteps(const std::string& from, const std::string& to) {
-  const std::string aside = from + ".old";
-  const bool there = GetFileAttributesA(to.c_str()) != INVALID_FILE_ATTRIBUTES;
-  if (there && MoveFileA(to.c_str(), aside.c_str()) == 0) {
-    return lastFault();
-  }
-  if (MoveFileA(from.c_str(), to.c_str()) == 0) {
-    const FileFault fault = lastFault();
-    if (there) {
-      MoveFileA(aside.c_str(), to.c_str());
-    }
-    return fault;
-  }
-  DeleteFileA(aside.c_str());
-  return FileFault::kNone;
-}
-
-}  // namespace
-
 FileFault DiskStore::replace(const std::string& from, const std::string& to) {
   if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
       0) {
     return FileFault::kNone;
   }
-  return GetLastError() == ERROR_CALL_NOT_IMPLEMENTED ? replaceInSteps(from, to) : lastFault();
+  return GetLastError() == ERROR_CALL_NOT_IMPLEMENTED ? FileFault::kNotOffered : lastFault();
+}
+
+FileFault DiskStore::move(const std::string& from, const std::string& to) {
+  return MoveFileA(from.c_str(), to.c_str()) != 0 ? FileFault::kNone : lastFault();
 }
 
 void DiskStore::remove(const std::string& path) {

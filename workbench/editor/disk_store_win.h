@@ -11,6 +11,7 @@ class DiskStore final : public FileStore {
   FileFault read(const std::string& path, std::uint64_t limit, std::string* bytes) override;
   FileFault write(const std::string& path, const std::string& bytes) override;
   FileFault replace(const std::string& from, const std::string& to) override;
+  FileFault move(const std::string& from, const std::string& to) override;
   void remove(const std::string& path) override;
 };
 

@@ -7,10 +7,10 @@
 #include <memory>
 #include <string>
 
-#include "workbench/app/mdi_child.h"
-#include "workbench/app/workbench.h"
+#include "workbench/editor/editor_window.h"
 #include "workbench/editor/open_file.h"
 #include "workbench/editor/text_window.h"
+#include "workbench/windows/mdi_child.h"
 
 namespace workbench {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "workbench/app/file_dialogs.h"
-#include "workbench/app/names.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/message_box.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
@@ -16,7 +16,7 @@ void EditorSet::attach(HWND frame, HWND mdi_client, HINSTANCE instance) {
 }
 
 int EditorSet::ask(const std::string& text, UINT buttons) {
-  return MessageBoxA(frame_, text.c_str(), kProgramCaption, buttons);
+  return showBox(frame_, text, buttons);
 }
 
 EditorChild* EditorSet::find(const std::string& path) const {
@@ -239,12 +239,10 @@ bool EditorSet::askToSaveAll() {
   return true;
 }
 
-bool EditorSet::closeAll() {
-  if (!askToSaveAll()) {
-    return false;
+void EditorSet::closeAll() {
+  if (askToSaveAll()) {
+    destroyAll();
   }
-  destroyAll();
-  return true;
 }
 
 void EditorSet::destroyAll() {
@@ -257,8 +255,15 @@ void EditorSet::destroyAll() {
   }
 }
 
+bool EditorSet::saveChild(EditorChild& child) {
+  // The editor may go while a box is up.
+  const std::shared_ptr<OpenFile> file = child.sharedFile();
+  return save(*file);
+}
+
 bool EditorSet::mayClose(EditorChild& child) {
-  return viewsOf(child.openFile()).size() > 1 || askToSave(child.openFile());
+  const std::shared_ptr<OpenFile> file = child.sharedFile();
+  return viewsOf(*file).size() > 1 || askToSave(*file);
 }
 
 void EditorSet::childGone(EditorChild& child) {

@@ -37,7 +37,8 @@ class EditorSet final : public EditorChildHost {
   EditorChild* newView(EditorChild& child);
   void bringForward(EditorChild& child);
 
-  // False when the file could not be written or the user chose not to.
+  // False when the file could not be written or the user chose not to. These ask: the
+  // caller keeps the file, and its editors may be gone afterwards.
   bool save(OpenFile& file);
   bool saveAs(OpenFile& file);
   // Saves every modified file; false when one could not be. Names are appended.
@@ -45,7 +46,7 @@ class EditorSet final : public EditorChildHost {
   // Asks about every modified file; false when the user cancelled or a save failed.
   bool askToSaveAll();
   // Asks, then closes every editor.
-  bool closeAll();
+  void closeAll();
   // Closes every editor as it is.
   void destroyAll();
   // Offers to read again what other programs changed.
@@ -54,7 +55,7 @@ class EditorSet final : public EditorChildHost {
   const std::vector<std::unique_ptr<EditorChild>>& all() const { return children_; }
 
   bool mayClose(EditorChild& child) override;
-  bool saveChild(EditorChild& child) override { return save(child.openFile()); }
+  bool saveChild(EditorChild& child) override;
   void childGone(EditorChild& child) override;
   void childActivated(EditorChild& child) override;
   void childChanged(EditorChild& child) override;

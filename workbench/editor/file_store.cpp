@@ -1,6 +1,29 @@
 #include "workbench/editor/file_store.h"
 
 namespace workbench {
+namespace {
+
+// Where the system has no replacing move (Windows 95), the old file steps aside and
+// comes back when the new one cannot take its place.
+FileFault replaceInSteps(FileStore& store, const std::string& from, const std::string& to,
+                         const std::string& aside) {
+  const bool there = store.stamp(to).exists;
+  FileFault fault = there ? store.move(to, aside) : FileFault::kNone;
+  if (fault != FileFault::kNone) {
+    return fault;
+  }
+  fault = store.move(from, to);
+  if (!there) {
+    return fault;
+  }
+  if (fault == FileFault::kNone) {
+    store.remove(aside);
+    return fault;
+  }
+  return store.move(aside, to) == FileFault::kNone ? fault : FileFault::kLeftAside;
+}
+
+}  // namespace
 
 FileFault saveFile(FileStore& store, const std::string& path, const std::string& bytes) {
   const FileStamp stamp = store.stamp(path);
@@ -8,9 +31,11 @@ FileFault saveFile(FileStore& store, const std::string& path, const std::string&
     return FileFault::kReadOnly;
   }
   std::string temporary;
+  std::string aside;
   for (int i = 0; i < 100; ++i) {
     temporary = path + ".~" + std::to_string(i);
-    if (!store.stamp(temporary).exists) {
+    aside = temporary + ".old";
+    if (!store.stamp(temporary).exists && !store.stamp(aside).exists) {
       break;
     }
     temporary.clear();
@@ -21,6 +46,9 @@ FileFault saveFile(FileStore& store, const std::string& path, const std::string&
   FileFault fault = store.write(temporary, bytes);
   if (fault == FileFault::kNone) {
     fault = store.replace(temporary, path);
+  }
+  if (fault == FileFault::kNotOffered) {
+    fault = replaceInSteps(store, temporary, path, aside);
   }
   if (fault != FileFault::kNone) {
     store.remove(temporary);
@@ -44,6 +72,11 @@ std::string describeFault(FileFault fault, const std::string& path) {
       return path + " is read-only.";
     case FileFault::kDiskFull:
       return "There is no room on the disk for " + path + ".";
+    case FileFault::kLeftAside:
+      return path +
+             " could not be put in its place. What it held is beside it, in a file of that " +
+             "name with \".old\" at its end.";
+    case FileFault::kNotOffered:
     case FileFault::kOther:
       break;
   }

@@ -15,6 +15,8 @@ enum class FileFault {
   kTooLarge,
   kReadOnly,
   kDiskFull,
+  kLeftAside,   // what the file held has another name now, beside it
+  kNotOffered,  // the system has no such step
   kOther,
 };
 
@@ -37,8 +39,11 @@ class FileStore {
   virtual FileFault read(const std::string& path, std::uint64_t limit, std::string* bytes) = 0;
   // Creates the file or empties it, and writes all the bytes through to the disk.
   virtual FileFault write(const std::string& path, const std::string& bytes) = 0;
-  // Puts one file in the place of another, which may be missing, in one step.
+  // Puts one file in the place of another, which may be missing, in one step;
+  // kNotOffered where the system cannot.
   virtual FileFault replace(const std::string& from, const std::string& to) = 0;
+  // Gives a file another name, which must be free.
+  virtual FileFault move(const std::string& from, const std::string& to) = 0;
   virtual void remove(const std::string& path) = 0;
 };
 
@@ -48,7 +53,10 @@ inline constexpr std::uint64_t kLargestText = 64u << 20;
 inline constexpr std::int64_t kMostLines = 4000000;
 
 // Writes a temporary file beside the path and puts it in its place. After a
-// failure the path holds what it held, and no temporary file stays.
+// failure the path holds what it held, and no temporary file stays as long as one
+// can be removed; kLeftAside comes only where the system cannot replace a file in
+// one step and also fails to take the first of two back. A program that ends in
+// the middle leaves a temporary file, "NAME.~0" or a higher number.
 FileFault saveFile(FileStore& store, const std::string& path, const std::string& bytes);
 
 // A sentence for the user, with the path.

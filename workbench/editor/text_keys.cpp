@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "workbench/app/clipboard.h"
 #include "workbench/editor/text_layout.h"
 #include "workbench/editor/text_window.h"
+#include "workbench/windows/clipboard.h"
 
 namespace workbench {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/window_class.h"
 #include "workbench/editor/text_layout.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "workbench/app/handles.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/editor_settings.h"
 #include "workbench/editor/highlight.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 

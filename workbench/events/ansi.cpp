@@ -104,15 +104,6 @@ bool ansiFromUtf8(std::string_view utf8, std::string* ansi) {
   return true;
 }
 
-std::string utf8FromAnsi(std::string_view ansi) {
-  std::string out;
-  out.reserve(ansi.size());
-  for (char c : ansi) {
-    appendUtf8(out, codePoint(c));
-  }
-  return out;
-}
-
 std::string jsonString(std::string_view ansi) {
   std::string out = "\"";
   out.reserve(ansi.size() + 2);

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "workbench/make/output_line.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "workbench/app/handles.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 

@@ -1,7 +1,7 @@
 #include "workbench/make/make_run.h"
 
 #include "ideapi/ide_interfaces.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

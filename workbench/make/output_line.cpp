@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "workbench/messages/message_store.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

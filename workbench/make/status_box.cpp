@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "workbench/app/command_ids.h"
+#include "workbench/windows/command_ids.h"
 
 namespace workbench {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/window_class.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {

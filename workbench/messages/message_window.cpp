@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/handles.h"
-#include "workbench/app/window_class.h"
+#include "workbench/windows/handles.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/window_class.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {

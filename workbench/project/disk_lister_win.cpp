@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include "workbench/app/handles.h"
-#include "workbench/project/path_text.h"
+#include "workbench/windows/handles.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

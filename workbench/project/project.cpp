@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "workbench/project/path_text.h"
 #include "workbench/project/project_file.h"
 #include "workbench/project/project_words.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 

@@ -3,10 +3,10 @@
 #include <cstdio>
 #include <vector>
 
-#include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
 #include "workbench/script/step.h"
 #include "workbench/script/watchdog.h"
+#include "workbench/workbench.h"
 
 namespace workbench {
 namespace {
@@ -72,7 +72,7 @@ void* g_running = nullptr;
 void ScriptDriver::State::begin() {
   observer = std::make_unique<Observer>(workbench, workbench.events());
   observer->onFrameGone([](void* state) { static_cast<State*>(state)->frameGone(); }, this);
-  stage.reset(new Stage{workbench, workbench.events(), *observer, history});
+  stage.reset(new Stage(workbench, *observer, history));
   Watchdog::instance().start();
   waiting_since = busy_since = GetTickCount();
   g_running = this;

@@ -1,6 +1,8 @@
 #include "ideapi/ide_identifiers.h"
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
 #include "workbench/events/event_log.h"
+#include "workbench/main_window.h"
 #include "workbench/script/menu_reader.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/window_text.h"
@@ -27,34 +29,46 @@ StepResult dumpMenuOf(StepTry& step, HMENU menu, const char* what) {
 
 StepResult dumpMenu(StepTry& step) {
   const MenuLoop* loop = step.stage.observer.menu();
-  HMENU menu = loop != nullptr ? loop->root : GetMenu(step.stage.workbench.frame());
+  HMENU menu = loop != nullptr ? loop->root : GetMenu(step.stage.window.frame());
   return dumpMenuOf(step, menu, "menu");
 }
 
 StepResult dumpBar(StepTry& step) {
-  HWND bar = step.stage.workbench.addonBar();
+  HWND bar = step.stage.window.addonBar();
   return dumpMenuOf(step, bar != nullptr ? GetMenu(bar) : nullptr, "menu in the add-on's bar");
 }
 
-// From the topmost down.
-StepResult dumpEditors(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  EditorWindow* active = workbench.activeEditor();
+// The windows inside the frame, from the topmost down; the titles of icons are windows too.
+StepResult dumpDocuments(StepTry& step, const char* name, const char* only_class) {
+  HWND client = step.stage.window.mdiClient();
+  HWND active = reinterpret_cast<HWND>(SendMessageA(client, WM_MDIGETACTIVE, 0, 0));
   std::vector<Event> items;
-  for (HWND window = GetWindow(workbench.mdiClient(), GW_CHILD); window != nullptr;
+  for (HWND window = GetWindow(client, GW_CHILD); window != nullptr;
        window = GetWindow(window, GW_HWNDNEXT)) {
-    if (windowClass(window) != ideapi::kEditorClass) {
+    if (GetWindow(window, GW_OWNER) != nullptr ||
+        (only_class != nullptr && windowClass(window) != only_class)) {
       continue;
     }
     Event item("");
-    item.text("title", windowText(window))
-        .flag("active", active != nullptr && active->window() == window)
-        .flag("iconic", IsIconic(window) != 0);
+    item.text("class", windowClass(window))
+        .text("title", windowText(window))
+        .flag("active", window == active)
+        .flag("iconic", IsIconic(window) != 0)
+        .flag("maximized", IsZoomed(window) != 0)
+        .flag("focus", IsChild(window, GetFocus()) != 0);
     addPlace(item, window);
     items.push_back(item);
   }
-  step.stage.log.emit(Event("editors").list("items", items));
+  step.stage.log.emit(Event(name).list("items", items));
   return StepResult::kDone;
+}
+
+StepResult dumpEditors(StepTry& step) {
+  return dumpDocuments(step, "editors", ideapi::kEditorClass);
+}
+
+StepResult dumpAllDocuments(StepTry& step) {
+  return dumpDocuments(step, "documents", nullptr);
 }
 
 BOOL CALLBACK addWindow(HWND window, LPARAM data) {
@@ -103,7 +117,7 @@ StepResult dumpDialog(StepTry& step) {
 }
 
 StepResult dumpText(StepTry& step) {
-  EditorWindow* editor = step.stage.workbench.activeEditor();
+  EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {
     return step.again("no editor is open", 2000);
   }
@@ -125,9 +139,11 @@ StepResult stepDump(StepTry& step) {
   const struct {
     const char* name;
     Step dump;
-  } kinds[] = {{"menu", dumpMenu},       {"bar", dumpBar},          {"editors", dumpEditors},
-               {"windows", dumpWindows}, {"dialog", dumpDialog},    {"text", dumpText},
-               {"project", dumpProject}, {"messages", dumpMessages}};
+  } kinds[] = {
+      {"menu", dumpMenu},          {"bar", dumpBar},           {"editors", dumpEditors},
+      {"windows", dumpWindows},    {"dialog", dumpDialog},     {"text", dumpText},
+      {"project", dumpProject},    {"messages", dumpMessages}, {"documents", dumpAllDocuments},
+      {"clipboard", dumpClipboard}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
       return kind.dump(step);

@@ -1,6 +1,9 @@
 #include <cstdlib>
 
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
+#include "workbench/main_window.h"
+#include "workbench/paths.h"
 #include "workbench/script/input.h"
 #include "workbench/script/steps.h"
 #include "workbench/script/title_bar.h"
@@ -9,27 +12,31 @@
 namespace workbench {
 namespace {
 
+bool isOwn(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
 // Input goes to the foreground: the thread must have it.
 void takeForeground(const StepTry& step) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(GetForegroundWindow(), &process);
-  if (process != GetCurrentProcessId()) {
-    SetForegroundWindow(step.stage.workbench.frame());
+  if (!isOwn(GetForegroundWindow())) {
+    SetForegroundWindow(step.stage.window.frame());
   }
 }
 
 // The editor of a file, brought forward, or null with the step failed.
 HWND editorToClick(StepTry& step, const std::string& file) {
-  Workbench& workbench = step.stage.workbench;
-  std::string path = workbench.resolve(file);
-  EditorWindow* editor = workbench.findEditor(path);
+  std::string path = step.stage.paths.resolve(file);
+  EditorWindow* editor = step.stage.editing.findEditor(path);
   if (editor == nullptr) {
     step.fail("no editor shows " + path);
     return nullptr;
   }
   HWND window = editor->window();
-  if (workbench.activeEditor() == nullptr || workbench.activeEditor()->window() != window) {
-    workbench.editFile(path, 0);
+  if (step.stage.editing.activeEditor() == nullptr ||
+      step.stage.editing.activeEditor()->window() != window) {
+    step.stage.editing.editFile(path, 0);
   }
   return window;
 }
@@ -99,6 +106,23 @@ StepResult stepClickTitle(StepTry& step) {
   return clickEditor(step, editor, place, MouseButton::kLeft);
 }
 
+StepResult stepDoubleClickTitle(StepTry& step) {
+  long button = 0;
+  if (!step.number(1, 0, 2, &button)) {
+    return StepResult::kFailed;
+  }
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  POINT place = titleButtonCenter(editor, static_cast<int>(button), storedTitleSide());
+  StepResult result = clickEditor(step, editor, place, MouseButton::kLeft);
+  if (result == StepResult::kDone) {
+    clickMouse(place, MouseButton::kLeft);
+  }
+  return result;
+}
+
 StepResult stepRightClickTitle(StepTry& step) {
   HWND editor = editorToClick(step, step.arg(0));
   if (editor == nullptr) {
@@ -116,7 +140,10 @@ StepResult stepClickAt(StepTry& step) {
   if (!step.number(0, 0, 32767, &x) || !step.number(1, 0, 32767, &y)) {
     return StepResult::kFailed;
   }
-  takeForeground(step);
+  // A window of this program that is in reach comes forward by the click itself.
+  if (!isOwn(WindowFromPoint({x, y}))) {
+    takeForeground(step);
+  }
   return click(step, {x, y}, MouseButton::kLeft);
 }
 

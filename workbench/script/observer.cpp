@@ -1,7 +1,7 @@
 #include "workbench/script/observer.h"
 
-#include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
+#include "workbench/main_window.h"
 #include "workbench/script/menu_reader.h"
 
 namespace workbench {
@@ -14,8 +14,8 @@ constexpr WORD kPaintCommand = 111;
 
 }  // namespace
 
-Observer::Observer(Workbench& workbench, EventLog& log)
-    : workbench_(workbench), log_(log), windows_(log), frame_(workbench.frame()) {
+Observer::Observer(MainWindow& window, EventLog& log)
+    : window_(window), log_(log), windows_(log), frame_(window.frame()) {
   g_observer = this;
   const struct {
     int kind;
@@ -114,7 +114,7 @@ void Observer::sent(const CWPSTRUCT& message) {
 }
 
 void Observer::commandReached(HWND window, WPARAM wparam) {
-  if (window == nullptr || LOWORD(wparam) == kPaintCommand || window != workbench_.addonBar()) {
+  if (window == nullptr || LOWORD(wparam) == kPaintCommand || window != window_.addonBar()) {
     return;
   }
   log_.emit(Event("command").number("id", LOWORD(wparam)));

@@ -14,7 +14,7 @@
 namespace workbench {
 
 class EventLog;
-class Workbench;
+class MainWindow;
 
 // A menu that is being tracked: a popup, or a window's menu bar.
 struct MenuLoop {
@@ -28,7 +28,7 @@ struct MenuLoop {
 class Observer {
  public:
   // Both must outlive the observer.
-  Observer(Workbench& workbench, EventLog& log);
+  Observer(MainWindow& window, EventLog& log);
   ~Observer();
   Observer(const Observer&) = delete;
   Observer& operator=(const Observer&) = delete;
@@ -50,7 +50,7 @@ class Observer {
   void commandReached(HWND window, WPARAM wparam);
   void popupOpened(HMENU popup);
 
-  Workbench& workbench_;
+  MainWindow& window_;
   EventLog& log_;
   ModalWindows windows_;
   std::vector<MenuLoop> loops_;

@@ -2,9 +2,12 @@
 #include <cstdint>
 #include <limits>
 
-#include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
+#include "workbench/message_list.h"
 #include "workbench/messages/message_store.h"
+#include "workbench/paths.h"
+#include "workbench/project_content.h"
+#include "workbench/projects.h"
 #include "workbench/script/steps.h"
 
 namespace workbench {
@@ -18,7 +21,7 @@ StepResult noProject(StepTry& step) {
 
 // A node that an argument names; 0 with the reason set when there is none.
 unsigned int nodeOf(StepTry& step, std::size_t index) {
-  const unsigned int node = step.stage.workbench.findNode(step.arg(index));
+  const unsigned int node = step.stage.content.findNode(step.arg(index));
   if (node == 0) {
     step.fail("the project has no node " + step.arg(index));
   }
@@ -71,38 +74,37 @@ Event optionEvent(const std::string& name, const std::string& bytes) {
 }  // namespace
 
 StepResult stepNewProject(StepTry& step) {
-  const bool made = step.stage.workbench.newProject(step.arg(0));
+  const bool made = step.stage.projects.newProject(step.arg(0));
   return made ? StepResult::kDone : step.fail("no project was made of " + step.arg(0));
 }
 
 StepResult stepSaveProject(StepTry& step) {
-  const bool saved = step.stage.workbench.saveProject();
+  const bool saved = step.stage.projects.saveProject();
   return saved ? StepResult::kDone : step.fail("the project was not saved");
 }
 
 StepResult stepBuildCommand(StepTry& step) {
-  if (!step.stage.workbench.hasProject()) {
+  if (!step.stage.projects.hasProject()) {
     return noProject(step);
   }
-  step.stage.workbench.setBuildCommand(step.arg(0));
+  step.stage.content.setBuildCommand(step.arg(0));
   return StepResult::kDone;
 }
 
 StepResult stepOption(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  if (!workbench.hasProject()) {
+  if (!step.stage.projects.hasProject()) {
     return noProject(step);
   }
   std::string bytes;
   if (step.argCount() == 1) {
-    workbench.readOption(step.arg(0), &bytes);
+    step.stage.content.readOption(step.arg(0), &bytes);
     step.stage.log.emit(optionEvent(step.arg(0), bytes));
     return StepResult::kDone;
   }
   if (!optionBytes(step.arg(1), &bytes)) {
     return step.fail("\"" + step.arg(1) + "\" is no 32-bit number");
   }
-  return done(step, workbench.writeOption(step.arg(0), bytes));
+  return done(step, step.stage.content.writeOption(step.arg(0), bytes));
 }
 
 StepResult stepAddNode(StepTry& step) {
@@ -111,24 +113,24 @@ StepResult stepAddNode(StepTry& step) {
   if (!at_top && parent == 0) {
     return StepResult::kFailed;
   }
-  return done(step, step.stage.workbench.addNode(parent, step.arg(1), step.arg(2)) != 0);
+  return done(step, step.stage.content.addNode(parent, step.arg(1), step.arg(2)) != 0);
 }
 
 StepResult stepRenameNode(StepTry& step) {
   const unsigned int node = nodeOf(step, 0);
   return node == 0 ? StepResult::kFailed
-                   : done(step, step.stage.workbench.renameNode(node, step.arg(1)));
+                   : done(step, step.stage.content.renameNode(node, step.arg(1)));
 }
 
 StepResult stepRemoveNode(StepTry& step) {
   const unsigned int node = nodeOf(step, 0);
-  return node == 0 ? StepResult::kFailed : done(step, step.stage.workbench.removeNode(node));
+  return node == 0 ? StepResult::kFailed : done(step, step.stage.content.removeNode(node));
 }
 
 StepResult stepDescribeNode(StepTry& step) {
   const unsigned int node = nodeOf(step, 0);
   return node == 0 ? StepResult::kFailed
-                   : done(step, step.stage.workbench.describeNode(node, step.arg(1)));
+                   : done(step, step.stage.content.describeNode(node, step.arg(1)));
 }
 
 StepResult stepNodePath(StepTry& step) {
@@ -138,8 +140,8 @@ StepResult stepNodePath(StepTry& step) {
   }
   const unsigned int node = nodeOf(step, 0);
   return node == 0 ? StepResult::kFailed
-                   : done(step, step.stage.workbench.setNodePath(node, static_cast<int>(kind),
-                                                                 step.arg(2)));
+                   : done(step, step.stage.content.setNodePath(node, static_cast<int>(kind),
+                                                               step.arg(2)));
 }
 
 StepResult stepMessageOpen(StepTry& step) {
@@ -147,31 +149,31 @@ StepResult stepMessageOpen(StepTry& step) {
   if (!step.number(0, 1, static_cast<long>(MessageStore::kMostMessages), &position)) {
     return StepResult::kFailed;
   }
-  const bool shown = step.stage.workbench.openMessage(static_cast<int>(position - 1));
+  const bool shown = step.stage.messages.openMessage(static_cast<int>(position - 1));
   return shown ? StepResult::kDone : step.fail("message " + step.arg(0) + " leads nowhere");
 }
 
 StepResult dumpProject(StepTry& step) {
-  Workbench& workbench = step.stage.workbench;
-  if (!workbench.hasProject()) {
+  if (!step.stage.projects.hasProject()) {
     return noProject(step);
   }
   std::vector<Event> items;
-  for (const ProjectEntry& entry : workbench.projectEntries()) {
+  for (const ProjectEntry& entry : step.stage.content.projectEntries()) {
     items.push_back(Event("")
                         .number("depth", entry.depth)
                         .text("name", entry.name)
                         .text("type", entry.type)
                         .text("description", entry.description));
   }
-  step.stage.log.emit(
-      Event("project-tree").text("directory", workbench.projectDirectory()).list("items", items));
+  step.stage.log.emit(Event("project-tree")
+                          .text("directory", step.stage.paths.projectDirectory())
+                          .list("items", items));
   return StepResult::kDone;
 }
 
 StepResult dumpMessages(StepTry& step) {
   std::vector<Event> items;
-  for (const MessageGroupInfo& group : step.stage.workbench.messages().groups()) {
+  for (const MessageGroupInfo& group : step.stage.messages.messages().groups()) {
     for (const Message& message : group.messages) {
       items.push_back(Event("")
                           .text("group", group.name)

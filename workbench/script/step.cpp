@@ -3,8 +3,21 @@
 #include <charconv>
 
 #include "workbench/script/steps.h"
+#include "workbench/workbench.h"
 
 namespace workbench {
+
+Stage::Stage(Workbench& workbench, Observer& the_observer, EventHistory& the_history)
+    : window(workbench),
+      paths(workbench),
+      editing(workbench),
+      projects(workbench),
+      content(workbench),
+      building(workbench),
+      messages(workbench),
+      log(workbench.events()),
+      observer(the_observer),
+      history(the_history) {}
 
 bool StepTry::number(size_t index, long least, long most, long* value) {
   const std::string& text = arg(index);
@@ -41,20 +54,30 @@ Step stepOf(Verb verb) {
       return stepClickCaption;
     case Verb::kClickTitle:
       return stepClickTitle;
+    case Verb::kClipboard:
+      return stepClipboard;
     case Verb::kClose:
       return stepClose;
+    case Verb::kCloseFrame:
+      return stepCloseFrame;
     case Verb::kCommand:
       return stepCommand;
     case Verb::kDeactivate:
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDocument:
+      return stepDocument;
+    case Verb::kDoubleClickTitle:
+      return stepDoubleClickTitle;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
       return stepEcho;
     case Verb::kEdit:
       return stepEdit;
+    case Verb::kEndSession:
+      return stepEndSession;
     case Verb::kExpect:
       return stepExpect;
     case Verb::kExpectNot:
@@ -69,6 +92,8 @@ Step stepOf(Verb verb) {
       return stepMake;
     case Verb::kMark:
       return stepMark;
+    case Verb::kMaximize:
+      return stepMaximize;
     case Verb::kMessageOpen:
       return stepMessageOpen;
     case Verb::kMinimize:
@@ -81,6 +106,8 @@ Step stepOf(Verb verb) {
       return stepOpen;
     case Verb::kOption:
       return stepOption;
+    case Verb::kOtherIde:
+      return stepOtherIde;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:

@@ -9,16 +9,32 @@
 
 #include "workbench/script/event_history.h"
 #include "workbench/script/observer.h"
+#include "workbench/script/other_ide.h"
 #include "workbench/script/script_line.h"
 #include "workbench/script/verbs.h"
 
 namespace workbench {
 
+class Building;
+class Editing;
+class MainWindow;
+class MessageList;
+class Paths;
+class ProjectContent;
+class Projects;
 class Workbench;
 
-// What all steps of a run share.
+// What all steps of a run share. All of it outlives the run.
 struct Stage {
-  Workbench& workbench;
+  Stage(Workbench& workbench, Observer& the_observer, EventHistory& the_history);
+
+  MainWindow& window;
+  Paths& paths;
+  Editing& editing;
+  Projects& projects;
+  ProjectContent& content;
+  Building& building;
+  MessageList& messages;
   EventLog& log;
   Observer& observer;
   EventHistory& history;
@@ -29,6 +45,7 @@ struct Stage {
   POINT last_click{-1000, -1000};
   DWORD last_click_ms = 0;   // as GetTickCount
   HWND elsewhere = nullptr;  // the window that takes the activation away
+  OtherIde other_ide;        // the program that takes it away
 };
 
 enum class StepResult { kDone, kAgain, kFailed };

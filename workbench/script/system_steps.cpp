@@ -1,5 +1,5 @@
-#include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
+#include "workbench/paths.h"
 #include "workbench/script/handle_count.h"
 #include "workbench/script/screenshot.h"
 #include "workbench/script/settings.h"
@@ -29,7 +29,7 @@ StepResult stepExpectRegistry(StepTry& step) {
 }
 
 StepResult stepScreenshot(StepTry& step) {
-  std::string path = step.stage.workbench.resolve(step.arg(0));
+  std::string path = step.stage.paths.resolve(step.arg(0));
   return saveScreenshot(path) ? StepResult::kDone
                               : step.fail("no screenshot could be put in " + path);
 }

@@ -4,9 +4,9 @@
 #include <string>
 #include <utility>
 
-#include "workbench/app/workbench.h"
 #include "workbench/editor/editor_set.h"
 #include "workbench/events/event_log.h"
+#include "workbench/paths.h"
 #include "workbench/services/ide_string.h"
 
 namespace workbench {
@@ -17,7 +17,7 @@ EditorService::EditorService(const ServiceContext& context)
 EditorView STDMETHODCALLTYPE EditorService::FindView(IIdeString* file) {
   const std::string name = textOf(file);
   const EditorChild* child =
-      name.empty() ? nullptr : context_.editors.find(context_.workbench.resolve(name));
+      name.empty() ? nullptr : context_.editors.find(context_.paths.resolve(name));
   return child != nullptr ? child->handle() : 0;
 }
 
@@ -52,9 +52,9 @@ void STDMETHODCALLTYPE EditorService::EndTransaction() {
     }
     child->textView().holdPainting(false);
     if (each.shown) {
-      context_.workbench.events().emit(Event("editor")
-                                           .text("file", child->file())
-                                           .number("line", child->textView().caret().line + 1));
+      context_.log.emit(Event("editor")
+                            .text("file", child->file())
+                            .number("line", child->textView().caret().line + 1));
     }
   }
 }

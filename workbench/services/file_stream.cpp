@@ -5,7 +5,9 @@
 #include <cstring>
 #include <limits>
 
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
+#include "workbench/editor/editor_window.h"
+#include "workbench/paths.h"
 #include "workbench/services/ide_string.h"
 
 namespace workbench {
@@ -16,12 +18,12 @@ FileStream::FileStream(const ServiceContext& context)
 int STDMETHODCALLTYPE FileStream::Open(IIdeString* file, int mode) {
   Close();
   const std::string text = textOf(file);
-  name_ = text.empty() ? text : context_.workbench.resolve(text);
+  name_ = text.empty() ? text : context_.paths.resolve(text);
   if (name_.empty() || mode < kStreamBuffer || mode > kStreamFile) {
     return 0;
   }
   if (mode != kStreamFile) {
-    if (EditorWindow* editor = context_.workbench.findEditor(name_)) {
+    if (EditorWindow* editor = context_.editing.findEditor(name_)) {
       buffer_ = editor->text();
       size_ = static_cast<long>(buffer_.size());
       open_ = true;
@@ -49,7 +51,7 @@ int STDMETHODCALLTYPE FileStream::Open(IIdeString* file, int mode) {
 }
 
 int STDMETHODCALLTYPE FileStream::GetState() {
-  return !name_.empty() && context_.workbench.findEditor(name_) != nullptr ? 1 : 0;
+  return !name_.empty() && context_.editing.findEditor(name_) != nullptr ? 1 : 0;
 }
 
 long STDMETHODCALLTYPE FileStream::Seek(long offset, int origin) {

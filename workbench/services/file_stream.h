@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "workbench/app/handles.h"
 #include "workbench/services/counted.h"
 #include "workbench/services/service_context.h"
+#include "workbench/windows/handles.h"
 
 namespace workbench {
 

@@ -1,6 +1,5 @@
 #include "workbench/services/ide_root.h"
 
-#include "workbench/app/workbench.h"
 #include "workbench/events/event_log.h"
 #include "workbench/services/file_stream.h"
 #include "workbench/services/ide_string.h"
@@ -62,7 +61,7 @@ void IdeRoot::reportLeaks() {
   counts["tool"] = static_cast<long>(tools_.implementors());
   for (const auto& [kind, count] : counts) {
     if (count != 0) {
-      context_.workbench.events().emit(Event("leak").text("kind", kind).number("count", count));
+      context_.log.emit(Event("leak").text("kind", kind).number("count", count));
     }
   }
 }

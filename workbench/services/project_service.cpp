@@ -1,11 +1,10 @@
 #include "workbench/services/project_service.h"
 
-#include "workbench/app/workbench.h"
-#include "workbench/project/path_text.h"
 #include "workbench/project/project.h"
 #include "workbench/project/tool_table.h"
 #include "workbench/services/ide_string.h"
 #include "workbench/services/tool_service.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

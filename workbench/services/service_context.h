@@ -3,14 +3,22 @@
 
 namespace workbench {
 
+class Editing;
 class EditorSet;
+class EventLog;
 class LiveObjects;
+class MainWindow;
 class MessageStore;
+class Paths;
 class Project;
-class Workbench;
+class Projects;
 
 struct ServiceContext {
-  Workbench& workbench;
+  EventLog& log;
+  MainWindow& window;
+  Paths& paths;
+  Editing& editing;
+  Projects& projects;
   EditorSet& editors;
   Project& project;
   MessageStore& messages;

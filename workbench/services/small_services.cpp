@@ -1,6 +1,6 @@
 #include "workbench/services/small_services.h"
 
-#include "workbench/app/workbench.h"
+#include "workbench/main_window.h"
 #include "workbench/project/project.h"
 #include "workbench/services/ide_string.h"
 
@@ -10,7 +10,7 @@ StatusLineService::StatusLineService(const ServiceContext& context)
     : Service(context.live, "status line service", ideapi::kStatusLineService), context_(context) {}
 
 void STDMETHODCALLTYPE StatusLineService::SetText(IIdeString* text) {
-  context_.workbench.setStatus(textOf(text));
+  context_.window.setStatus(textOf(text));
 }
 
 OptionsService::OptionsService(const ServiceContext& context)

@@ -4,12 +4,15 @@
 
 #include <algorithm>
 
-#include "workbench/app/workbench.h"
+#include "workbench/editing.h"
 #include "workbench/events/event_log.h"
-#include "workbench/project/path_text.h"
+#include "workbench/main_window.h"
+#include "workbench/paths.h"
 #include "workbench/project/tool_table.h"
+#include "workbench/projects.h"
 #include "workbench/services/client_list.h"
 #include "workbench/services/ide_string.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
@@ -48,13 +51,12 @@ int ToolService::run(const std::string& name, const std::string& file) {
   return result;
 }
 
-int ToolService::runFromMenu(ToolHandle handle, const std::string& file) {
+void ToolService::runFromMenu(ToolHandle handle, const std::string& file) {
   IIdeString* text = file.empty() ? nullptr : handOut(context_.live, file);
-  const int result = runTool(find(handle), text);
+  runTool(find(handle), text);
   if (text != nullptr) {
     text->Release();
   }
-  return result;
 }
 
 int ToolService::runTool(const Tool* tool, IIdeString* file) {
@@ -71,36 +73,34 @@ int ToolService::runTool(const Tool* tool, IIdeString* file) {
     const Held<IToolImplementor> implementor(tool->implementor);
     result = implementor->Run(file);
   }
-  context_.workbench.events().emit(
-      Event("tool").text("name", name).text("file", path).number("result", result));
+  context_.log.emit(Event("tool").text("name", name).text("file", path).number("result", result));
   return result;
 }
 
 int ToolService::runOwn(const std::string& name, const std::string& file) {
-  Workbench& workbench = context_.workbench;
   if (file.empty()) {
     return kToolNotHandled;
   }
   if (name == kEditTool) {
-    return workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
+    return context_.editing.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   if (name == "Project") {
-    return workbench.openPath(file) ? kToolDone : kToolErrors;
+    return context_.projects.openPath(file) ? kToolDone : kToolErrors;
   }
   if (name == "RunExecutable") {
-    return openWithSystem(workbench.resolve(file)) ? kToolDone : kToolErrors;
+    return openWithSystem(context_.paths.resolve(file)) ? kToolDone : kToolErrors;
   }
   if (name == "ClassExpert") {
     return kToolNotHandled;
   }
-  return view(workbench.resolve(file));
+  return view(context_.paths.resolve(file));
 }
 
 // Resource scripts are texts; the rest is for whatever program the system has.
 int ToolService::view(const std::string& file) {
   const std::string type = foldCase(extensionOf(file));
   if (type == ".rc" || type == ".dlg" || type == ".rh") {
-    return context_.workbench.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
+    return context_.editing.editOrStart(file) != nullptr ? kToolDone : kToolErrors;
   }
   return openWithSystem(file) ? kToolDone : kToolNotHandled;
 }
@@ -110,7 +110,7 @@ bool ToolService::openWithSystem(const std::string& file) {
   SHELLEXECUTEINFOA info = {};
   info.cbSize = sizeof info;
   info.fMask = SEE_MASK_FLAG_NO_UI;
-  info.hwnd = context_.workbench.frame();
+  info.hwnd = context_.window.frame();
   info.lpVerb = "open";
   info.lpFile = file.c_str();
   info.lpDirectory = folder.c_str();

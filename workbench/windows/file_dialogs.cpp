@@ -1,11 +1,11 @@
-#include "workbench/app/file_dialogs.h"
+#include "workbench/windows/file_dialogs.h"
 
 #include <commdlg.h>
 #include <shlobj.h>
 
 #include <cstring>
 
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 namespace {

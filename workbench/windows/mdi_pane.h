@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include "workbench/app/mdi_child.h"
+#include "workbench/windows/mdi_child.h"
 
 namespace workbench {
 

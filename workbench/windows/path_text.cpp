@@ -1,4 +1,4 @@
-#include "workbench/project/path_text.h"
+#include "workbench/windows/path_text.h"
 
 #include <algorithm>
 #include <vector>

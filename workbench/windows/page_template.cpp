@@ -1,4 +1,4 @@
-#include "workbench/app/page_template.h"
+#include "workbench/windows/page_template.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "workbench/app/window_class.h"
+#include "workbench/windows/window_class.h"
 
 namespace workbench {
 

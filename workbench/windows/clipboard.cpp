@@ -1,4 +1,4 @@
-#include "workbench/app/clipboard.h"
+#include "workbench/windows/clipboard.h"
 
 #include <cstring>
 

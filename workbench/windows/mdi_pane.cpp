@@ -1,4 +1,4 @@
-#include "workbench/app/mdi_pane.h"
+#include "workbench/windows/mdi_pane.h"
 
 namespace workbench {
 

@@ -1,4 +1,4 @@
-#include "workbench/app/dialog.h"
+#include "workbench/windows/dialog.h"
 
 #include <algorithm>
 

@@ -1,0 +1,33 @@
+// One view of a file, for those who read it or work in it: a "BCW5Editor" MDI
+// child with its "EditWindClass" text window. Lines and columns are 1-based,
+// columns count bytes. User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace workbench {
+
+class EditorWindow {
+ public:
+  virtual ~EditorWindow() = default;
+
+  virtual HWND window() = 0;
+  virtual HWND textWindow() = 0;
+  virtual const std::string& file() = 0;
+  virtual bool modified() = 0;
+  // The whole text as it would be saved.
+  virtual std::string text() = 0;
+  virtual void caret(int* line, int* column) = 0;
+  virtual void setCaret(int line, int column) = 0;
+  // From the first place up to, not including, the second; the caret ends at the second.
+  virtual void select(int line1, int column1, int line2, int column2) = 0;
+  virtual std::string selection() = 0;
+  // Replaces the selection as typing does; a line feed in the text breaks the line.
+  virtual void type(const std::string& text) = 0;
+  // Returns false when the file could not be written (the reason has been shown).
+  virtual bool save() = 0;
+};
+
+}  // namespace workbench
