@@ -1,12 +1,10 @@
-// rcgen_bench DIRECTORY   makes a project there, and prints the medians of the runs over
+// rcgen_bench DIRECTORY   makes a project there, and prints the best times of the runs over
 //                         it in milliseconds, and counts; a name and a number each
 //
 // "plain" reads the bytes that the first run reads and writes those that it writes, and
 // deletes the files before as that run does; nothing is composed.
 #include <unistd.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <map>
@@ -17,6 +15,7 @@
 #include "addon/foundation/text_file.h"
 #include "addon/rcgen/generator_run.h"
 #include "bench/posix_files.h"
+#include "bench/turns.h"
 
 namespace kesto {
 
@@ -158,19 +157,6 @@ void makeVersions(const std::string& directory) {
   }
 }
 
-template <class Work>
-double timeOf(Work work) {
-  const auto begun = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begun)
-      .count();
-}
-
-double median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
-
 void removeAll(const std::map<std::string, std::string>& outputs) {
   for (const auto& output : outputs) {
     unlink(output.first.c_str());
@@ -187,8 +173,6 @@ void compare(const char* name, const char* plain_name, const std::string& direct
   const std::vector<std::string> reads = files.reads;
   const std::map<std::string, std::string> writes = files.writes;
   files.setNoting(false);
-  std::vector<double> times;
-  std::vector<double> plain_times;
   std::string text;
   const auto prepare = [&] {
     removeAll(writes);
@@ -196,20 +180,21 @@ void compare(const char* name, const char* plain_name, const std::string& direct
       makeVersions(directory);
     }
   };
-  for (int i = 0; i < kRounds; ++i) {
-    prepare();
-    times.push_back(timeOf([&] { host.run(directory, switches, build_number); }));
-    prepare();
-    plain_times.push_back(timeOf([&] {
-      for (const std::string& path : reads) {
-        readTextFile(path.c_str(), text);
-      }
-      for (const auto& output : writes) {
-        writeTextFile(output.first.c_str(), output.second);
-      }
-    }));
-  }
-  printf("%s %f\n%s %f\n", name, median(times), plain_name, median(plain_times));
+  Turns turns;
+  turns.add(
+      name, [&] { host.run(directory, switches, build_number); }, prepare);
+  turns.add(
+      plain_name,
+      [&] {
+        for (const std::string& path : reads) {
+          readTextFile(path.c_str(), text);
+        }
+        for (const auto& output : writes) {
+          writeTextFile(output.first.c_str(), output.second);
+        }
+      },
+      prepare);
+  turns.run(kRounds);
 }
 
 int measure(const std::string& directory) {
@@ -232,12 +217,9 @@ int measure(const std::string& directory) {
   host.run(directory, kClasses, build_number);
   printf("second-reads %zu\nsecond-writes %zu\n", files.reads.size(), files.writes.size());
   files.setNoting(false);
-  std::vector<double> times;
-  times.reserve(kRounds);
-  for (int i = 0; i < kRounds; ++i) {
-    times.push_back(timeOf([&] { host.run(directory, kClasses, build_number); }));
-  }
-  printf("second %f\n", median(times));
+  Turns turns;
+  turns.add("second", [&] { host.run(directory, kClasses, build_number); });
+  turns.run(kRounds);
 
   removeAll(outputs);
   compare("first", "plain", directory, kClasses, host);

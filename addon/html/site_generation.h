@@ -33,7 +33,7 @@ std::string siteStartPage(std::string_view directory, std::string_view project_n
 // Reads the sources and writes every page, each of which is there as it was or whole at
 // any time. Files that cannot be read and pages that cannot be written are left out; false only
 // after a failed internal check, which was shown and at which the generation stopped.
-bool generateSite(const SiteRequest& request, MaskLister& lister, FileSystem& files,
+bool generateSite(const SiteRequest& request, DirectoryLister& lister, FileSystem& files,
                   SiteProgress& progress);
 
 }  // namespace kesto

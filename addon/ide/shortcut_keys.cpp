@@ -11,6 +11,8 @@ constexpr LPARAM kKeyUp = static_cast<LPARAM>(1UL << 31);
 constexpr LPARAM kKeyWasDown = 1L << 30;
 constexpr LPARAM kAltHeld = 1L << 29;
 constexpr int kActiveTitleSize = 300;
+// Milliseconds after which an Escape that has not come was never in the queue.
+constexpr DWORD kSwallowTime = 5000;
 
 unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
   return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
@@ -43,6 +45,19 @@ bool keysAreTaken() {
 }
 
 }  // namespace
+
+void HookSet::swallowEscape() {
+  swallowing_escape_ = true;
+  swallowing_since_ = GetTickCount();
+}
+
+// Held down, the key repeats until it comes up.
+bool HookSet::onSwallowedEscape(LPARAM lParam) {
+  const bool swallowed = swallowing_escape_ && GetTickCount() - swallowing_since_ < kSwallowTime;
+  swallowing_since_ = GetTickCount();
+  swallowing_escape_ = swallowed && (lParam & kKeyUp) == 0;
+  return swallowed;
+}
 
 bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   if (key_capture_ != nullptr) {

@@ -8,6 +8,7 @@
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/name_search.h"
 #include "addon/navigation/popup_menu.h"
@@ -45,6 +46,11 @@ class WaitCursor {
 
 std::string searchingText(const std::string& name) {
   return "Searching " + name + " ...";
+}
+
+// What the status line says of a search that Escape ended.
+std::string stoppedText(const std::string& searching, int found) {
+  return searching + " stopped, " + std::to_string(found) + " found so far";
 }
 
 HWND targetEditor() {
@@ -120,7 +126,12 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     const WaitCursor wait;
     const std::string text = searchingText(name);
     showStatus(text.c_str());
-    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit);
+    SearchWatch watch(text);
+    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit, &watch);
+    if (watch.stopped()) {
+      showStatus((text + " stopped").c_str());
+      return true;
+    }
     showStatus((text + (found ? " Found !" : " sorry !")).c_str());
   }
   if (!found) {
@@ -135,30 +146,44 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
   return true;
 }
 
-void QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
+bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
   const WaitCursor wait;
-  showStatus(searchingText(name).c_str());
-  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits);
+  const std::string text = searchingText(name);
+  showStatus(text.c_str());
+  SearchWatch watch(text);
+  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
+  if (watch.stopped()) {
+    showStatus(stoppedText(text, hits.count()).c_str());
+  }
+  return !watch.stopped();
 }
 
 bool QuickFind::findMethods(const std::string& name) {
-  collect(Search::kMethod, name, method_results_);
+  const bool whole = collect(Search::kMethod, name, method_results_);
   const int found = method_results_.count();
   if (found > 0) {
+    // The only one so far need not be the one that was sought.
+    const bool direct = found == 1 && whole;
     PostMessageA(owner_, WM_COMMAND,
-                 static_cast<WPARAM>(found == 1 ? kCommandFirstResult : kCommandMethodResults), 0);
+                 static_cast<WPARAM>(direct ? kCommandFirstResult : kCommandMethodResults), 0);
   }
-  return found > 0;
+  return found > 0 || !whole;
 }
 
 bool QuickFind::crossReference(const std::string& name) {
-  collect(Search::kCross, name, cross_results_);
+  const bool whole = collect(Search::kCross, name, cross_results_);
   if (cross_results_.count() == 0) {
+    if (!whole) {
+      return true;
+    }
     soundBeep();
     showStatus("Sorry, nothing found !");
     return false;
   }
-  messages_.write(name.c_str(), cross_results_);
+  messages_.write(name.c_str(), cross_results_, whole);
+  if (!whole) {
+    return true;
+  }
   soundBeep();
   showStatus("References found, see Message Window");
   return true;

@@ -11,6 +11,7 @@
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/include_search.h"
@@ -105,11 +106,18 @@ bool chooseInclude(int index) {
   if (name == nullptr) {
     return true;
   }
+  const std::string locating = std::string("Locating ") + name + " ...";
+  SearchWatch watch(locating);
   DirectoryListing listing;
+  Folders folders(listing, &watch);
   const String path =
       includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
   String found;
-  if (!findInclude(listing, path.view(), name, found)) {
+  if (!findInclude(folders, listing, path.view(), name, found)) {
+    if (watch.stopped()) {
+      showStatus((locating + " stopped").c_str());
+      return true;
+    }
     showStatus("Pas trouve");
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;

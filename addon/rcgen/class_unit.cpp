@@ -31,12 +31,9 @@ Time modified(FileSystem& files, const char* path) {
   return status ? Time(status->modified) : Time();
 }
 
-std::vector<String> scriptsOf(MaskLister& lister, const String& directory) {
-  Tableau<String> names;
-  lister.listFiles(directory, "*.rc", names);
+std::vector<String> scriptsOf(Folders& folders, const String& directory) {
   std::vector<String> paths;
-  for (int i = 0; i < names.count(); ++i) {
-    const std::string_view name = names.at(i)->view();
+  for (const std::string& name : folders.files(directory, FileMask("*.rc"))) {
     if (!name.starts_with('.')) {
       paths.push_back(joinPath(directory.view(), name));
     }
@@ -135,12 +132,15 @@ bool isOutOfDate(Time header, Time implementation, std::span<const Time> scripts
                      [older](Time script) { return !script || *script > older; });
 }
 
-void updateClassUnit(const GeneratorHost& host, const ClassUnit& unit) {
+void updateClassUnit(const GeneratorHost& host, Folders& folders, const ClassUnit& unit) {
+  if (!folders.enter(unit.directory)) {
+    return;
+  }
   const String header = outputPath(unit, ".h");
   const String implementation = outputPath(unit, ".cpp");
   const Time header_time = modified(host.files, header);
   const Time implementation_time = modified(host.files, implementation);
-  const std::vector<String> scripts = scriptsOf(host.lister, unit.directory);
+  const std::vector<String> scripts = scriptsOf(folders, unit.directory);
   if (!isOutOfDate(header_time, implementation_time, timesOf(host.files, scripts))) {
     return;
   }

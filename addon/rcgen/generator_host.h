@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "addon/foundation/directory_walk.h"
+#include "addon/foundation/directory_lister.h"
 #include "addon/foundation/file_system.h"
 
 namespace kesto {
@@ -17,7 +17,7 @@ class GeneratorNotices {
 };
 
 struct GeneratorHost {
-  MaskLister& lister;
+  DirectoryLister& lister;
   FileSystem& files;
   GeneratorNotices& notices;
 };

@@ -101,24 +101,20 @@ bool holdsStatement(std::string_view text) {
 
 class Stamping {
  public:
-  Stamping(const GeneratorHost& host, std::int32_t& build_number)
-      : host_(host), files_(host.files), build_number_(build_number) {}
+  Stamping(const GeneratorHost& host, Folders& folders, std::int32_t& build_number)
+      : host_(host), files_(host.files), folders_(folders), build_number_(build_number) {}
 
   // Each level adds two characters at least, so that kPathLimit bounds the depth.
   void tree(const String& directory) {
-    if (directories_left_ == 0 || directory.view().size() > kPathLimit) {
+    if (!folders_.enter(directory)) {
       return;
     }
-    --directories_left_;
-    Tableau<String> names;
-    host_.lister.listDirectories(directory, names);
-    for (int i = 0; i < names.count(); ++i) {
-      const std::string_view name = names.at(i)->view();
-      if (name != "." && name != "..") {
-        tree(joinPath(directory.view(), name));
-      }
+    for (const std::string_view name : folders_.directories(directory)) {
+      tree(joinPath(directory.view(), name));
     }
-    stamp(directory);
+    if (!folders_.stopped()) {
+      stamp(directory);
+    }
   }
 
  private:
@@ -199,8 +195,8 @@ class Stamping {
 
   const GeneratorHost& host_;
   FileSystem& files_;
+  Folders& folders_;
   std::int32_t& build_number_;
-  int directories_left_ = kDirectoryLimit;
 };
 
 }  // namespace
@@ -230,8 +226,9 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number) {
   return stamped;
 }
 
-void stampVersions(const GeneratorHost& host, const String& directory, std::int32_t& build_number) {
-  Stamping(host, build_number).tree(directory);
+void stampVersions(const GeneratorHost& host, Folders& folders, const String& directory,
+                   std::int32_t& build_number) {
+  Stamping(host, folders, build_number).tree(directory);
 }
 
 }  // namespace kesto

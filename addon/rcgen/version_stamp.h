@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "addon/foundation/folders.h"
 #include "addon/foundation/string.h"
 #include "addon/rcgen/generator_host.h"
 
@@ -23,6 +24,7 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number);
 // its own. The first text of each stays beside it as VERSION.BAK, from which every later
 // one is made. A text that goes lost to a VERSION.BAK without a version is kept once, as
 // VERSION.OLD. What is UTF-16 is left alone. Nothing is told of what fails.
-void stampVersions(const GeneratorHost& host, const String& directory, std::int32_t& build_number);
+void stampVersions(const GeneratorHost& host, Folders& folders, const String& directory,
+                   std::int32_t& build_number);
 
 }  // namespace kesto

@@ -10,29 +10,31 @@
 
 namespace kesto {
 
-class PlayedFiles : public PlayedDisk, public MaskLister, public GeneratorNotices {
+class PlayedFiles : public PlayedDisk, public DirectoryLister, public GeneratorNotices {
  public:
   // What each directory lists, in that order.
   std::map<std::string, std::vector<std::string>> scripts;
   std::map<std::string, std::vector<std::string>> subdirectories;
-  bool endless = false;  // every directory holds two more
-  std::string notices;   // a line each
+  std::map<std::string, std::vector<std::string>> links;  // to directories
+  bool endless = false;                                   // every directory holds two more
+  std::string notices;                                    // a line each
 
   GeneratorHost host() { return {*this, *this, *this}; }
 
-  void listFiles(const char* directory, const char* /*mask*/, Tableau<String>& names) override {
-    add(scripts[directory], names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
+  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
     ((done += "list ") += directory) += '\n';
-    add(endless ? std::vector<std::string>{"loop", "more"} : subdirectories[directory], names);
+    add(DirectoryEntries::Kind::kFile, scripts[directory], entries);
+    add(DirectoryEntries::Kind::kDirectory,
+        endless ? std::vector<std::string>{"loop", "more"} : subdirectories[directory], entries);
+    add(DirectoryEntries::Kind::kLink, links[directory], entries);
   }
   void notice(const std::string& text) override { (notices += text) += '\n'; }
 
  private:
-  static void add(const std::vector<std::string>& from, Tableau<String>& names) {
-    for (const std::string& name : from) {
-      names.append(new String(name.c_str()));
+  static void add(DirectoryEntries::Kind kind, const std::vector<std::string>& names,
+                  DirectoryEntries& entries) {
+    for (const std::string& name : names) {
+      entries.add(kind, name);
     }
   }
 };

@@ -97,6 +97,7 @@ TEST_CASE("units are made in order, each when something of its own changed") {
   PlayedFiles files;
   std::int32_t build_number = 0;
   files.subdirectories["P"] = {".", "..", "src", "res"};
+  files.links["P"] = {"link"};
   files.subdirectories["P\\src"] = {"deeper"};
   files.scripts["P"] = {"a.rc", ".b.rc"};
   files.scripts["P\\res"] = {"c.rc", "d.rc"};
@@ -106,8 +107,9 @@ TEST_CASE("units are made in order, each when something of its own changed") {
 
   CHECK(ran(files, {false, false}, build_number).empty());
   CHECK(ran(files, kClasses, build_number) ==
-        "list P\n" + written("P\\src\\rcsrc") + "read P\\res\\c.rc\nread P\\res\\d.rc\n" +
-            written("P\\res\\rcres") + "read P\\a.rc\n" + written("P\\rc"));
+        "list P\nlist P\\src\n" + written("P\\src\\rcsrc") +
+            "list P\\res\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres") +
+            "read P\\a.rc\n" + written("P\\rc"));
   const std::string& header = files.files["P\\res\\rcres.h"].text;
   CHECK(header.find("class rcC ") < header.find("class rcD "));
   CHECK(header.ends_with("\n#endif\n"));
@@ -116,18 +118,19 @@ TEST_CASE("units are made in order, each when something of its own changed") {
   CHECK(files.files["P\\rc.cpp"].text.ends_with("}\n\n\nRCRCMAIN\n\n"));
   CHECK(files.files["P\\res\\rcres.cpp"].text.find("RCRCMAIN") == std::string::npos);
 
-  CHECK(ran(files, kClasses, build_number) == "list P\n");
+  const std::string listed = "list P\nlist P\\src\nlist P\\res\n";
+  CHECK(ran(files, kClasses, build_number) == listed);
 
   files.now = 101;
   files.put("P\\res\\d.rc", "E DIALOG 1\n}\n");
   CHECK(ran(files, kClasses, build_number) ==
-        "list P\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
+        listed + "read P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
 
   // A script that cannot be had is left out, and asks for its unit every time.
   files.files.erase("P\\res\\d.rc");
   for (int i = 0; i < 2; ++i) {
     CHECK(ran(files, kClasses, build_number) ==
-          "list P\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
+          listed + "read P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
   }
   CHECK(files.files["P\\res\\rcres.h"].text.find("class rcE") == std::string::npos);
   CHECK(build_number == 0);
@@ -179,6 +182,7 @@ TEST_CASE("the version files of a tree") {
   std::int32_t build_number = 0;
   files.subdirectories["P"] = {".", "..", "a", "b"};
   files.subdirectories["P\\a"] = {".", "..", "c"};
+  files.links["P\\a"] = {"link"};
   files.put("P\\VERSION.RC", "FILEVERSION 1,0,0,41\n");
   files.put("P\\a\\VERSION.RC", "FILEVERSION 1,0,0,2\n");
   files.put("P\\a\\c\\VERSION.RC", "FILEVERSION 1,0,0,5\n");
@@ -209,6 +213,14 @@ TEST_CASE("the version files of a tree") {
   files.directories.insert("P\\a\\c\\VERSION.RC");
   CHECK(ran(files, kVersions, build_number).find("c\\VERSION.BAK") == std::string::npos);
   CHECK(build_number == 45);
+
+  // Who ends it leaves the directories that it came through as they are.
+  class : public WalkWatch {
+    bool goOn(int directories, int /*files*/) override { return directories < 3; }
+  } watch;
+  files.takeDone();
+  runGenerator(files.host(), "P", kVersions, build_number, &watch);
+  CHECK(files.takeDone() == "list P\nlist P\\a\n");
 }
 
 TEST_CASE("what is UTF-16 is left alone") {

@@ -20,6 +20,11 @@ int EditorSet::ask(const std::string& text, UINT buttons) {
 }
 
 EditorChild* EditorSet::find(const std::string& path) const {
+  // Mostly none has it, which is known without asking the system for its windows.
+  if (std::none_of(children_.begin(), children_.end(),
+                   [&](const auto& child) { return samePath(child->file(), path); })) {
+    return nullptr;
+  }
   // The MDI client lists its children from the top one down.
   for (HWND window = GetWindow(mdi_client_, GW_CHILD); window != nullptr;
        window = GetWindow(window, GW_HWNDNEXT)) {
