@@ -25,26 +25,29 @@ class StatusBar {
   // Something else has happened than what the text tells: it leaves, though not before it
   // was there long enough to be read.
   void passText();
-  const std::string& text() const { return text_; }
+  const std::string& text() const { return texts_[0]; }
   // "line:column", "Modified", "New file" or empty, "Insert" or "Overwrite"; all empty without
   // an editor.
-  const std::string& state() const { return state_; }
+  const std::string& state() const { return texts_[2]; }
   void setFields(const std::string& position, const std::string& state, const std::string& mode);
 
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
+  // From the left: the text, the position, the state and the mode.
+  static constexpr int kFields = 4;
+
   void paint();
   void textLeaves();
+  RECT fieldArea(int field) const;
+  // Returns whether it is another text than before; the field is then painted anew.
+  bool change(int field, const std::string& text);
 
   HWND window_ = nullptr;
   OwnedFont font_;
   std::function<void(const std::string&)> left_;
   DWORD shown_at_ = 0;    // the system's milliseconds
   bool passing_ = false;  // the text leaves when its time is over
-  std::string text_;
-  std::string position_;
-  std::string state_;
-  std::string mode_;
+  std::string texts_[kFields];
 };
 
 }  // namespace workbench

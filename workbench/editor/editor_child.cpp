@@ -22,7 +22,8 @@ EditorChild::~EditorChild() {
 }
 
 bool EditorChild::create(HWND mdi_client, HINSTANCE instance, const Area& place) {
-  return createChild(mdi_client, instance, ideapi::kEditorClass, title().c_str(), place.left,
+  shown_title_ = title();
+  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(), place.left,
                      place.top, place.width(), place.height());
 }
 
@@ -75,9 +76,15 @@ void EditorChild::setViewNumber(int number) {
 }
 
 void EditorChild::updateTitle() {
-  if (window() != nullptr) {
-    SetWindowTextA(window(), title().c_str());
+  const std::string wanted = title();
+  if (window() == nullptr || wanted == shown_title_) {
+    return;
   }
+  shown_title_ = wanted;
+  SetWindowTextA(window(), wanted.c_str());
+  // The system may draw the new caption without a word. Add-ons that draw into it wait
+  // for this message.
+  SendMessageA(window(), WM_NCPAINT, 1, 0);
 }
 
 void EditorChild::caret(int* line, int* column) {

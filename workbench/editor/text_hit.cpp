@@ -15,16 +15,14 @@ void TextWindow::showHit() {
   marked_ = caret_.line;
   if (window_ != nullptr) {
     scrollTo(topForHit(marked_, visibleLines()), left_);
-    InvalidateRect(window_, nullptr, FALSE);
+    repaint();
   }
 }
 
 void TextWindow::unmark() {
   if (marked_ >= 0) {
     marked_ = -1;
-    if (window_ != nullptr) {
-      InvalidateRect(window_, nullptr, FALSE);
-    }
+    repaint();
   }
 }
 

@@ -31,6 +31,7 @@ enum class Verb {
   kEdit,
   kEndSession,
   kExpect,
+  kExpectButtons,
   kExpectNot,
   kExpectRegistry,
   kHandles,
@@ -67,7 +68,8 @@ inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWait) + 1;
 
 // Whether a step waits while a message box that nobody has answered is open.
 enum class Readiness {
-  kBesideBoxes,  // runs at any time
+  kBesideBoxes,  // does not wait
+  kHeldUp,       // nor for a call that holds up the thread, once that lasts
   kWithoutBox,   // waits for the box to go
 };
 
