@@ -22,8 +22,8 @@ TEST_CASE("a new window stands beside the panes, one step in from the one before
   CHECK(same(placeForNew(whole, {}, {}, kStep), {0, 0, 920, 520}));
   CHECK(same(placeForNew(whole, {project}, {}, kStep), {260, 0, 920, 520}));
   for (const bool project_first : {true, false}) {
-    const std::vector<Area> panes = project_first ? std::vector<Area>{project, messages}
-                                                  : std::vector<Area>{messages, project};
+    const std::vector<Area> panes =
+        project_first ? std::vector<Area>{project, messages} : std::vector<Area>{messages, project};
     CHECK(same(placeForNew(whole, panes, {}, kStep), {260, 0, 920, 370}));
   }
 

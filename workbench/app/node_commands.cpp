@@ -86,8 +86,8 @@ void Application::renameAsked(unsigned int node, const std::string& name) {
     setStatus(to + " is there already; " + from + " keeps its name on the disk");
     return;
   }
-  const int answer =
-      ask("Rename the file on the disk as well?\n\n" + from + "\nto " + to, MB_YESNOCANCEL | MB_ICONQUESTION);
+  const int answer = ask("Rename the file on the disk as well?\n\n" + from + "\nto " + to,
+                         MB_YESNOCANCEL | MB_ICONQUESTION);
   // While it was asked the node may have gone, or taken another name.
   info = project_.node(node);
   if (answer == IDCANCEL || info == nullptr || info->name != from) {

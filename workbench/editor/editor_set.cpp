@@ -170,11 +170,12 @@ Area EditorSet::freePlace() const {
     place.length = sizeof place;
     // The titles of icons are windows too.
     if (GetWindow(window, GW_OWNER) == nullptr && IsIconic(window) == 0 &&
-        (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0 && GetWindowPlacement(window, &place) != 0) {
+        (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0 &&
+        GetWindowPlacement(window, &place) != 0) {
       const RECT& area = place.rcNormalPosition;
-      const bool editor = std::any_of(children_.begin(), children_.end(), [window](const auto& each) {
-        return each->window() == window;
-      });
+      const bool editor =
+          std::any_of(children_.begin(), children_.end(),
+                      [window](const auto& each) { return each->window() == window; });
       (editor ? editors : panes).push_back({area.left, area.top, area.right, area.bottom});
     }
   }

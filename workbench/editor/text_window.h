@@ -146,7 +146,7 @@ class TextWindow final : public DocumentListener {
   Highlighter highlighter_;
   Place caret_;
   Place anchor_;
-  int marked_ = -1;       // the line of a hit; -1 for none
+  int marked_ = -1;  // the line of a hit; -1 for none
   // The selection as the window shows it where nothing is to be painted anew.
   Place shown_from_;
   Place shown_to_;

@@ -50,7 +50,7 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   MessageViewer viewer_;
   HWND inner_ = nullptr;  // between this window and its controls
   unsigned int shown_ = MessageStore::kBuildGroup;
-  unsigned int header_ = 0;    // the message to select next, 0 for none
+  unsigned int header_ = 0;   // the message to select next, 0 for none
   bool other_group_ = false;  // since the list was last filled
   bool update_posted_ = false;
 };

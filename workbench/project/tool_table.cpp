@@ -30,9 +30,9 @@ const char* toolForType(const std::string& type) {
 
 bool isTextType(const std::string& type) {
   static constexpr std::string_view kOthers[] = {
-      ".a",   ".bmp", ".chm", ".com", ".csm", ".cur", ".dll", ".drv", ".exe", ".fnt", ".fon",
-      ".gif", ".hlp", ".ico", ".ide", ".jpg", ".lib", ".o",   ".obj", ".ocx", ".png", ".res",
-      ".rle", ".tds", ".tlb", ".ttf", ".vxd", ".wav", ".zip"};
+      ".a",   ".bmp", ".chm", ".com", ".csm", ".cur", ".dll", ".drv", ".exe", ".fnt",
+      ".fon", ".gif", ".hlp", ".ico", ".ide", ".jpg", ".lib", ".o",   ".obj", ".ocx",
+      ".png", ".res", ".rle", ".tds", ".tlb", ".ttf", ".vxd", ".wav", ".zip"};
   const std::string folded = foldCase(type);
   return !folded.empty() && folded[0] == '.' &&
          std::find(std::begin(kOthers), std::end(kOthers), folded) == std::end(kOthers);

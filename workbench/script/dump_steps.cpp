@@ -151,9 +151,9 @@ StepResult stepDump(StepTry& step) {
     const char* name;
     Step dump;
   } kinds[] = {
-      {"menu", dumpMenu},          {"bar", dumpBar},           {"editors", dumpEditors},
-      {"windows", dumpWindows},    {"dialog", dumpDialog},     {"text", dumpText},
-      {"project", dumpProject},    {"messages", dumpMessages}, {"documents", dumpAllDocuments},
+      {"menu", dumpMenu},           {"bar", dumpBar},           {"editors", dumpEditors},
+      {"windows", dumpWindows},     {"dialog", dumpDialog},     {"text", dumpText},
+      {"project", dumpProject},     {"messages", dumpMessages}, {"documents", dumpAllDocuments},
       {"clipboard", dumpClipboard}, {"status", dumpStatus}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
