@@ -40,13 +40,11 @@ class RowPainter {
   RowPainter(HDC dc, const RECT& row, int margin, int cell_width)
       : dc_(dc), row_(row), margin_(margin), cell_width_(cell_width) {}
   ~RowPainter() {
-    if (paper_ == window_paper_) {
-      flush(row_.right);
-    } else {
+    if (paper_ != window_paper_) {
       flush(edgeOf(end_));
       paper_ = window_paper_;
-      flush(row_.right);
     }
+    flush(row_.right);
   }
   RowPainter(const RowPainter&) = delete;
   RowPainter& operator=(const RowPainter&) = delete;

@@ -133,14 +133,18 @@ StepResult stepDoubleClickTitle(StepTry& step) {
 
 StepResult stepExpectButtons(StepTry& step) {
   TitleSide side = TitleSide::kLeft;
-  HWND editor = sideOf(step, 1, &side) ? editorToClick(step, step.arg(0)) : nullptr;
-  if (editor == nullptr) {
+  if (!sideOf(step, 1, &side)) {
     return StepResult::kFailed;
+  }
+  // It is not brought forward, which would paint its caption.
+  EditorWindow* editor = step.stage.editing.findEditor(step.stage.paths.resolve(step.arg(0)));
+  if (editor == nullptr) {
+    return step.fail("no editor shows " + step.arg(0));
   }
   HWND bar = step.stage.window.addonBar();
   auto* addon =
       bar != nullptr ? reinterpret_cast<HINSTANCE>(GetWindowLongA(bar, GWL_HINSTANCE)) : nullptr;
-  return addon != nullptr && titleButtonsShow(editor, addon, side)
+  return addon != nullptr && titleButtonsShow(editor->window(), addon, side)
              ? StepResult::kDone
              : step.again("the caption of " + step.arg(0) + " does not show the buttons", 5000);
 }
