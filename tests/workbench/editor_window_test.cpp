@@ -276,34 +276,114 @@ TEST_CASE("a file that another program changed is not overwritten unasked") {
   CHECK_FALSE(desk.editor->modified());
 }
 
-TEST_CASE("a changed file is offered once, and read again where the caret was") {
+TEST_CASE("a changed file is read again where the caret was, and asks before changes here go") {
   Desk desk;
   Application& application = desk.program.application;
-  application.programActivated();  // nothing changed, nothing asked
+  const std::string path = desk.folder.file("a.cpp");
+  application.programActivated();  // nothing changed, nothing said
+  CHECK(application.status().empty());
   desk.editor->setCaret(2, 3);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n");
-  {
-    Answers answers({IDNO});
-    application.programActivated();
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == kOnDisk);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n4\n");
-  {
-    Answers answers({IDYES});
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == "1\n22222\n3\n4\n");
-  CHECK(desk.place() == "2:3");
+  writeFile(path, "0\nfirst\r\nsecond word\r\nthird\r\n");
+  application.timePassed();
+  CHECK(application.status() == path + " was read again from the disk");
+  CHECK(desk.editor->text() == "0\nfirst\r\nsecond word\r\nthird\r\n");
+  CHECK(desk.place() == "3:3");
   CHECK_FALSE(desk.editor->modified());
-  DeleteFileA(desk.folder.file("a.cpp").c_str());
+  desk.message(WM_UNDO);
+  CHECK(desk.editor->text() == kOnDisk);
+  CHECK(desk.editor->modified());
+  // With a change here it asks, once for each change there.
+  desk.editor->setCaret(2, 4);
+  for (const int answer : {IDNO, IDYES}) {
+    writeFile(path, "1\n22222\n" + std::to_string(answer));
+    Answers answers({answer});
+    application.programActivated();
+    application.timePassed();
+    CHECK(desk.editor->modified() == (answer == IDNO));
+  }
+  CHECK(desk.editor->text() == "1\n22222\n" + std::to_string(IDYES));
+  CHECK(desk.place() == "2:4");
+  // A file that goes may be on its way back; when it stays away, that is told once.
+  DeleteFileA(path.c_str());
+  application.timePassed();
+  writeFile(path, "back");
+  application.timePassed();
+  CHECK(desk.editor->text() == "back");
+  DeleteFileA(path.c_str());
   {
     Answers answers({IDOK});
+    application.timePassed();
+    application.timePassed();
+    application.timePassed();
     application.programActivated();
   }
   CHECK(desk.editor->modified());
   CHECK(desk.editor->save());
-  CHECK(desk.onDisk() == "1\n22222\n3\n4\n");
+  CHECK(desk.onDisk() == "back");
+}
+
+TEST_CASE("what an interrupted save left is offered when its file is opened") {
+  const struct {
+    const char* left;
+    std::vector<int> answers;
+    bool used;
+    bool still_there;
+  } cases[] = {
+      {"whole", {IDYES}, true, true},
+      {"whole", {IDNO}, false, false},
+      {"whole", {IDCANCEL}, false, true},
+      {"on disk\n", {}, false, false},  // the file has all of it
+  };
+  for (const auto& each : cases) {
+    CAPTURE(each.answers.size());
+    Desk desk;
+    const std::string left = desk.folder.file("a.cpp.~3");
+    desk.closeEditor();
+    writeFile(desk.folder.file("a.cpp"), "on disk\n");
+    writeFile(left, each.left);
+    {
+      Answers answers(each.answers);
+      desk.editor = desk.program.application.editFile("a.cpp", 1);
+    }
+    CHECK(desk.editor->text() == (each.used ? "whole" : "on disk\n"));
+    CHECK(desk.editor->modified() == each.used);
+    CHECK(desk.onDisk() == "on disk\n");
+    CHECK(DiskStore().stamp(left).exists == each.still_there);
+    if (each.used) {
+      desk.message(WM_UNDO);
+      CHECK(desk.editor->text() == "on disk\n");
+      desk.editor->type("x");
+      CHECK(desk.editor->save());
+      CHECK_FALSE(DiskStore().stamp(left).exists);
+    }
+    DeleteFileA(left.c_str());
+  }
+  Desk desk;
+  writeFile(desk.folder.file("gone.cpp.~0.old"), "text");
+  Answers answers({IDYES});
+  EditorWindow* editor = desk.program.application.editFile("gone.cpp", 1);
+  REQUIRE(editor != nullptr);
+  CHECK(editor->text() == "text");
+  CHECK(editor->modified());
+  DeleteFileA(desk.folder.file("gone.cpp.~0.old").c_str());
+}
+
+TEST_CASE("a project file is offered what an interrupted save left of it") {
+  ScratchFolder folder;
+  const std::string head = "Workbench project 1\r\n";
+  const std::string left = folder.projectFile() + ".~0";
+  writeFile(folder.projectFile(), head + "end\r\n");
+  writeFile(left, head + "node \"a.cpp\" \".cpp\"\r\nend\r\n");
+  Program program;
+  {
+    Answers answers({IDYES});
+    CHECK(program.application.openPath(folder.path()));
+  }
+  CHECK(program.application.projectEntries().size() == 1);
+  CHECK(DiskStore().stamp(left).exists);
+  Answers answers({IDYES});
+  CHECK(program.application.closeProject());
+  CHECK_FALSE(DiskStore().stamp(left).exists);
 }
 
 TEST_CASE("a read-only file says so before it is edited and when it is saved") {

@@ -40,6 +40,7 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
   editors_.setChangeListener([this] { showEditorState(); });
+  editors_.setStatusListener([this](const std::string& text) { setStatus(text); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
   return true;

@@ -44,6 +44,8 @@ bool Application::commandEnabled(int id) {
     case CM_WINDOW_ARRANGE:
     case CM_WINDOW_NEXT:
       return SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0) != 0;
+    case CM_FILE_RELOAD:
+      return child != nullptr && !child->openFile().untitled;
     case CM_EDIT_UNDO:
       return child != nullptr && child->openFile().document.canUndo();
     case CM_EDIT_REDO:
@@ -110,6 +112,11 @@ bool Application::fileCommand(int id, EditorChild* child) {
       return true;
     case CM_FILE_SAVE_ALL:
       saveAll();
+      return true;
+    case CM_FILE_RELOAD:
+      if (child != nullptr) {
+        editors_.reload(child->openFile());
+      }
       return true;
     case CM_FILE_CLOSE:
       if (const LRESULT active = SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0)) {

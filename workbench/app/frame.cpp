@@ -11,6 +11,8 @@ namespace workbench {
 namespace {
 
 constexpr UINT kCheckDisk = WM_APP + 1;
+constexpr UINT kTimer = 1;
+constexpr UINT kTimerMs = 2000;
 // The Window menu, to which the system appends the list of children.
 constexpr int kWindowMenuPosition = 4;
 
@@ -57,6 +59,7 @@ LRESULT CALLBACK Frame::windowProc(HWND window, UINT message, WPARAM w, LPARAM l
 LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_CREATE:
+      SetTimer(window_, kTimer, kTimerMs, nullptr);
       return createClient() ? 0 : -1;
     case WM_SIZE:
       layOut();
@@ -81,6 +84,12 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
     case kCheckDisk:
       if (!closing_ && IsWindowEnabled(window_) != 0) {
         handler_.programActivated();
+      }
+      return 0;
+    case WM_TIMER:
+      // Menus and drags hold the mouse.
+      if (w == kTimer && !closing_ && IsWindowEnabled(window_) != 0 && GetCapture() == nullptr) {
+        handler_.timePassed();
       }
       return 0;
     case WM_QUERYENDSESSION:

@@ -23,6 +23,8 @@ class FrameHandler {
   // The editors are gone, the frame's windows still stand.
   virtual void frameClosing() = 0;
   virtual void programActivated() = 0;
+  // Every two seconds in which no box, menu or drag holds the frame.
+  virtual void timePassed() = 0;
   // The dialog that is open without a loop of its own; null for none.
   virtual HWND modelessDialog() = 0;
 

@@ -58,6 +58,8 @@ class Document {
 
   // Replaces everything and forgets the history; the text counts as saved.
   void load(std::string_view bytes);
+  // Makes the text these bytes, as an edit of the stretch that differs; returns which.
+  DocumentChange renew(std::string_view bytes);
   std::string bytes() const;
 
   int lineCount() const { return static_cast<int>(lines_.size()); }

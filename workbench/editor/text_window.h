@@ -48,6 +48,8 @@ class TextWindow final : public DocumentListener {
   void select(Place from, Place to);
   bool hasSelection() const { return !(anchor_ == caret_); }
   std::string selection() const;
+  int topLine() const { return top_; }
+  void setTopLine(int line) { scrollTo(line, left_); }
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
 
