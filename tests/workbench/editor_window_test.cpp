@@ -7,6 +7,7 @@
 
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
+#include "workbench/windows/clipboard.h"
 
 using namespace workbench;
 
@@ -223,6 +224,57 @@ TEST_CASE("the clipboard's messages move the selection") {
   CHECK(desk.editor->text() == "t");
   desk.message(WM_SYSKEYDOWN, VK_BACK, 1 << 29);
   CHECK(desk.editor->text() == "onwo\r\nthreee\r\nt");
+}
+
+TEST_CASE("a UTF-8 text is worked in by characters, and handed out in the code page") {
+  Desk desk;
+  const std::string path = desk.folder.file("a.cpp");
+  desk.closeEditor();
+  // A character of two bytes, one of three, one of four; a tab between them.
+  writeFile(path, "\xEF\xBB\xBF\xC3\xA9\t\xE2\x82\xAC\xF0\x9F\x98\x80\r\nx\n");
+  desk.editor = desk.program.application.editFile(path, 1);
+  CHECK(desk.editor->text() == "\xE9\t\x80?\r\nx\n");
+  desk.message(WM_SETFOCUS);
+  desk.press(VK_END);
+  CHECK(desk.place() == "1:5");
+  desk.press(VK_BACK);
+  CHECK(desk.place() == "1:4");
+  desk.press(VK_LEFT);
+  CHECK(desk.place() == "1:3");
+  // Beyond the code page, of one unit and of two.
+  for (const wchar_t unit : {0x3A9, 0xD83D, 0xDE00}) {
+    SendMessageW(desk.editor->textWindow(), WM_CHAR, static_cast<WPARAM>(unit), 0);
+  }
+  desk.keys("\xF1");
+  CHECK(desk.place() == "1:6");
+  desk.press(VK_HOME);
+  desk.press(VK_DELETE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xEF\xBB\xBF\t\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\nx\n");
+  // What is copied is there in the code page, and whole for whoever takes it so.
+  desk.editor->select(1, 2, 2, 1);
+  desk.message(WM_COPY);
+  std::string ansi;
+  CHECK(takeFromClipboard(nullptr, &ansi));
+  CHECK(ansi == "??\xF1\x80\r\n");
+  desk.editor->setCaret(2, 2);
+  desk.message(WM_PASTE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk().ends_with("\r\nx\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\n\n"));
+}
+
+TEST_CASE("a plain text takes what the code page has as such, and becomes UTF-8 for the rest") {
+  Desk desk;
+  desk.setText("");
+  desk.keys("\xE9");
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);  // no place for it
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xE9");
+  desk.press(VK_BACK);
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);
+  desk.keys("\xE9");
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xCE\xA9\xC3\xA9");
 }
 
 TEST_CASE("closing a modified text asks, and only yes writes") {

@@ -171,7 +171,7 @@ void Application::setStatus(const std::string& text) {
 void Application::showEditorState() {
   EditorChild* child = editors_.active();
   if (child == nullptr) {
-    frame_.statusBar().setFields("", "", "");
+    frame_.statusBar().setFields("", "", "", "");
     return;
   }
   int line = 0;
@@ -180,8 +180,10 @@ void Application::showEditorState() {
   std::string position = std::to_string(line);
   position += ':';
   position += std::to_string(column);
-  frame_.statusBar().setFields(position, child->modified() ? "Modified" : "",
-                               child->textView().insertMode() ? "Insert" : "Overwrite");
+  frame_.statusBar().setFields(
+      position, child->modified() ? "Modified" : "",
+      child->textView().insertMode() ? "Insert" : "Overwrite",
+      child->openFile().document.encoding() == Encoding::kUtf8 ? "UTF-8" : "ANSI");
 }
 
 }  // namespace workbench

@@ -168,7 +168,7 @@ bool Application::editCommand(int id, EditorChild* child) {
       text.selectAll();
       return true;
     case CM_EDIT_FIND: {
-      const std::string selected = text.selection();
+      const std::string selected = child->selection();
       if (!selected.empty() && selected.size() < 256 &&
           selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
         find_.text = selected;
@@ -197,7 +197,8 @@ void Application::findNext(bool backward) {
   if (child == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
     return;
   }
-  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
+  if (!child->textView().findText(fromAnsi(find_.text, child->openFile().document.encoding()),
+                                  find_.match_case, backward)) {
     setStatus("\"" + find_.text + "\" was not found");
     MessageBeep(MB_ICONWARNING);
   }

@@ -178,8 +178,10 @@ void Frame::setTitle(const std::string& title) {
 }
 
 int Frame::run() {
+  // Only the wide calls bring characters beyond the code page to a window that takes them.
+  const bool wide = (GetVersion() & 0x80000000U) == 0;
   MSG message = {};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+  while ((wide ? GetMessageW(&message, nullptr, 0, 0) : GetMessageA(&message, nullptr, 0, 0)) > 0) {
     HWND dialog = handler_.modelessDialog();
     if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
       continue;
@@ -190,7 +192,11 @@ int Frame::run() {
       continue;
     }
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    if (wide) {
+      DispatchMessageW(&message);
+    } else {
+      DispatchMessageA(&message);
+    }
   }
   return static_cast<int>(message.wParam);
 }

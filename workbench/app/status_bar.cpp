@@ -78,7 +78,7 @@ void StatusBar::paint() {
   SetTextColor(dc.get(), GetSysColor(COLOR_BTNTEXT));
   RECT field = area;
   InflateRect(&field, -2, -2);
-  const std::string* const fields[] = {&mode_, &state_, &position_};
+  const std::string* const fields[] = {&encoding_, &mode_, &state_, &position_};
   for (const std::string* text : fields) {
     RECT box = field;
     box.left = std::max(field.left, field.right - kFieldWidth);
@@ -102,13 +102,14 @@ void StatusBar::setText(const std::string& text) {
 }
 
 void StatusBar::setFields(const std::string& position, const std::string& state,
-                          const std::string& mode) {
-  if (position == position_ && state == state_ && mode == mode_) {
+                          const std::string& mode, const std::string& encoding) {
+  if (position == position_ && state == state_ && mode == mode_ && encoding == encoding_) {
     return;
   }
   position_ = position;
   state_ = state;
   mode_ = mode;
+  encoding_ = encoding;
   if (window_ != nullptr) {
     InvalidateRect(window_, nullptr, FALSE);
   }

@@ -19,9 +19,10 @@ class StatusBar {
   int height() const;
   void setText(const std::string& text);
   const std::string& text() const { return text_; }
-  // "line:column", "Modified" or empty, "Insert" or "Overwrite"; all empty without
-  // an editor.
-  void setFields(const std::string& position, const std::string& state, const std::string& mode);
+  // "line:column", "Modified" or empty, "Insert" or "Overwrite", how the file is
+  // encoded; all empty without an editor.
+  void setFields(const std::string& position, const std::string& state, const std::string& mode,
+                 const std::string& encoding);
 
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
@@ -33,6 +34,7 @@ class StatusBar {
   std::string position_;
   std::string state_;
   std::string mode_;
+  std::string encoding_;
 };
 
 }  // namespace workbench

@@ -76,10 +76,25 @@ Fragment Document::split(std::string_view text, LineEnd all_ends) {
   }
 }
 
+std::string_view Document::takeEncoding(std::string_view bytes) {
+  encoding_ = encodingOf(bytes);
+  marked_ = bytes.starts_with(kUtf8Mark);
+  return bytes.substr(marked_ ? kUtf8Mark.size() : 0);
+}
+
+bool Document::becomeUtf8() {
+  const bool plain = std::all_of(lines_.begin(), lines_.end(),
+                                 [](const TextLine& each) { return isAscii(each.text); });
+  if (plain) {
+    encoding_ = Encoding::kUtf8;
+  }
+  return encoding_ == Encoding::kUtf8;
+}
+
 void Document::load(std::string_view bytes) {
   const bool was_modified = modified();
   const Place old_end = endPlace();
-  lines_ = split(bytes, LineEnd::kNone);
+  lines_ = split(takeEncoding(bytes), LineEnd::kNone);
   prevailing_ = mostCommonEnd(lines_);
   steps_.clear();
   position_ = 0;
@@ -91,7 +106,7 @@ void Document::load(std::string_view bytes) {
 }
 
 DocumentChange Document::renew(std::string_view bytes) {
-  const Fragment wanted = split(bytes, LineEnd::kNone);
+  const Fragment wanted = split(takeEncoding(bytes), LineEnd::kNone);
   const auto differ = [](const TextLine& a, const TextLine& b) {
     return a.end != b.end || a.text != b.text;
   };
@@ -130,7 +145,7 @@ DocumentChange Document::renew(std::string_view bytes) {
 }
 
 std::string Document::bytes() const {
-  return textBetween({0, 0}, endPlace());
+  return std::string(marked_ ? kUtf8Mark : "") + textBetween({0, 0}, endPlace());
 }
 
 Place Document::endPlace() const {

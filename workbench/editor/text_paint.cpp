@@ -28,8 +28,8 @@ COLORREF colourOf(TextKind kind) {
 }
 
 // Control characters have no picture of their own.
-char shown(char c) {
-  return static_cast<unsigned char>(c) < 32 || c == 127 ? '\xB7' : c;
+unsigned shown(unsigned code) {
+  return code < 32 || code == 127 ? 0xB7U : code;
 }
 
 // Collects cells of one look and draws them in one call.
@@ -41,20 +41,29 @@ class RunPainter {
   RunPainter(const RunPainter&) = delete;
   RunPainter& operator=(const RunPainter&) = delete;
 
-  void put(int cell, char c, COLORREF ink, COLORREF paper) {
-    if (count_ == kMost || ink != ink_ || paper != paper_ || cell != cell_ + count_) {
+  void put(int cell, unsigned code, COLORREF ink, COLORREF paper) {
+    if (count_ + 2 > kMost || ink != ink_ || paper != paper_ || cell != cell_ + cells_) {
       flush();
       cell_ = cell;
       ink_ = ink;
       paper_ = paper;
     }
-    text_[count_] = c;
-    steps_[count_] = cell_width_;
-    ++count_;
+    if (code >= 0x10000) {
+      add(0xD7C0 + (code >> 10), 0);
+      code = 0xDC00 + (code & 0x3FF);
+    }
+    add(code, cell_width_);
+    ++cells_;
   }
 
  private:
   static constexpr int kMost = 256;
+
+  void add(unsigned unit, int step) {
+    text_[count_] = static_cast<wchar_t>(unit);
+    steps_[count_] = step;
+    ++count_;
+  }
 
   void flush() {
     if (count_ == 0) {
@@ -62,21 +71,22 @@ class RunPainter {
     }
     RECT box = area_;
     box.left = area_.left + cell_ * cell_width_;
-    box.right = box.left + count_ * cell_width_;
+    box.right = box.left + cells_ * cell_width_;
     SetTextColor(dc_, ink_);
     SetBkColor(dc_, paper_);
-    ExtTextOutA(dc_, box.left, box.top, ETO_OPAQUE, &box, text_, static_cast<UINT>(count_), steps_);
-    count_ = 0;
+    ExtTextOutW(dc_, box.left, box.top, ETO_OPAQUE, &box, text_, static_cast<UINT>(count_), steps_);
+    count_ = cells_ = 0;
   }
 
   HDC dc_;
   RECT area_;
   int cell_width_;
   int cell_ = 0;
-  int count_ = 0;
+  int count_ = 0;  // units of text
+  int cells_ = 0;
   COLORREF ink_ = 0;
   COLORREF paper_ = 0;
-  char text_[kMost];
+  wchar_t text_[kMost];
   INT steps_[kMost];
 };
 
@@ -159,9 +169,9 @@ void TextWindow::paintText(HDC dc, int line, const RECT& area) {
   std::size_t run = 0;
   int cell = 0;
   // One byte more than the line: a selected line end shows as a selected blank.
-  for (int i = 0; i <= length && cell < end_cell; ++i) {
+  for (int i = 0, size = 1; i <= length && cell < end_cell; i += size) {
     const bool at_end = i == length;
-    const char c = at_end ? ' ' : text[static_cast<std::size_t>(i)];
+    const unsigned c = at_end ? ' ' : characterAt(text, i, document_.encoding(), &size);
     const int next =
         !at_end && c == '\t' ? (cell / settings_.tab_width + 1) * settings_.tab_width : cell + 1;
     const Place here = {line, i};
