@@ -2,6 +2,7 @@
 
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
+#include "addon/ide/completion_source.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/topbar/top_bar.h"
@@ -17,7 +18,9 @@ int AddonHookHost::titleButtonAt(HWND editor, POINT& point) const {
 }
 
 unsigned AddonHookHost::completionKey() const {
-  return completionSettings != nullptr && completionSettings->enabled()
+  // Without an engine the key has to stay what it is on the keyboard.
+  return completionSource != nullptr && completionSettings != nullptr &&
+                 completionSettings->enabled()
              ? completionSettings->keyCode()
              : 0;
 }

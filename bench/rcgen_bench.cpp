@@ -1,4 +1,4 @@
-// rcgen_bench DIRECTORY   makes a project there, and prints the medians of the runs over
+// rcgen_bench DIRECTORY   makes a project there, and prints the best times of the runs over
 //                         it in milliseconds, and counts; a name and a number each
 //
 // "plain" reads the bytes that the first run reads and writes those that it writes, and
@@ -6,8 +6,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <map>
@@ -18,6 +16,7 @@
 #include "addon/foundation/text_file.h"
 #include "addon/rcgen/generator_run.h"
 #include "bench/posix_listing.h"
+#include "bench/turns.h"
 
 namespace kesto {
 
@@ -42,11 +41,8 @@ class PosixFiles : public RcFiles {
   std::vector<std::string> removals;
   std::map<std::string, std::string> writes;
 
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override {
-    listing_.listFiles(directory, mask, names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
-    listing_.listDirectories(directory, names);
+  void list(const char* directory, const char* mask, DirectoryEntries& entries) override {
+    listing_.list(directory, mask, entries);
   }
   std::optional<RcFileStatus> status(const char* path) override {
     struct stat found = {};
@@ -166,19 +162,6 @@ void makeVersions(const std::string& directory) {
   }
 }
 
-template <class Work>
-double timeOf(Work work) {
-  const auto begun = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begun)
-      .count();
-}
-
-double median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
-
 void removeAll(const std::map<std::string, std::string>& outputs) {
   for (const auto& output : outputs) {
     unlink(output.first.c_str());
@@ -195,8 +178,6 @@ void compare(const char* name, const char* plain_name, const std::string& direct
   const std::vector<std::string> removals = files.removals;
   const std::map<std::string, std::string> writes = files.writes;
   files.setNoting(false);
-  std::vector<double> times;
-  std::vector<double> plain_times;
   std::string text;
   const auto prepare = [&] {
     removeAll(writes);
@@ -204,23 +185,24 @@ void compare(const char* name, const char* plain_name, const std::string& direct
       makeVersions(directory);
     }
   };
-  for (int i = 0; i < kRounds; ++i) {
-    prepare();
-    times.push_back(timeOf([&] { runGenerator(files, directory, switches, build_number); }));
-    prepare();
-    plain_times.push_back(timeOf([&] {
-      for (const std::string& path : reads) {
-        readTextFile(path.c_str(), text);
-      }
-      for (const std::string& path : removals) {
-        unlink(path.c_str());
-      }
-      for (const auto& output : writes) {
-        writeTextFile(output.first.c_str(), output.second);
-      }
-    }));
-  }
-  printf("%s %f\n%s %f\n", name, median(times), plain_name, median(plain_times));
+  Turns turns;
+  turns.add(
+      name, [&] { runGenerator(files, directory, switches, build_number); }, prepare);
+  turns.add(
+      plain_name,
+      [&] {
+        for (const std::string& path : reads) {
+          readTextFile(path.c_str(), text);
+        }
+        for (const std::string& path : removals) {
+          unlink(path.c_str());
+        }
+        for (const auto& output : writes) {
+          writeTextFile(output.first.c_str(), output.second);
+        }
+      },
+      prepare);
+  turns.run(kRounds);
 }
 
 int measure(const std::string& directory) {
@@ -242,12 +224,9 @@ int measure(const std::string& directory) {
   runGenerator(files, directory, kClasses, build_number);
   printf("second-reads %zu\nsecond-writes %zu\n", files.reads.size(), files.writes.size());
   files.setNoting(false);
-  std::vector<double> times;
-  times.reserve(kRounds);
-  for (int i = 0; i < kRounds; ++i) {
-    times.push_back(timeOf([&] { runGenerator(files, directory, kClasses, build_number); }));
-  }
-  printf("second %f\n", median(times));
+  Turns turns;
+  turns.add("second", [&] { runGenerator(files, directory, kClasses, build_number); });
+  turns.run(kRounds);
 
   removeAll(outputs);
   compare("first", "plain", directory, kClasses, files);

@@ -18,7 +18,7 @@ constexpr std::string_view kSite = "C:\\P\\kHTML\\";
 constexpr std::string_view kLink = "<a href =\"";
 constexpr std::size_t kMostSources = 8;
 
-class PlayedProject : public MaskLister, public SiteFiles, public SiteProgress {
+class PlayedProject : public DirectoryLister, public SiteFiles, public SiteProgress {
  public:
   explicit PlayedProject(std::string_view input) {
     sources_.emplace_back("a.h.txt", "");
@@ -32,13 +32,13 @@ class PlayedProject : public MaskLister, public SiteFiles, public SiteProgress {
     }
   }
 
-  void listFiles(const char* directory, const char* /*mask*/, Tableau<String>& names) override {
+  // Every mask is one for which the system is asked.
+  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
     FUZZ_CHECK(std::string_view(directory) == "C:\\P");
     for (std::size_t i = 1; i < sources_.size(); ++i) {
-      names.append(new String(std::string_view(sources_[i].first)));
+      entries.add(DirectoryEntries::Kind::kFile, sources_[i].first);
     }
   }
-  void listDirectories(const char* /*directory*/, Tableau<String>& /*names*/) override {}
 
   bool read(const char* path, std::string& text) override {
     for (const auto& [name, content] : sources_) {
@@ -100,7 +100,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace kesto;
   const std::string_view input = inputText(data, size);
   PlayedProject project(input);
-  FUZZ_CHECK(generateSite({"C:\\P", "*.h", "P"}, project, project, project));
+  FUZZ_CHECK(generateSite({"C:\\P", "*.?", "P"}, project, project, project));
   // Names and method declarations are written as they are, links in them too.
   if (input.find(kLink) == std::string_view::npos) {
     project.checkPages();

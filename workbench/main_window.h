@@ -15,7 +15,7 @@ class MainWindow {
   virtual HWND mdiClient() = 0;
   virtual void setStatus(const std::string& text) = 0;
   virtual std::string status() = 0;
-  // The bar of the add-on (the top-level window of class "KADO"), or 0.
+  // The bar of the add-on (this program's top-level window of class "KADO"), or 0.
   virtual HWND addonBar() = 0;
 
  protected:

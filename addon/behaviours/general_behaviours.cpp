@@ -22,12 +22,13 @@ constexpr int kFirstTabX = 20;
 constexpr int kFirstTabY = 11;
 
 void leaveToRunningIde() {
-  const HWND running = findFrame();
+  // Whichever process it is of: this one has no frame yet.
+  const HWND running = FindWindowA(ideapi::kFrameClass, nullptr);
   if (running == nullptr) {
     return;
   }
   if (IsIconic(running)) {
-    ShowWindow(running, SW_SHOW);
+    ShowWindow(running, SW_RESTORE);
   }
   SetActiveWindow(running);
   // Activation alone stays within the calling thread.
@@ -42,6 +43,17 @@ HWND childOf(HWND parent, const char* window_class) {
 
 HWND documentWindow(const char* window_class) {
   return childOf(findMdiClient(), window_class);
+}
+
+// Closes the window; its place comes from before, when it was there already.
+DocumentPlace closeDocument(const char* window_class, const DocumentPlace& before) {
+  const HWND window = documentWindow(window_class);
+  const DocumentPlace place =
+      window != nullptr && window == before.window ? before : placeOfDocument(window);
+  if (window != nullptr) {
+    SendMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+  return place;
 }
 
 void sendCommand(HWND window, int command) {
@@ -106,17 +118,25 @@ void GeneralBehaviours::writeOptions() const {
 }
 
 void GeneralBehaviours::makeStarted() {
+  active_before_ = activeDocument();
+  // Clearing shows the window, whatever its size was.
+  shown_ = placeOfDocument(documentWindow(ideapi::kMessageClass));
   if (clear_on_make_ != 0) {
     clearMessages();
   }
   if (close_on_make_ != 0) {
-    close(ideapi::kMessageClass, messages_);
+    messages_ = closeDocument(ideapi::kMessageClass, shown_);
   }
   if (close_project_on_make_ != 0) {
-    close(ideapi::kProjectClass, project_);
+    project_ = closeDocument(ideapi::kProjectClass, {});
   }
   if (iconize_status_on_make_ != 0) {
     minimiseStatusBox();
+  }
+  active_after_ = activeDocument();
+  // Windows that came and went may have left it smaller.
+  if (active_after_.window == active_before_.window) {
+    activateDocument(active_before_);
   }
 }
 
@@ -129,14 +149,6 @@ void GeneralBehaviours::clearMessages() const {
   sendCommand(childOf(pane, ideapi::kMessageViewerClass), ideapi::kCommandClearMessages);
 }
 
-void GeneralBehaviours::close(const char* window_class, ClosedWindow& closed) {
-  closed.window = documentWindow(window_class);
-  if (closed.window != nullptr) {
-    GetWindowRect(closed.window, &closed.place);
-    SendMessageA(closed.window, WM_SYSCOMMAND, SC_CLOSE, 0);
-  }
-}
-
 void GeneralBehaviours::minimiseStatusBox() {
   status_box_ = findStatusBox();
   if (status_box_ != nullptr) {
@@ -145,29 +157,53 @@ void GeneralBehaviours::minimiseStatusBox() {
 }
 
 void GeneralBehaviours::makeEnded() {
-  if (close_project_on_make_ != 0 && project_.window != nullptr) {
-    reopen(ideapi::kCommandShowProject, ideapi::kProjectClass, project_);
-  }
-  if (close_on_make_ != 0 && messages_.window != nullptr) {
-    reopen(ideapi::kCommandShowMessages, ideapi::kMessageClass, messages_);
-  }
+  const HWND frame = findFrame();
+  const bool working = frame != nullptr && GetActiveWindow() == frame;
+  reopenWindows();
   if (iconize_status_on_make_ != 0 && status_box_ != nullptr) {
     SendMessageA(status_box_, WM_SYSCOMMAND, SC_RESTORE, 0);
+    // The box shows how the make went; whoever is at work goes on where the caret is.
+    if (working) {
+      SetActiveWindow(frame);
+    }
   }
   status_box_ = nullptr;
 }
 
-void GeneralBehaviours::reopen(int command, const char* window_class, const ClosedWindow& closed) {
-  sendCommand(findFrame(), command);
-  const HWND client = findMdiClient();
-  const HWND window = childOf(client, window_class);
-  if (window == nullptr) {
-    return;
+// The window that was active stays so: the one before the make, unless the user has gone
+// to another since.
+void GeneralBehaviours::reopenWindows() {
+  const struct {
+    bool closed;
+    int command;
+    const char* window_class;
+    const DocumentPlace& place;
+  } windows[] = {{close_project_on_make_ != 0 && project_.window != nullptr,
+                  ideapi::kCommandShowProject, ideapi::kProjectClass, project_},
+                 {close_on_make_ != 0 && messages_.window != nullptr, ideapi::kCommandShowMessages,
+                  ideapi::kMessageClass, messages_}};
+  const ActiveDocument now = activeDocument();
+  const ActiveDocument before = now.window == active_after_.window ? active_before_ : now;
+  ActiveDocument wanted = before;
+  for (const auto& each : windows) {
+    if (!each.closed) {
+      continue;
+    }
+    sendCommand(findFrame(), each.command);
+    if (const HWND window = documentWindow(each.window_class)) {
+      if (each.place.window == before.window) {
+        wanted = {window, false};  // its place tells its size
+      }
+      activateDocument(wanted);
+      putDocument(window, each.place);
+    }
   }
-  POINT corner = {closed.place.left, closed.place.top};
-  ScreenToClient(client, &corner);
-  SetWindowPos(window, nullptr, corner.x, corner.y, closed.place.right - closed.place.left,
-               closed.place.bottom - closed.place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  activateDocument(wanted);
+  const HWND messages = documentWindow(ideapi::kMessageClass);
+  if (clear_on_make_ != 0 && close_on_make_ == 0 && shown_.minimised() &&
+      messages == shown_.window) {
+    putDocument(messages, shown_);
+  }
 }
 
 void GeneralBehaviours::viewOnOpen() const {
@@ -193,14 +229,15 @@ void GeneralBehaviours::autoSave() {
   if (!isProjectOpen() || frame == nullptr || !IsWindowEnabled(frame)) {
     return;
   }
-  IEditorService* editors = editorService();
-  if (editors == nullptr) {
+  const ComPtr<IEditorService> editors = editorService();
+  if (!editors) {
     return;
   }
   IIdeString* saved = nullptr;
   const int count = editors->SaveModified(&saved);
   const std::unique_ptr<char[]> names = takeIdeString(saved);
-  if (count <= 0) {
+  // Saving may ask, and the IDE may have closed by the answer.
+  if (count <= 0 || generalBehaviours != this) {
     return;
   }
   const std::string text = "Auto-save (" + std::to_string(timer_count_) +

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include "addon/behaviours/document_place.h"
+
 namespace kesto {
 
 class GeneralBehaviours {
@@ -28,19 +30,16 @@ class GeneralBehaviours {
   void writeOptions() const;
 
  private:
-  struct ClosedWindow {
-    RECT place = {};        // on the screen
-    HWND window = nullptr;  // null: none was closed
-  };
-
   void clearMessages() const;
-  static void close(const char* window_class, ClosedWindow& closed);
   void minimiseStatusBox();
-  static void reopen(int command, const char* window_class, const ClosedWindow& closed);
+  void reopenWindows();
   void autoSave();
 
-  ClosedWindow messages_;
-  ClosedWindow project_;
+  DocumentPlace messages_;        // as closed for a make; without a window none was closed
+  DocumentPlace project_;         // likewise
+  DocumentPlace shown_;           // the message window before a make's start showed it
+  ActiveDocument active_before_;  // the active document before a make's start,
+  ActiveDocument active_after_;   // and after it
   int ticks_ = 0;
   HWND status_box_ = nullptr;  // minimised during a make
   int clear_on_make_;

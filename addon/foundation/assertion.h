@@ -9,7 +9,3 @@ namespace kesto {
 bool checkThat(bool condition, const char* condition_text, const char* source, int line);
 
 }  // namespace kesto
-
-// For conditions whose shown text is their code; checkThat takes another text.
-#define KESTO_ASSERT(condition, source, line) \
-  ::kesto::checkThat(static_cast<bool>(condition), #condition, source, line)

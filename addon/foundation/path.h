@@ -11,7 +11,7 @@ namespace kesto {
 
 // Characters of a path, as the system bounds them.
 inline constexpr std::size_t kPathLimit = 259;
-// Directories that a walk below one of them looks into.
+// Directories that all walks of one search together look into.
 inline constexpr int kDirectoryLimit = 20000;
 
 // Characters of a clicked editor's title that are looked at.

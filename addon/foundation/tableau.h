@@ -28,7 +28,6 @@ class BasicTableau : public Basic {
 
   int count() const { return count_; }
   int capacity() const { return capacity_; }
-  bool owns() const { return owns_ != 0; }
   void setOwns(bool owns) { owns_ = owns ? 1 : 0; }
   // Slots by which the table grows and shrinks; a step below 1 is ignored.
   void setStep(int step) { step_ = step > 0 ? step : step_; }

@@ -48,13 +48,15 @@ class ModelBuilder : public FileVisitor {
   bool failed_ = false;
 };
 
-bool buildModel(htProjet& projet, MaskLister& lister, SiteFiles& files, SiteProgress& progress) {
+bool buildModel(htProjet& projet, DirectoryLister& lister, SiteFiles& files,
+                SiteProgress& progress) {
+  Folders folders(lister);
   ModelBuilder builder(projet, files, progress);
   std::string_view rest = projet.filters.view();
   while (!rest.empty() && !builder.failed()) {
     std::string_view mask;
     if (nextListEntry(rest, mask)) {
-      walkDirectory(lister, projet.directory.view(), mask, true, builder);
+      walkDirectory(folders, projet.directory.view(), mask, true, builder);
     }
   }
   projet.sort();
@@ -75,7 +77,7 @@ std::string siteStartPage(std::string_view directory, std::string_view project_n
   return path;
 }
 
-bool generateSite(const SiteRequest& request, MaskLister& lister, SiteFiles& files,
+bool generateSite(const SiteRequest& request, DirectoryLister& lister, SiteFiles& files,
                   SiteProgress& progress) {
   htProjet projet(request.directory, request.filters, request.project_name);
   return buildModel(projet, lister, files, progress) &&

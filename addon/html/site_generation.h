@@ -43,7 +43,7 @@ std::string siteStartPage(std::string_view directory, std::string_view project_n
 // Reads the sources and writes every page. Files that cannot be read and pages that
 // cannot be written are left out; false only after a failed internal check, which was
 // shown and at which the generation stopped.
-bool generateSite(const SiteRequest& request, MaskLister& lister, SiteFiles& files,
+bool generateSite(const SiteRequest& request, DirectoryLister& lister, SiteFiles& files,
                   SiteProgress& progress);
 
 }  // namespace kesto

@@ -95,14 +95,12 @@ bool isFunctionDefinition(std::string_view line) {
 }
 
 bool isMethodDefinition(std::string_view line) {
-  constexpr std::size_t kMoreThan = 2;
-  return line.size() > kMoreThan && line.ends_with(')') && startsIdentifier(line) &&
-         contains(line, "(") && contains(line, kScope);
+  return line.ends_with(')') && startsIdentifier(line) && contains(line, "(") &&
+         contains(line, kScope);
 }
 
 bool isMacroDefinition(std::string_view line) {
-  constexpr std::size_t kMoreThan = 8;
-  return line.size() > kMoreThan && line.starts_with(kDefine);
+  return line.starts_with(kDefine);
 }
 
 }  // namespace kesto

@@ -29,7 +29,7 @@ bool SourceReader::readLine(std::string_view line) {
   if (line.find("/*") != npos) {
     in_plain_comment_ = true;
   }
-  if (in_plain_comment_ && line.find("*/") != npos) {
+  if (line.find("*/") != npos) {
     in_plain_comment_ = false;
   }
   switch (state_) {

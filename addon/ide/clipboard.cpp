@@ -2,19 +2,20 @@
 
 #include <cstring>
 
+#include "addon/ide/saved_clipboard.h"
+
 namespace kesto {
 namespace {
 
-constexpr int kOpenTries = 25;
 constexpr DWORD kMillisecondsBetweenTries = 10;
+// What was saved is lost otherwise.
+constexpr DWORD kPatienceToPutBack = 3000;
 
 }  // namespace
 
-Clipboard::Clipboard(HWND owner) {
-  for (int tries = 0; tries < kOpenTries && !open_; ++tries) {
-    if (tries > 0) {
-      Sleep(kMillisecondsBetweenTries);
-    }
+Clipboard::Clipboard(HWND owner, DWORD patience) : open_(OpenClipboard(owner) != FALSE) {
+  for (DWORD waited = 0; !open_ && waited < patience; waited += kMillisecondsBetweenTries) {
+    Sleep(kMillisecondsBetweenTries);
     open_ = OpenClipboard(owner) != FALSE;
   }
 }
@@ -45,40 +46,20 @@ void Clipboard::clear() {
   }
 }
 
-void Clipboard::setText(const std::string& text) {
-  clear();
-  const HGLOBAL memory =
-      open_ ? GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, text.size() + 1) : nullptr;
-  void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr;
-  if (bytes != nullptr) {
-    memcpy(bytes, text.c_str(), text.size() + 1);
-    GlobalUnlock(memory);
-  }
-  // The system owns the memory once it took it.
-  if (memory != nullptr && (bytes == nullptr || SetClipboardData(CF_TEXT, memory) == nullptr)) {
-    GlobalFree(memory);
-  }
-}
-
 std::string copySelection(HWND owner, HWND text_window) {
-  std::optional<std::string> saved;
+  SavedClipboard saved;
   {
     Clipboard clipboard(owner);
     // What cannot be saved must not be overwritten.
-    if (!clipboard.isOpen()) {
+    if (!clipboard.isOpen() || !saved.take()) {
       return {};
     }
-    saved = clipboard.text();
     clipboard.clear();
   }
   SendMessageA(text_window, WM_COPY, 0, 0);
-  Clipboard clipboard(owner);
+  Clipboard clipboard(owner, kPatienceToPutBack);
   const std::optional<std::string> selection = clipboard.text();
-  if (saved.has_value()) {
-    clipboard.setText(*saved);
-  } else {
-    clipboard.clear();
-  }
+  saved.putBack(clipboard);
   return selection.value_or(std::string());
 }
 

@@ -1,4 +1,4 @@
-// The clipboard's text. Open while an object lives; user-interface thread only.
+// The clipboard, open while an object lives; user-interface thread only.
 #pragma once
 
 #include <windows.h>
@@ -10,8 +10,8 @@ namespace kesto {
 
 class Clipboard {
  public:
-  // Another program may have it open; that is waited for, not for long.
-  explicit Clipboard(HWND owner);
+  // Another program may have it open; that is waited for, this many milliseconds at most.
+  explicit Clipboard(HWND owner, DWORD patience = 250);
   ~Clipboard();
   Clipboard(const Clipboard&) = delete;
   Clipboard& operator=(const Clipboard&) = delete;
@@ -20,15 +20,14 @@ class Clipboard {
   bool isOpen() const { return open_; }
   std::optional<std::string> text() const;
   void clear();
-  // Replaces everything by the text.
-  void setText(const std::string& text);
 
  private:
-  bool open_ = false;
+  bool open_;
 };
 
 // The text that a window copies when asked for its selection, empty when nothing is
-// selected. The clipboard's own text survives.
+// selected, or when the clipboard holds what could not be put back: all that is on it
+// survives.
 std::string copySelection(HWND owner, HWND text_window);
 
 }  // namespace kesto

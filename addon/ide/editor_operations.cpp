@@ -21,9 +21,9 @@ constexpr size_t kLongestCompletedWord = 99;
 class EditorTransaction {
  public:
   explicit EditorTransaction(const char* file) {
-    IEditorService* service = editorService();
+    ComPtr<IEditorService> service = editorService();
     const ComPtr<IIdeString> name = makeIdeString(file);
-    if (service == nullptr || !name) {
+    if (!service || !name) {
       return;
     }
     const EditorView view = service->FindView(name.get());
@@ -31,11 +31,11 @@ class EditorTransaction {
       return;
     }
     service->BeginTransaction();
-    service_ = service;
     aimed_ = service->MakeCurrent(view) != 0;
+    service_ = std::move(service);
   }
   ~EditorTransaction() {
-    if (service_ != nullptr) {
+    if (service_) {
       service_->EndTransaction();
     }
   }
@@ -43,7 +43,7 @@ class EditorTransaction {
   EditorTransaction& operator=(const EditorTransaction&) = delete;
 
   explicit operator bool() const { return aimed_; }
-  IEditorService* operator->() const { return service_; }
+  IEditorService* operator->() const { return service_.get(); }
 
   std::string line(int number) const {
     const std::unique_ptr<char[]> text = takeIdeString(service_->GetLine(number));
@@ -51,7 +51,7 @@ class EditorTransaction {
   }
 
  private:
-  IEditorService* service_ = nullptr;
+  ComPtr<IEditorService> service_;
   bool aimed_ = false;
 };
 

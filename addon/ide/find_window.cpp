@@ -11,14 +11,14 @@ namespace {
 constexpr int kClassNameSize = 80;
 constexpr int kTitleSize = 280;
 
-struct ChildSearch {
+struct WindowSearch {
   const char* class_name;
   const char* title;
   HWND found;
 };
 
-BOOL CALLBACK testChild(HWND window, LPARAM parameter) {
-  ChildSearch& search = *reinterpret_cast<ChildSearch*>(parameter);
+BOOL CALLBACK testWindow(HWND window, LPARAM parameter) {
+  WindowSearch& search = *reinterpret_cast<WindowSearch*>(parameter);
   if (search.class_name != nullptr && !isWindowOfClass(window, search.class_name)) {
     return TRUE;
   }
@@ -43,13 +43,21 @@ bool isWindowOfClass(HWND window, const char* class_name) {
 }
 
 HWND findChildWindow(HWND parent, const char* class_name, const char* title) {
-  ChildSearch search = {class_name, title, nullptr};
-  EnumChildWindows(parent, testChild, reinterpret_cast<LPARAM>(&search));
+  WindowSearch search = {class_name, title, nullptr};
+  EnumChildWindows(parent, testWindow, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
 
 HWND findFrame() {
-  return FindWindowA(ideapi::kFrameClass, nullptr);
+  // Other IDEs may be running: theirs are of other threads.
+  WindowSearch search = {ideapi::kFrameClass, nullptr, nullptr};
+  EnumThreadWindows(GetCurrentThreadId(), testWindow, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+bool isIdeFree() {
+  const HWND frame = findFrame();
+  return frame == nullptr || IsWindowEnabled(frame);
 }
 
 HWND findMdiClient() {

@@ -12,12 +12,15 @@ namespace kesto {
 // nothing matches.
 HWND findChildWindow(HWND parent, const char* class_name, const char* title);
 
-// The IDE's frame, or null.
+// The frame of the IDE that the add-on runs in, or null.
 HWND findFrame();
 // The frame's document area, or null.
 HWND findMdiClient();
 // The editor in front of all documents; null when another kind of window is.
 HWND findActiveEditor();
+
+// Whether commands may be carried out: no modal dialog of the IDE is open.
+bool isIdeFree();
 
 bool isWindowOfClass(HWND window, const char* class_name);
 // Brings the frame forward and gives it the keyboard.

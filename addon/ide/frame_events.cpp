@@ -25,6 +25,9 @@ void HookSet::onWindowMessage(const CWPSTRUCT& message) {
         onEditorFrame(message.hwnd);
       }
       break;
+    case WM_COMMAND:
+      onCommand(message.hwnd, message.wParam);
+      break;
     case WM_SIZE:
       if (message.hwnd == findFrame()) {
         onFrameSize(message.wParam == SIZE_MINIMIZED);
@@ -81,13 +84,18 @@ void HookSet::onFrameActivation(bool active) {
   }
 }
 
+// A menu posts its commands; those of a shortcut are sent, and say so in the high word.
+void HookSet::onCommand(HWND window, WPARAM wParam) {
+  if (LOWORD(wParam) == ideapi::kCommandSaveAll && isWindowOfClass(window, ideapi::kFrameClass)) {
+    host_.resetAutoSave();
+  }
+}
+
 LRESULT CALLBACK HookSet::getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code >= 0 && current != nullptr) {
     const MSG& message = *reinterpret_cast<const MSG*>(lParam);
-    if (message.message == WM_COMMAND &&
-        message.wParam == static_cast<WPARAM>(ideapi::kCommandSaveAll) &&
-        isWindowOfClass(message.hwnd, ideapi::kFrameClass)) {
-      current->host_.resetAutoSave();
+    if (message.message == WM_COMMAND) {
+      current->onCommand(message.hwnd, message.wParam);
     }
   }
   return CallNextHookEx(current != nullptr ? current->get_message_ : nullptr, code, wParam, lParam);

@@ -33,7 +33,7 @@ class HookHost {
   // The title-bar button of the editor under the screen point, or -1. On a hit
   // the point becomes the place for the button's popup.
   virtual int titleButtonAt(HWND editor, POINT& point) const = 0;
-  // The key code that completes a word, 0 when completion is off.
+  // The key code that completes a word, 0 when completion is off or nothing completes.
   virtual unsigned completionKey() const = 0;
   // The key code of search 0 to kSearchKeyCount - 1, 0 for none.
   virtual unsigned searchKey(int search) const = 0;
@@ -72,6 +72,10 @@ class HookSet {
   void startKeyCapture(HWND window) { key_capture_ = window; }
   void stopKeyCapture() { key_capture_ = nullptr; }
 
+  // The press of Escape that waits in the queue, or is still going on, was meant for what
+  // held up the queue: nobody else gets it.
+  void swallowEscape();
+
   const EditorTarget& target() const { return target_; }
   // Set while a title-bar popup is tracked: title-bar clicks go to the IDE.
   void suspend(bool suspended) { suspended_ = suspended; }
@@ -92,8 +96,10 @@ class HookSet {
   void onFrameSize(bool minimised);
   void onFrameActivation(bool active);
   bool onKey(UINT virtual_key, LPARAM lParam);
+  bool onSwallowedEscape(LPARAM lParam);
   bool onCapturedKey(UINT virtual_key, LPARAM lParam);
   bool onSearchKey(unsigned code);
+  void onCommand(HWND window, WPARAM wParam);
   void post(int command, LPARAM lParam = 0);
 
   // The hook procedures carry no context of their own.
@@ -108,6 +114,8 @@ class HookSet {
   EditorTarget target_;
   bool suspended_ = false;
   bool posting_paint_ = false;
+  bool swallowing_escape_ = false;
+  DWORD swallowing_since_ = 0;  // milliseconds of the system's clock
   HookHost& host_;
 };
 

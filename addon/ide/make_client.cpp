@@ -6,20 +6,24 @@ namespace kesto {
 
 const MakeOrder* makeOrder = nullptr;
 
-void STDMETHODCALLTYPE MakeClient::MakeStarted() {
-  if (makeOrder != nullptr) {
-    for (const MakeStep step : makeOrder->started) {
-      step();
-    }
+namespace {
+
+// The IDE may close within a step, and takes the order away.
+template <class Step, class... Arguments>
+void run(std::span<const Step> MakeOrder::*steps, Arguments... arguments) {
+  for (std::size_t i = 0; makeOrder != nullptr && i < (makeOrder->*steps).size(); ++i) {
+    (makeOrder->*steps)[i](arguments...);
   }
 }
 
+}  // namespace
+
+void STDMETHODCALLTYPE MakeClient::MakeStarted() {
+  run(&MakeOrder::started);
+}
+
 void STDMETHODCALLTYPE MakeClient::MakeEnded(int result) {
-  if (makeOrder != nullptr) {
-    for (const MakeEndStep step : makeOrder->ended) {
-      step(result);
-    }
-  }
+  run(&MakeOrder::ended, result);
 }
 
 IMakeClient* createMakeClient() {

@@ -36,7 +36,8 @@ HWND findEditorTitled(const char* path, HWND other_than) {
 }
 
 void raiseEditor(HWND editor) {
-  ShowWindow(editor, SW_SHOWNORMAL);
+  // Only an icon has to be restored: one that is maximised would lose that.
+  ShowWindow(editor, IsIconic(editor) ? SW_SHOWNORMAL : SW_SHOW);
   SetWindowPos(editor, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

@@ -35,10 +35,9 @@ class StoredOptions : public ProjectOptionStore {
 };
 
 void run(ProjectSteps ProjectOrder::*steps, const ProjectWork& work) {
-  if (projectOrder != nullptr) {
-    for (const ProjectStep step : projectOrder->*steps) {
-      step(work);
-    }
+  // The IDE may close within a step, and takes the order away.
+  for (std::size_t i = 0; projectOrder != nullptr && i < (projectOrder->*steps).size(); ++i) {
+    (projectOrder->*steps)[i](work);
   }
 }
 

@@ -15,34 +15,32 @@ constexpr int kLongestText = 65535;
 
 }  // namespace
 
-bool readInteger(ProjectOptionStore& store, const char* name, int& value) {
+void readInteger(ProjectOptionStore& store, const char* name, int& value) {
   const void* data = nullptr;
   if (store.get(name, &data) != kIntegerSize || data == nullptr) {
-    return false;
+    return;
   }
   std::int32_t stored = 0;
   memcpy(&stored, data, sizeof stored);
   value = stored;
-  return true;
 }
 
-bool readText(ProjectOptionStore& store, const char* name, std::string& value) {
+void readText(ProjectOptionStore& store, const char* name, std::string& value) {
   const void* data = nullptr;
   const int size = store.get(name, &data);
   if (size <= 0 || data == nullptr) {
-    return false;
+    return;
   }
   const char* text = static_cast<const char*>(data);
   value.clear();
   if (*text == '\0') {
-    return true;
+    return;
   }
   // One by one: what lies behind the terminator may not be there at all.
   const int end = std::min(size, kLongestText);
   for (int i = 1; i < end && text[i] != '\0'; ++i) {
     value += text[i];
   }
-  return true;
 }
 
 void writeInteger(ProjectOptionStore& store, const char* name, int value) {

@@ -43,9 +43,9 @@ struct TextOption {
   void write(ProjectOptionStore& store) const;
 };
 
-// False, and the value untouched, when the project has no such option.
-bool readInteger(ProjectOptionStore& store, const char* name, int& value);
-bool readText(ProjectOptionStore& store, const char* name, std::string& value);
+// The value is untouched when the project has no such option.
+void readInteger(ProjectOptionStore& store, const char* name, int& value);
+void readText(ProjectOptionStore& store, const char* name, std::string& value);
 void writeInteger(ProjectOptionStore& store, const char* name, int value);
 void writeText(ProjectOptionStore& store, const char* name, char marker, const std::string& text);
 

@@ -5,8 +5,12 @@ namespace kesto {
 EditorServiceHolder* editorServiceHolder = nullptr;
 StatusLineServiceHolder* statusLineServiceHolder = nullptr;
 
-IEditorService* editorService() {
-  return editorServiceHolder != nullptr ? editorServiceHolder->get() : nullptr;
+ComPtr<IEditorService> editorService() {
+  IEditorService* service = editorServiceHolder != nullptr ? editorServiceHolder->get() : nullptr;
+  if (service != nullptr) {
+    service->AddRef();
+  }
+  return ComPtr<IEditorService>(service);
 }
 
 IStatusLineService* statusLineService() {

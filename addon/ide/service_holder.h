@@ -30,8 +30,9 @@ class StatusLineServiceHolder : public ServiceHolder<IStatusLineService> {
 extern EditorServiceHolder* editorServiceHolder;
 extern StatusLineServiceHolder* statusLineServiceHolder;
 
-// The held service, or null.
-IEditorService* editorService();
+// The held service, or null. The editor service comes with a reference of its own: within
+// a call the IDE may ask its user something, and close.
+ComPtr<IEditorService> editorService();
 IStatusLineService* statusLineService();
 
 }  // namespace kesto

@@ -11,13 +11,53 @@ constexpr LPARAM kKeyUp = static_cast<LPARAM>(1UL << 31);
 constexpr LPARAM kKeyWasDown = 1L << 30;
 constexpr LPARAM kAltHeld = 1L << 29;
 constexpr int kActiveTitleSize = 300;
+// Milliseconds after which an Escape that has not come was never in the queue.
+constexpr DWORD kSwallowTime = 5000;
 
 unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
   return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
                  GetKeyState(VK_SHIFT) < 0);
 }
 
+bool hasEditorText() {
+  const HWND focus = GetFocus();
+  return focus != nullptr && (isWindowOfClass(focus, ideapi::kEditorTextClass) ||
+                              isWindowOfClass(focus, ideapi::kEditorClass));
+}
+
+BOOL CALLBACK noticePopup(HWND window, LPARAM parameter) {
+  constexpr char kPopupMenuClass[] = "#32768";
+  bool& open = *reinterpret_cast<bool*>(parameter);
+  open = IsWindowVisible(window) && isWindowOfClass(window, kPopupMenuClass);
+  return !open;
+}
+
+// Of a title bar or a menu bar, the IDE's own among them.
+bool isPopupOpen() {
+  bool open = false;
+  EnumThreadWindows(GetCurrentThreadId(), noticePopup, reinterpret_cast<LPARAM>(&open));
+  return open;
+}
+
+// Keys belong to a popup or a modal dialog while there is one.
+bool keysAreTaken() {
+  return isPopupOpen() || !isIdeFree();
+}
+
 }  // namespace
+
+void HookSet::swallowEscape() {
+  swallowing_escape_ = true;
+  swallowing_since_ = GetTickCount();
+}
+
+// Held down, the key repeats until it comes up.
+bool HookSet::onSwallowedEscape(LPARAM lParam) {
+  const bool swallowed = swallowing_escape_ && GetTickCount() - swallowing_since_ < kSwallowTime;
+  swallowing_since_ = GetTickCount();
+  swallowing_escape_ = swallowed && (lParam & kKeyUp) == 0;
+  return swallowed;
+}
 
 bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   if (key_capture_ != nullptr) {
@@ -28,7 +68,7 @@ bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   }
   const unsigned completion = host_.completionKey();
   if (completion != 0 && virtual_key == virtualKeyOf(completion) &&
-      pressedKeyCode(virtual_key, lParam) == completion) {
+      pressedKeyCode(virtual_key, lParam) == completion && hasEditorText() && !keysAreTaken()) {
     post(kCommandComplete);
     return true;
   }
@@ -49,7 +89,7 @@ bool HookSet::onSearchKey(unsigned code) {
       continue;
     }
     const HWND editor = findActiveEditor();
-    if (editor == nullptr) {
+    if (editor == nullptr || suspended_ || keysAreTaken()) {
       return false;
     }
     char title[kActiveTitleSize] = "";

@@ -34,7 +34,9 @@ bool HookSet::onTitleClick(UINT message, const MOUSEHOOKSTRUCT& mouse) {
     return false;
   }
   POINT point = mouse.pt;
-  if (message == WM_NCLBUTTONDOWN) {
+  // The second press of a double click is one more press; the IDE would take it for
+  // a wish to maximise the editor.
+  if (message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK) {
     const int button = host_.titleButtonAt(mouse.hwnd, point);
     if (button < 0 || !isEnabledEditor(mouse.hwnd)) {
       return false;
@@ -42,7 +44,8 @@ bool HookSet::onTitleClick(UINT message, const MOUSEHOOKSTRUCT& mouse) {
     takeClick(mouse.hwnd, point, kButtonCommands[button]);
     return true;
   }
-  if (message == WM_NCRBUTTONDOWN && isEnabledEditor(mouse.hwnd)) {
+  if ((message == WM_NCRBUTTONDOWN || message == WM_NCRBUTTONDBLCLK) &&
+      isEnabledEditor(mouse.hwnd)) {
     char title[kDocumentedTitleSize] = "";
     GetWindowTextA(mouse.hwnd, title, sizeof title);
     copyText(target_.documented, documentationTitle(title));

@@ -49,7 +49,8 @@ bool CrossReferenceMessages::open() {
   return group_ != 0;
 }
 
-void CrossReferenceMessages::write(const char* name, const Tableau<QuickResu>& references) {
+void CrossReferenceMessages::write(const char* name, const Tableau<QuickResu>& references,
+                                   bool whole) {
   const std::string text =
       crossReferenceHeader(frameTitle(), name, currentDate(), currentTime(), references.count());
   if (!open()) {
@@ -65,6 +66,11 @@ void CrossReferenceMessages::write(const char* name, const Tableau<QuickResu>& r
     if (line && file) {
       service_->AddLocatedMessage(group_, header_, line.get(), file.get(), reference.line(),
                                   kColumn, kMessageKind);
+    }
+  }
+  if (!whole) {
+    if (const ComPtr<IIdeString> end = makeIdeString("The search was stopped: there may be more")) {
+      service_->AddMessage(group_, header_, end.get());
     }
   }
 }

@@ -1,5 +1,7 @@
 #include "addon/navigation/popup_menu.h"
 
+#include "addon/ide/hook_set.h"
+
 namespace kesto {
 
 HMENU createPopup(const MenuPlan& plan) {
@@ -17,6 +19,18 @@ HMENU createPopup(const MenuPlan& plan) {
     }
   }
   return popup;
+}
+
+void trackPopup(HWND owner, HMENU popup, POINT place) {
+  const bool suspended = hookSet != nullptr && hookSet->suspended();
+  if (hookSet != nullptr) {
+    hookSet->suspend(true);
+  }
+  TrackPopupMenu(popup, TPM_LEFTALIGN, place.x, place.y, 0, owner, nullptr);
+  if (hookSet != nullptr) {
+    hookSet->suspend(suspended);
+  }
+  DestroyMenu(popup);
 }
 
 }  // namespace kesto

@@ -8,8 +8,10 @@
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/name_search.h"
+#include "addon/navigation/popup_menu.h"
 #include "addon/navigation/text_prompt.h"
 
 namespace kesto {
@@ -46,6 +48,11 @@ std::string searchingText(const std::string& name) {
   return "Searching " + name + " ...";
 }
 
+// What the status line says of a search that Escape ended.
+std::string stoppedText(const std::string& searching, int found) {
+  return searching + " stopped, " + std::to_string(found) + " found so far";
+}
+
 HWND targetEditor() {
   return hookSet != nullptr ? hookSet->target().window : nullptr;
 }
@@ -70,8 +77,16 @@ void QuickFind::run(Search search) {
   asking_ = true;
   const std::string name =
       promptForText(frame != nullptr ? frame : owner_, targetEditor(), texts.prompt, history_);
+  // The IDE may have closed while it was asked.
+  if (quickFind != this) {
+    return;
+  }
   asking_ = false;
-  if (!name.empty() && !searchFor(search, name)) {
+  if (name.empty()) {
+    return;
+  }
+  history_.enter(name);
+  if (!searchFor(search, name)) {
     soundBeep();
     showStatus(texts.failure);
   }
@@ -111,7 +126,12 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     const WaitCursor wait;
     const std::string text = searchingText(name);
     showStatus(text.c_str());
-    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit);
+    SearchWatch watch(text);
+    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit, &watch);
+    if (watch.stopped()) {
+      showStatus((text + " stopped").c_str());
+      return true;
+    }
     showStatus((text + (found ? " Found !" : " sorry !")).c_str());
   }
   if (!found) {
@@ -119,36 +139,51 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
   }
   upperAscii(hit.file.data());
   showStatus((hit.file + " : " + std::to_string(hit.line)).c_str());
-  if (openAndRecord(hit.file.c_str())) {
+  // Opening may ask as well.
+  if (openAndRecord(hit.file.c_str()) && quickFind == this) {
     postFound(kGoToLineMessage, hit.file.c_str(), hit.line);
   }
   return true;
 }
 
-void QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
+bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
   const WaitCursor wait;
-  showStatus(searchingText(name).c_str());
-  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits);
+  const std::string text = searchingText(name);
+  showStatus(text.c_str());
+  SearchWatch watch(text);
+  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
+  if (watch.stopped()) {
+    showStatus(stoppedText(text, hits.count()).c_str());
+  }
+  return !watch.stopped();
 }
 
 bool QuickFind::findMethods(const std::string& name) {
-  collect(Search::kMethod, name, method_results_);
+  const bool whole = collect(Search::kMethod, name, method_results_);
   const int found = method_results_.count();
   if (found > 0) {
+    // The only one so far need not be the one that was sought.
+    const bool direct = found == 1 && whole;
     PostMessageA(owner_, WM_COMMAND,
-                 static_cast<WPARAM>(found == 1 ? kCommandFirstResult : kCommandMethodResults), 0);
+                 static_cast<WPARAM>(direct ? kCommandFirstResult : kCommandMethodResults), 0);
   }
-  return found > 0;
+  return found > 0 || !whole;
 }
 
 bool QuickFind::crossReference(const std::string& name) {
-  collect(Search::kCross, name, cross_results_);
+  const bool whole = collect(Search::kCross, name, cross_results_);
   if (cross_results_.count() == 0) {
+    if (!whole) {
+      return true;
+    }
     soundBeep();
     showStatus("Sorry, nothing found !");
     return false;
   }
-  messages_.write(name.c_str(), cross_results_);
+  messages_.write(name.c_str(), cross_results_, whole);
+  if (!whole) {
+    return true;
+  }
   soundBeep();
   showStatus("References found, see Message Window");
   return true;
@@ -163,14 +198,13 @@ void QuickFind::showMethodResults(HWND bar) {
     AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
                 method_results_.at(i)->text());
   }
+  if (shown == 0) {
+    DestroyMenu(popup);
+    return;
+  }
   POINT mouse = {};
   GetCursorPos(&mouse);
-  if (hookSet != nullptr && shown > 0) {
-    hookSet->suspend(true);
-    TrackPopupMenu(popup, TPM_LEFTALIGN, mouse.x, mouse.y, 0, bar, nullptr);
-    hookSet->suspend(false);
-  }
-  DestroyMenu(popup);
+  trackPopup(bar, popup, mouse);
 }
 
 void QuickFind::chooseMethodResult(int index) {

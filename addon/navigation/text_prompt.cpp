@@ -11,7 +11,7 @@ namespace {
 
 struct Prompt {
   const char* title;
-  const PromptHistory& history;
+  const PromptHistory& history;  // until the dialog is filled
   std::string text;
 };
 
@@ -78,15 +78,10 @@ std::string selectedText(HWND owner, HWND editor) {
 
 }  // namespace
 
-std::string promptForText(HWND owner, HWND editor, const char* title, PromptHistory& history) {
-  std::string text = selectedText(owner, editor);
-  if (text.empty()) {
-    text = askForText(owner, title, history);
-  }
-  if (!text.empty()) {
-    history.enter(text);
-  }
-  return text;
+std::string promptForText(HWND owner, HWND editor, const char* title,
+                          const PromptHistory& history) {
+  const std::string text = selectedText(owner, editor);
+  return text.empty() ? askForText(owner, title, history) : text;
 }
 
 }  // namespace kesto

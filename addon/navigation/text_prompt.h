@@ -14,9 +14,10 @@ namespace kesto {
 // Characters of a name.
 inline constexpr std::size_t kPromptLimit = 255;
 
-// The name, entered into the history; empty when there is none or the user cancelled.
-// editor is the "BCW5Editor" window that counts and may be gone; the dialog belongs to
-// owner and has the title.
-std::string promptForText(HWND owner, HWND editor, const char* title, PromptHistory& history);
+// The name; empty when there is none or the user cancelled, or when the IDE closed
+// meanwhile: nothing that was there before may be relied on afterwards. editor is the "BCW5Editor"
+// window that counts and may be gone; the dialog belongs to owner, has the title and offers the
+// history.
+std::string promptForText(HWND owner, HWND editor, const char* title, const PromptHistory& history);
 
 }  // namespace kesto

@@ -25,6 +25,10 @@ int buttonsLeft(const ButtonGeometry& geometry, bool left_side, int window_width
   return geometry.look != 0 ? std::min(right_position, title_width + kLeftEdge) : kLeftEdge;
 }
 
+bool buttonShows(int left) {
+  return left >= kLeftEdge;
+}
+
 ButtonHit hitTest(const ButtonGeometry& geometry, const WindowEdges& window, bool left_side,
                   int title_width, int caption_height, int x, int y) {
   constexpr ButtonHit kNoHit = {-1, 0, 0};
@@ -38,7 +42,7 @@ ButtonHit hitTest(const ButtonGeometry& geometry, const WindowEdges& window, boo
     return kNoHit;
   }
   const int button = (x - left) / geometry.width;
-  if (button >= kTitleButtons) {
+  if (button >= kTitleButtons || !buttonShows(left + button * geometry.width - window.left)) {
     return kNoHit;
   }
   return {button, left + button * geometry.width + geometry.popup_x_adjust - 2,

@@ -25,6 +25,10 @@ const ButtonGeometry& buttonGeometry(bool windows95_look);
 // title's text in the system font; it counts on the left side of the new look only.
 int buttonsLeft(const ButtonGeometry& geometry, bool left_side, int window_width, int title_width);
 
+// Whether a button is there at all whose left edge is that far from the window's: in a
+// narrow window the first ones would cover the system menu.
+bool buttonShows(int left);
+
 struct WindowEdges {  // in screen coordinates
   int left;
   int top;

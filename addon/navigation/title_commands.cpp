@@ -11,9 +11,11 @@
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/include_search.h"
+#include "addon/navigation/popup_menu.h"
 #include "addon/navigation/quick_find.h"
 
 namespace kesto {
@@ -21,16 +23,13 @@ namespace {
 
 constexpr UINT kEditDocumentationItem = 177;
 
-// Tracks the popup where the click was and destroys it.
-bool trackPopup(HWND bar, HMENU popup) {
+// Shows the popup where the click was; false without one.
+bool showAtClick(HWND bar, HMENU popup) {
   if (popup == nullptr) {
     return false;
   }
-  const POINTS place = hookSet->target().click;
-  hookSet->suspend(true);
-  TrackPopupMenu(popup, TPM_LEFTALIGN, place.x, place.y, 0, bar, nullptr);
-  hookSet->suspend(false);
-  DestroyMenu(popup);
+  const POINTS click = hookSet->target().click;
+  trackPopup(bar, popup, {click.x, click.y});
   return true;
 }
 
@@ -59,11 +58,11 @@ bool ready() {
 }  // namespace
 
 bool showFunctionsPopup(HWND bar) {
-  return ready() && trackPopup(bar, editorNavigation->scanFunctions(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanFunctions(hookSet->target().title));
 }
 
 bool showIncludesPopup(HWND bar) {
-  return ready() && trackPopup(bar, editorNavigation->scanIncludes(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanIncludes(hookSet->target().title));
 }
 
 bool showQuickFindPopup(HWND bar) {
@@ -76,7 +75,7 @@ bool showQuickFindPopup(HWND bar) {
   appendSearch(popup, Search::kClass, "Find as class... ");
   AppendMenuA(popup, MF_SEPARATOR, 0, nullptr);
   appendSearch(popup, Search::kCross, "Cross reference... ");
-  return trackPopup(bar, popup);
+  return showAtClick(bar, popup);
 }
 
 bool showDocumentationPopup(HWND bar) {
@@ -85,7 +84,7 @@ bool showDocumentationPopup(HWND bar) {
   }
   const HMENU popup = CreatePopupMenu();
   AppendMenuA(popup, MF_STRING, kEditDocumentationItem, "Edit Documentation");
-  return trackPopup(bar, popup);
+  return showAtClick(bar, popup);
 }
 
 bool chooseFunction(int index) {
@@ -107,11 +106,18 @@ bool chooseInclude(int index) {
   if (name == nullptr) {
     return true;
   }
+  const std::string locating = std::string("Locating ") + name + " ...";
+  SearchWatch watch(locating);
   DirectoryListing listing;
+  Folders folders(listing, &watch);
   const String path =
       includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
   String found;
-  if (!findInclude(listing, path.view(), name, found)) {
+  if (!findInclude(folders, listing, path.view(), name, found)) {
+    if (watch.stopped()) {
+      showStatus((locating + " stopped").c_str());
+      return true;
+    }
     showStatus("Pas trouve");
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;

@@ -41,10 +41,12 @@ void EditorNavigation::paint(HWND editor) const {
   const WindowDc dc(editor);
   const MemoryDc memory(dc.get());
   for (const String& name : bitmap_names_) {
-    const OwnedBitmap bitmap(LoadBitmapA(addonEnvironment->instance, name.text()));
-    const Selection selected(memory.get(), bitmap.get());
-    BitBlt(dc.get(), x, geometry_.top, geometry_.width, geometry_.height, memory.get(), 0, 0,
-           SRCCOPY);
+    if (buttonShows(x)) {
+      const OwnedBitmap bitmap(LoadBitmapA(addonEnvironment->instance, name.text()));
+      const Selection selected(memory.get(), bitmap.get());
+      BitBlt(dc.get(), x, geometry_.top, geometry_.width, geometry_.height, memory.get(), 0, 0,
+             SRCCOPY);
+    }
     x += geometry_.width;
   }
 }

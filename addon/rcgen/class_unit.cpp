@@ -29,12 +29,9 @@ Time modified(RcFiles& files, const char* path) {
   return status ? Time(status->modified) : Time();
 }
 
-std::vector<String> scriptsOf(RcFiles& files, const String& directory) {
-  Tableau<String> names;
-  files.listFiles(directory, "*.rc", names);
+std::vector<String> scriptsOf(Folders& folders, const String& directory) {
   std::vector<String> paths;
-  for (int i = 0; i < names.count(); ++i) {
-    const std::string_view name = names.at(i)->view();
+  for (const std::string& name : folders.files(directory, FileMask("*.rc"))) {
     if (!name.starts_with('.')) {
       paths.push_back(joinPath(directory.view(), name));
     }
@@ -138,10 +135,13 @@ bool isOutOfDate(Time header, Time implementation, std::span<const Time> scripts
                      [older](Time script) { return !script || *script > older; });
 }
 
-void updateClassUnit(RcFiles& files, const ClassUnit& unit) {
+void updateClassUnit(RcFiles& files, Folders& folders, const ClassUnit& unit) {
+  if (!folders.enter(unit.directory)) {
+    return;
+  }
   const String header = outputPath(unit, ".h");
   const String implementation = outputPath(unit, ".cpp");
-  const std::vector<String> scripts = scriptsOf(files, unit.directory);
+  const std::vector<String> scripts = scriptsOf(folders, unit.directory);
   if (!unitOutOfDate(files, scripts, header, implementation)) {
     return;
   }

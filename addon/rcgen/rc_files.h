@@ -1,4 +1,4 @@
-// The file system as the generator uses it: listings by MaskLister, and the few things
+// The file system as the generator uses it: listings by DirectoryLister, and the few things
 // done to a file. The shell implements it over Windows; tests play it.
 #pragma once
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "addon/foundation/directory_walk.h"
+#include "addon/foundation/directory_lister.h"
 
 namespace kesto {
 
@@ -16,7 +16,7 @@ struct RcFileStatus {
   bool is_directory;
 };
 
-class RcFiles : public MaskLister {
+class RcFiles : public DirectoryLister {
  public:
   // Nothing when the path's status cannot be read.
   virtual std::optional<RcFileStatus> status(const char* path) = 0;

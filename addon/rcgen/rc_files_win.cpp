@@ -6,12 +6,8 @@
 
 namespace kesto {
 
-void RcFilesWin::listFiles(const char* directory, const char* mask, Tableau<String>& names) {
-  listing_.listFiles(directory, mask, names);
-}
-
-void RcFilesWin::listDirectories(const char* directory, Tableau<String>& names) {
-  listing_.listDirectories(directory, names);
+void RcFilesWin::list(const char* directory, const char* mask, DirectoryEntries& entries) {
+  listing_.list(directory, mask, entries);
 }
 
 // Not by _stat, whose whole seconds would hide a script saved right after a make.

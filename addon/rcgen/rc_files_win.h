@@ -8,8 +8,7 @@ namespace kesto {
 
 class RcFilesWin : public RcFiles {
  public:
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override;
-  void listDirectories(const char* directory, Tableau<String>& names) override;
+  void list(const char* directory, const char* mask, DirectoryEntries& entries) override;
   std::optional<RcFileStatus> status(const char* path) override;
   bool read(const char* path, std::string& text) override;
   bool write(const char* path, std::string_view text) override;

@@ -86,24 +86,20 @@ void stampStatement(std::string& stamped, std::string_view numbers, Version& ver
 
 class Stamping {
  public:
-  Stamping(RcFiles& files, std::int32_t& build_number)
-      : files_(files), build_number_(build_number) {}
+  Stamping(RcFiles& files, Folders& folders, std::int32_t& build_number)
+      : files_(files), folders_(folders), build_number_(build_number) {}
 
   // Each level adds two characters at least, so that kPathLimit bounds the depth.
   void tree(const String& directory) {
-    if (directories_left_ == 0 || directory.view().size() > kPathLimit) {
+    if (!folders_.enter(directory)) {
       return;
     }
-    --directories_left_;
-    Tableau<String> names;
-    files_.listDirectories(directory, names);
-    for (int i = 0; i < names.count(); ++i) {
-      const std::string_view name = names.at(i)->view();
-      if (name != "." && name != "..") {
-        tree(joinPath(directory.view(), name));
-      }
+    for (const std::string_view name : folders_.directories(directory)) {
+      tree(joinPath(directory.view(), name));
     }
-    stamp(directory);
+    if (!folders_.stopped()) {
+      stamp(directory);
+    }
   }
 
  private:
@@ -126,8 +122,8 @@ class Stamping {
   }
 
   RcFiles& files_;
+  Folders& folders_;
   std::int32_t& build_number_;
-  int directories_left_ = kDirectoryLimit;
 };
 
 }  // namespace
@@ -157,8 +153,9 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number) {
   return stamped;
 }
 
-void stampVersions(RcFiles& files, const String& directory, std::int32_t& build_number) {
-  Stamping(files, build_number).tree(directory);
+void stampVersions(RcFiles& files, Folders& folders, const String& directory,
+                   std::int32_t& build_number) {
+  Stamping(files, folders, build_number).tree(directory);
 }
 
 }  // namespace kesto

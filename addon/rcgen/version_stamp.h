@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "addon/foundation/folders.h"
 #include "addon/foundation/string.h"
 #include "addon/rcgen/rc_files.h"
 
@@ -22,6 +23,7 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number);
 // Stamps the version file of each directory of the tree, those below a directory before
 // its own. The first text of each stays beside it as VERSION.BAK, from which every later
 // one is made. Nothing is told of what fails.
-void stampVersions(RcFiles& files, const String& directory, std::int32_t& build_number);
+void stampVersions(RcFiles& files, Folders& folders, const String& directory,
+                   std::int32_t& build_number);
 
 }  // namespace kesto

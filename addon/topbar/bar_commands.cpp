@@ -19,12 +19,12 @@ constexpr char kBadFile[] = "Internal error: bad file";
 constexpr int kTitleSize = 512;
 
 // Whether the node can be worked on; the status line says why when it cannot.
-bool isUsable(const ProjectNodes& nodes, unsigned node) {
+bool isUsable(unsigned node) {
   if (node == 0) {
     showStatus(kNotEnoughFiles);
     return false;
   }
-  if (!nodes.exists(node)) {
+  if (!ProjectNodes().exists(node)) {
     showStatus(kBadFile);
     return false;
   }
@@ -37,22 +37,38 @@ std::string extensionOf(std::string_view path) {
   return dot != std::string_view::npos ? std::string(name.substr(dot)) : std::string();
 }
 
-void runToolOfNode(const ProjectNodes& nodes, unsigned node) {
-  if (toolTable == nullptr) {
-    return;
+void runToolOfNode(unsigned node) {
+  std::string file;
+  std::string kind;
+  {
+    const ProjectNodes nodes;
+    file = nodes.name(node);
+    kind = nodes.type(node);
   }
-  const std::string file = nodes.name(node);
-  std::string kind = nodes.type(node);
   if (kind.empty()) {
     kind = extensionOf(file);
   }
-  runTool(toolTable->findTool(kind.c_str(), nullptr), file.c_str());
+  if (toolTable != nullptr) {
+    runTool(toolTable->findTool(kind.c_str(), nullptr), file.c_str());
+  }
 }
 
-void askToRemove(const ProjectNodes& nodes, unsigned node, const std::string& name) {
+// Nothing of the IDE is held while it asks, and only what was asked about is removed.
+void askToRemove(unsigned node, const std::string& name) {
+  const std::string file = ProjectNodes().name(node);
   const std::string question = "Okay to remove\n" + name + " ?";
-  if (showMessage(nullptr, question.c_str(), "Confirmation", kMessageYesNo) == kAnswerYes) {
+  if (showMessage(nullptr, question.c_str(), "Confirmation", kMessageYesNo) != kAnswerYes) {
+    return;
+  }
+  const ProjectNodes nodes;
+  if (nodes.exists(node) && nodes.name(node) == file) {
     nodes.remove(node);
+  }
+}
+
+void openAlternatively(unsigned node) {
+  if (const char* text = toolResultText(ProjectNodes().openAlternatively(node))) {
+    showStatus(text);
   }
 }
 
@@ -92,34 +108,32 @@ void openRecentHeader(int position) {
   // A copy: opening moves the entries.
   const std::string path = recentHeaderPath(position);
   openFile(path.c_str());
-  recentFiles->headerUsed(path.c_str(), nullptr);
+  if (recentFiles != nullptr) {
+    recentFiles->headerUsed(path.c_str(), nullptr);
+  }
 }
 
 void runExecutable(int position) {
-  const ProjectNodes nodes;
   const unsigned node = barMenu != nullptr ? barMenu->tool(position) : 0;
-  if (isUsable(nodes, node)) {
+  if (isUsable(node)) {
     showStatus("Running");
-    runToolOfNode(nodes, node);
+    runToolOfNode(node);
   }
 }
 
 void chooseProjectFile(int position) {
   const bool alt = GetKeyState(VK_MENU) < 0;
   const bool ctrl = GetKeyState(VK_CONTROL) < 0;
-  const ProjectNodes nodes;
   const unsigned node = barMenu != nullptr ? barMenu->file(position) : 0;
-  if (isUsable(nodes, node)) {
+  if (isUsable(node)) {
     if (alt && ctrl) {
-      if (const char* text = toolResultText(nodes.openAlternatively(node))) {
-        showStatus(text);
-      }
+      openAlternatively(node);
     } else if (alt) {
       barMenu->features().quickAdd(node);
     } else if (ctrl) {
-      askToRemove(nodes, node, projectFileName(position));
+      askToRemove(node, projectFileName(position));
     } else {
-      runToolOfNode(nodes, node);
+      runToolOfNode(node);
     }
   }
   activateFrame();

@@ -35,8 +35,6 @@ class BarMenu {
   // The node has a new name: its item or popup takes it.
   void nodeChanged(unsigned node, const char* name);
 
-  // The popup "Kesto", for others to add to; null before the first rebuild.
-  HMENU mainPopup() const { return menuAt(BarMenuPlan::kMain); }
   // The node of tool or project file n, 0 out of range.
   unsigned tool(int n) const;
   unsigned file(int n) const;

@@ -1,9 +1,12 @@
 #include "addon/topbar/bar_window.h"
 
+#include <string>
+
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/html/documentation_run.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/editor_operations.h"
+#include "addon/ide/find_window.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
 #include "addon/topbar/bar_menu.h"
@@ -29,23 +32,56 @@ void collapseBar() {
   }
 }
 
+// A window of the IDE's thread that a person can go on in.
+bool takesActivation(HWND window, HWND bar) {
+  return window != nullptr && window != bar && IsWindowVisible(window) && IsWindowEnabled(window) &&
+         GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+}
+
+// After a click that is the window in use before it. After anything else, such as the
+// end of a box without owner, and when another program was in use, it is the frame, or
+// the dialog that keeps the frame from being used.
+HWND nextActive(HWND bar, bool clicked, HWND before) {
+  if (clicked && takesActivation(before, bar)) {
+    return before;
+  }
+  const HWND frame = findFrame();
+  if (frame == nullptr || IsWindowEnabled(frame)) {
+    return frame;
+  }
+  const HWND dialog = GetLastActivePopup(frame);
+  return takesActivation(dialog, bar) ? dialog : frame;
+}
+
 // Returns true when that was all there is to do: the default processing would
 // give the bar the keyboard, and with it the activation, back.
-bool onActivation(WPARAM wParam, LPARAM lParam) {
+bool onActivation(HWND bar, WPARAM wParam, LPARAM lParam) {
   if (LOWORD(wParam) == WA_INACTIVE) {
     collapseBar();
     return false;
   }
-  const HWND before = reinterpret_cast<HWND>(lParam);
-  if (LOWORD(wParam) != WA_CLICKACTIVE || before == nullptr) {
+  const HWND next =
+      nextActive(bar, LOWORD(wParam) == WA_CLICKACTIVE, reinterpret_cast<HWND>(lParam));
+  if (next == nullptr) {
     return false;
   }
-  SetActiveWindow(before);
+  SetActiveWindow(next);
   return true;
 }
 
+void onMenuLoop(bool begins) {
+  if (!begins) {
+    collapseBar();
+  }
+  if (barMenu != nullptr) {
+    barMenu->menuOpened(begins);
+  }
+}
+
 void onOpenFoundFile(HWND bar, WPARAM line, LPARAM path) {
-  if (openAndRecord(reinterpret_cast<const char*>(path))) {
+  // A copy: opening may ask, and the IDE may have closed by the answer.
+  const std::string file(reinterpret_cast<const char*>(path));
+  if (openAndRecord(file.c_str()) && IsWindow(bar)) {
     PostMessageA(bar, kGoToLineMessage, line, path);
   }
 }
@@ -81,8 +117,8 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
     case WM_ENTERMENULOOP:
     case WM_EXITMENULOOP:
       // wParam tells the popups of title bars, which are no menus of the bar.
-      if (barMenu != nullptr && wParam == FALSE) {
-        barMenu->menuOpened(message == WM_ENTERMENULOOP);
+      if (wParam == FALSE) {
+        onMenuLoop(message == WM_ENTERMENULOOP);
       }
       break;
     case WM_MENUSELECT:
@@ -91,10 +127,13 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
       }
       break;
     case WM_ACTIVATE:
-      if (onActivation(wParam, lParam)) {
+      if (onActivation(bar, wParam, lParam)) {
         return 0;
       }
       break;
+    case WM_CLOSE:
+      // The lifecycle alone takes the bar down: without it no command arrives anywhere.
+      return 0;
     case kGoToLineMessage:
       goToLine(reinterpret_cast<const char*>(lParam), static_cast<int>(wParam));
       return 0;
@@ -114,14 +153,14 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
 
 }  // namespace
 
-bool registerBarClass(HINSTANCE instance) {
+void registerBarClass(HINSTANCE instance) {
   WNDCLASSA bar_class = {};
   bar_class.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
   bar_class.lpfnWndProc = barProcedure;
   bar_class.hInstance = instance;
   bar_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
   bar_class.lpszClassName = kBarClass;
-  return RegisterClassA(&bar_class) != 0;
+  RegisterClassA(&bar_class);
 }
 
 void unregisterBarClass(HINSTANCE instance) {

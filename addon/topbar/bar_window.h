@@ -9,7 +9,7 @@ namespace kesto {
 
 inline constexpr char kBarClass[] = "KADO";
 
-bool registerBarClass(HINSTANCE instance);
+void registerBarClass(HINSTANCE instance);
 void unregisterBarClass(HINSTANCE instance);
 
 // Creates the bar, hidden, with its start-up menu. Null on failure.

@@ -34,6 +34,9 @@ struct CommandRange {
   Handler handler;     // null: nothing answers to these ids
   const char* status;  // text while the item is highlighted, null for a blank line
   std::string (*subject)(int position) = nullptr;  // what the text goes on with
+  // Whether a modal dialog of the IDE stands in its way: it would work on what is
+  // underneath, or put a second dialog beside the first.
+  bool waits_for_ide = true;
 };
 
 bool completeWord(const Command&) {
@@ -87,8 +90,7 @@ bool openHelp(const Command&) {
 }
 
 bool openOptions(const Command&) {
-  const HWND frame = findFrame();
-  if (frame != nullptr && IsWindowEnabled(frame)) {
+  if (const HWND frame = findFrame()) {
     PostMessageA(frame, WM_COMMAND, ideapi::kCommandOptions, 0);
   }
   return true;
@@ -128,11 +130,11 @@ bool atPosition(const Command& command) {
 }
 
 constexpr CommandRange kCommands[] = {
-    {101, 101, newEditor, nullptr},
+    {101, 101, newEditor, nullptr, nullptr, false},
     {102, 102, completeWord, nullptr},
-    {103, 103, rebuildMenu, nullptr},
-    {104, 104, placeCaption, nullptr},
-    {111, 111, paintButtons, nullptr},
+    {103, 103, rebuildMenu, nullptr, nullptr, false},
+    {104, 104, placeCaption, nullptr, nullptr, false},
+    {111, 111, paintButtons, nullptr, nullptr, false},
     {171, 173, nullptr, nullptr},  // tasks
     {175, 176, nullptr, nullptr},  // groupware get, send
     {177, 177, [](const Command&) { return editDocumentation(); }, nullptr},
@@ -143,7 +145,7 @@ constexpr CommandRange kCommands[] = {
     {190, 193, runSearch, nullptr},
     {194, 194, generateDocumentation, nullptr},
     {195, 195, showDocumentation, nullptr},
-    {196, 196, openHelp, "Open help window"},
+    {196, 196, openHelp, "Open help window", nullptr, false},
     {197, 197, [](const Command& c) { return showDocumentationPopup(c.bar); }, nullptr},
     {199, 199, openOptions, "Open options dialog"},
     {200, 299, atPosition<switchToProject>, "Switch to project ", recentProjectPath},
@@ -168,8 +170,10 @@ const CommandRange* findRange(int id) {
 
 bool dispatchCommand(HWND bar, int id, LPARAM lParam) {
   const CommandRange* range = findRange(id);
-  return range != nullptr && range->handler != nullptr &&
-         range->handler({bar, id - range->first, lParam});
+  if (range == nullptr || range->handler == nullptr) {
+    return false;
+  }
+  return (range->waits_for_ide && !isIdeFree()) || range->handler({bar, id - range->first, lParam});
 }
 
 void showCommandStatus(int id, unsigned flags) {

@@ -133,7 +133,16 @@ TEST_CASE("keys held make other commands of a project file") {
     CHECK(kesto::recorded_boxes[0].caption == "Confirmation");
     CHECK(kesto::recorded_boxes[0].flags == 4);
     CHECK(!session.ide.project.nodes[2].removed);
+    // The answer is about the file that was named, and nothing is held until it comes.
     kesto::box_answer = 6;
+    const int held = fake::live_references;
+    kesto::while_box = [&] {
+      CHECK(fake::live_references == held);
+      session.ide.project.nodes[2].name = "C:\\p\\other.rc";
+    };
+    session.command(10001);
+    kesto::while_box = nullptr;
+    CHECK(!session.ide.project.nodes[2].removed);
     session.command(10001);
     CHECK(session.ide.project.nodes[2].removed);
   }

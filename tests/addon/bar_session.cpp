@@ -52,6 +52,7 @@ BarSession::~BarSession() {
   CHECK(ide.project.clients.empty());
   CHECK(ide.project_save.clients.empty());
   CHECK(ide.make.clients.empty());
+  CHECK(ide.editor.open_transactions == 0);
   CHECK(fake::live_references == references_before_);
 }
 

@@ -8,7 +8,7 @@
 #include "addon/ide/status_line.h"
 #include "addon/ide/unknown_imp.h"
 #include "doctest.h"
-#include "tests/addon/fake_ide.h"
+#include "tests/addon/bar_session.h"
 #include "tests/foundation/recorded_boxes.h"
 
 namespace {
@@ -23,42 +23,13 @@ class Answering : public kesto::CompletionSource {
   }
 };
 
-// A session with services held as the lifecycle holds them. Everything taken from
-// the IDE must be given back at its end.
-class Session {
- public:
-  Session() : references_before_(fake::live_references) {
-    kesto::recorded_boxes.clear();
-    ide.AddRef();
-    kesto::storeIde(&ide);
-  }
-  ~Session() {
-    delete kesto::editorServiceHolder;
-    kesto::editorServiceHolder = nullptr;
-    delete kesto::statusLineServiceHolder;
-    kesto::statusLineServiceHolder = nullptr;
-    kesto::completionSource = nullptr;
-    kesto::releaseIde();
-    CHECK(ide.editor.open_transactions == 0);
-    CHECK(fake::live_references == references_before_);
-  }
-  void hold() {
-    kesto::editorServiceHolder = new kesto::EditorServiceHolder;
-    kesto::statusLineServiceHolder = new kesto::StatusLineServiceHolder;
-  }
-  void edit(const char* line, int column) {
+struct Session : BarSession {
+  void edit(const std::string& line, int column) {
     ide.editor.file = "C:\\A.CPP";
     ide.editor.lines = {line};
     ide.editor.column = column;
     ide.editor.line = 1;
   }
-  std::string lastStatus() const {
-    return ide.status_line.texts.empty() ? "" : ide.status_line.texts.back();
-  }
-  fake::Ide ide;
-
- private:
-  int references_before_;
 };
 
 class Client : public kesto::IUnknownImp<IMakeClient> {
@@ -78,7 +49,7 @@ int Client::living = 0;
 
 TEST_CASE("going to a line puts the caret there and shows the line after it") {
   Session session;
-  session.hold();
+  session.create();
   session.edit("x", 9);
   kesto::goToLine("C:\\OTHER.CPP", 40);
   CHECK(session.ide.editor.transactions == 0);
@@ -90,7 +61,7 @@ TEST_CASE("going to a line puts the caret there and shows the line after it") {
 
 TEST_CASE("the word at the caret is read and the caret stays") {
   Session session;
-  session.hold();
+  session.create();
   session.edit("int count;", 6);
   char word[kesto::kWordBufferSize] = "old";
   kesto::wordAtCursor("C:\\A.CPP", word);
@@ -102,7 +73,7 @@ TEST_CASE("the word at the caret is read and the caret stays") {
 
 TEST_CASE("completing without an engine finds nothing, and says so") {
   Session session;
-  session.hold();
+  session.create();
   session.edit("pri", 4);
   kesto::completeAtCursor("C:\\A.CPP:120");
   CHECK(session.lastStatus() == "No available completion");
@@ -110,14 +81,14 @@ TEST_CASE("completing without an engine finds nothing, and says so") {
   session.ide.status_line.texts.clear();
   session.ide.editor.column = 1;
   kesto::completeAtCursor("C:\\A.CPP");
-  session.edit(std::string(100, 'w').c_str(), 101);
+  session.edit(std::string(100, 'w'), 101);
   kesto::completeAtCursor("C:\\A.CPP");
   CHECK(session.ide.status_line.texts.empty());
 }
 
 TEST_CASE("an engine's answer is inserted, and a second strike describes the word") {
   Session session;
-  session.hold();
+  session.create();
   Answering engine;
   kesto::completionSource = &engine;
   session.edit("x = pri;", 8);
@@ -137,13 +108,14 @@ TEST_CASE("an engine's answer is inserted, and a second strike describes the wor
   engine.answer.description = "another";
   kesto::completeAtCursor("C:\\A.CPP");
   CHECK(session.lastStatus() == "Completion complete");
+  kesto::completionSource = nullptr;
 }
 
 TEST_CASE("services that are missing leave the operations without effect") {
   Session session;
   kesto::showStatus("too early");
   session.ide.services.clear();
-  session.hold();
+  session.create();
   session.edit("abc", 2);
   kesto::goToLine("C:\\A.CPP", 3);
   kesto::completeAtCursor("C:\\A.CPP");

@@ -1,39 +1,21 @@
 #include "addon/ide/file_text.h"
 
-#include "addon/ide/access.h"
 #include "doctest.h"
-#include "tests/addon/fake_ide.h"
-
-namespace {
-
-struct Reading {
-  fake::Ide ide;
-  Reading() {
-    ide.AddRef();
-    kesto::storeIde(&ide);
-  }
-  ~Reading() { kesto::releaseIde(); }
-};
-
-}  // namespace
+#include "tests/addon/bar_session.h"
 
 TEST_CASE("a file is read whole, across chunks, and its stream released") {
-  const int before = fake::live_references;
-  {
-    Reading reading;
-    reading.ide.stream.disk = std::string(70000, 'x') + "end";
-    const kesto::FileText text = kesto::readFileText("C:\\A.CPP");
-    CHECK(text.length() == 70003);
-    CHECK(text.view().substr(70000) == "end");
-    CHECK(text.data()[70003] == '\0');
-    CHECK(reading.ide.stream.modes == std::vector<int>{kStreamBufferOrFile});
-  }
-  CHECK(fake::live_references == before);
+  BarSession session;
+  session.ide.stream.disk = std::string(70000, 'x') + "end";
+  const kesto::FileText text = kesto::readFileText("C:\\A.CPP");
+  CHECK(text.length() == 70003);
+  CHECK(text.view().substr(70000) == "end");
+  CHECK(text.data()[70003] == '\0');
+  CHECK(session.ide.stream.modes == std::vector<int>{kStreamBufferOrFile});
 }
 
 TEST_CASE("a read that fails is tried once more, in the place the state names") {
-  Reading reading;
-  fake::StreamSource& stream = reading.ide.stream;
+  BarSession session;
+  fake::StreamSource& stream = session.ide.stream;
   stream.disk = "disk";
   stream.buffer = "buffer";
   SUBCASE("no editor holds the file") {

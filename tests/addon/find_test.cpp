@@ -7,19 +7,36 @@
 #include <vector>
 
 #include "addon/foundation/directory_listing.h"
-#include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
 #include "addon/navigation/name_search.h"
 #include "doctest.h"
-#include "tests/addon/fake_ide.h"
+#include "tests/addon/bar_session.h"
 
 namespace kesto {
 
 namespace {
 
-// A window that puts its title on the clipboard when asked to copy, as an editor does
-// with its selection; without a title it leaves the clipboard alone.
+void put(UINT format, const std::string& bytes) {
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, bytes.size());
+  memcpy(GlobalLock(memory), bytes.data(), bytes.size());
+  GlobalUnlock(memory);
+  SetClipboardData(format, memory);
+}
+
+std::string bytesOf(UINT format) {
+  const HANDLE memory = GetClipboardData(format);
+  const auto* bytes = memory != nullptr ? static_cast<const char*>(GlobalLock(memory)) : nullptr;
+  std::string result;
+  if (bytes != nullptr) {
+    result.assign(bytes, GlobalSize(memory));
+    GlobalUnlock(memory);
+  }
+  return result;
+}
+
+// A window that puts its selection on the clipboard when asked to copy, as an editor does;
+// without one it leaves the clipboard alone. What it promised it renders when asked.
 class CopyingWindow {
  public:
   CopyingWindow()
@@ -37,7 +54,11 @@ class CopyingWindow {
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_COPY && !selection.empty()) {
-      Clipboard(window).setText(selection);
+      Clipboard clipboard(window);
+      clipboard.clear();
+      put(CF_TEXT, selection + '\0');
+    } else if (message == WM_RENDERFORMAT) {
+      put(static_cast<UINT>(wParam), "rendered");
     }
     return DefWindowProcA(window, message, wParam, lParam);
   }
@@ -78,36 +99,116 @@ class Folder {
   std::string path_;
 };
 
+// The names that the system lists for a mask, without directories.
+std::string listedBySystem(const std::string& folder, const std::string& mask) {
+  std::string names;
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA((folder + '\\' + mask).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return names;
+  }
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      (names += found.cFileName) += '|';
+    }
+  } while (FindNextFileA(search, &found) != FALSE);
+  FindClose(search);
+  return names;
+}
+
+// Where Wine is no judge: it gives up a name of which a beginning fits already, as that of
+// "a.c.c" does for "*.c".
+bool fitsTwice(const std::string& mask, const std::string& name) {
+  for (std::size_t size = 1; size < name.size(); ++size) {
+    if (FileMask(mask).fits(name.substr(0, size))) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
-TEST_CASE("a selection is read and the clipboard's text survives") {
+TEST_CASE("a selection is read") {
   const CopyingWindow window;
-  const std::string long_text(100000, 's');
-  const struct {
-    const char* before;  // null: no text on the clipboard
-    std::string selection;
-  } cases[] = {{"kept", "name"}, {"kept", ""}, {nullptr, "name"}, {nullptr, ""}, {"", long_text}};
-  for (const auto& c : cases) {
+  for (const std::string& selection : {std::string("name"), std::string(100000, 's')}) {
+    CopyingWindow::selection = selection;
+    CHECK(copySelection(window.handle(), window.handle()) == selection);
+    // There was nothing before.
+    CHECK(CountClipboardFormats() == 0);
+  }
+}
+
+TEST_CASE("all that was on the clipboard survives, whether or not there is a selection") {
+  const CopyingWindow window;
+  const UINT own = RegisterClipboardFormatA("Kesto test");
+  const UINT promised = RegisterClipboardFormatA("Kesto test, promised");
+  // Letters that no 8-bit text has, an end and bytes behind it.
+  const std::string unicode("\x16\x04\x3b\x04\0\0", 6);
+  const std::string bytes("\x01\0\xff", 3);
+  const METAFILEPICT size = {MM_ANISOTROPIC, 30, 40, nullptr};
+  const DWORD metafile_record = 0x01020304;
+  for (const char* selection : {"name", ""}) {
     {
       Clipboard clipboard(window.handle());
       REQUIRE(clipboard.isOpen());
       clipboard.clear();
-      if (c.before != nullptr) {
-        clipboard.setText(c.before);
-      }
+      put(own, bytes);
+      put(CF_UNICODETEXT, unicode);
+      SetClipboardData(promised, nullptr);
+      SetClipboardData(CF_BITMAP, CreateBitmap(3, 2, 1, 1, "\xa0\0\x40\0"));
+      METAFILEPICT picture = size;
+      const HDC recorder = CreateMetaFileA(nullptr);
+      SetTextColor(recorder, metafile_record);
+      picture.hMF = CloseMetaFile(recorder);
+      put(CF_METAFILEPICT, std::string(reinterpret_cast<const char*>(&picture), sizeof picture));
     }
-    CopyingWindow::selection = c.selection;
-    CHECK(copySelection(window.handle(), window.handle()) == c.selection);
-    const std::optional<std::string> after = Clipboard(window.handle()).text();
-    CHECK(after.has_value() == (c.before != nullptr));
-    CHECK(after.value_or("") == (c.before != nullptr ? c.before : ""));
+    CopyingWindow::selection = selection;
+    CHECK(copySelection(window.handle(), window.handle()) == selection);
+    const Clipboard clipboard(window.handle());
+    CHECK(EnumClipboardFormats(0) == own);
+    CHECK(bytesOf(own).substr(0, bytes.size()) == bytes);
+    CHECK(bytesOf(CF_UNICODETEXT).substr(0, unicode.size()) == unicode);
+    CHECK(bytesOf(promised).substr(0, 8) == "rendered");
+    BITMAP bitmap = {};
+    BYTE rows[4] = {};
+    const HANDLE picture = GetClipboardData(CF_BITMAP);
+    REQUIRE(GetObjectA(picture, sizeof bitmap, &bitmap) != 0);
+    CHECK(bitmap.bmWidth == 3);
+    CHECK(bitmap.bmHeight == 2);
+    CHECK(GetBitmapBits(static_cast<HBITMAP>(picture), sizeof rows, rows) == 4);
+    CHECK(rows[0] == 0xa0);
+    CHECK(rows[2] == 0x40);
+    METAFILEPICT metafile = {};
+    memcpy(&metafile, bytesOf(CF_METAFILEPICT).data(), sizeof metafile);
+    CHECK(metafile.yExt == size.yExt);
+    std::string records(GetMetaFileBitsEx(metafile.hMF, 0, nullptr), '\0');
+    GetMetaFileBitsEx(metafile.hMF, static_cast<UINT>(records.size()), records.data());
+    CHECK(records.find("\x04\x03\x02\x01") != std::string::npos);
   }
 }
 
+TEST_CASE("a clipboard that cannot be kept is left alone") {
+  const CopyingWindow window;
+  {
+    Clipboard clipboard(window.handle());
+    clipboard.clear();
+    put(CF_TEXT, std::string("kept\0", 5));
+    put(CF_PRIVATEFIRST, "its owner's");
+  }
+  CopyingWindow::selection = "name";
+  CHECK(copySelection(window.handle(), window.handle()).empty());
+  {
+    const Clipboard clipboard(window.handle());
+    CHECK(bytesOf(CF_TEXT).substr(0, 4) == "kept");
+    CHECK(GetClipboardOwner() == window.handle());
+  }
+  Clipboard(window.handle()).clear();
+}
+
 TEST_CASE("the files of a tree are searched as the IDE holds them") {
-  fake::Ide ide;
-  ide.AddRef();
-  storeIde(&ide);
+  BarSession session;
+  fake::Ide& ide = session.ide;
   ide.stream.disk = "int f()\n{\n  call();\n  call();\n}\n";
   const Folder folder;
   const std::vector<SearchStep> plan = {{folder.path(), "*.cpp"}, {folder.path() + "2", "*.cpp"}};
@@ -140,14 +241,60 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
     CHECK(hits.count() > 1000);
     CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
   }
-  releaseIde();
+}
+
+TEST_CASE("masks fit what the system says they fit, by long and by short names") {
+  unsigned seed = 1;
+  const auto text = [&seed](std::string_view letters, unsigned longest) {
+    const auto dice = [&seed](std::size_t sides) {
+      seed = seed * 1103515245 + 12345;
+      return (seed >> 16) % sides;
+    };
+    std::string made;
+    for (std::size_t size = 1 + dice(longest); made.size() < size;) {
+      made += letters[dice(letters.size())];
+    }
+    return made;
+  };
+  const Folder folder;
+  std::vector<std::string> paths;
+  for (int i = 0; i < 150; ++i) {
+    // Without a dot or a blank at the end, which the system would cut.
+    paths.push_back(folder.path() + '\\' + text("aaBbc..~1 +\xe9", 11) + "ab"[i % 2]);
+    std::ofstream(paths.back()) << "x";
+  }
+  DirectoryListing listing;
+  Folders folders(listing);
+  const String directory(folder.path().c_str());
+  REQUIRE(folders.enter(directory));
+  int hits = 0;
+  int short_hits = 0;
+  for (int i = 0; i < 1500; ++i) {
+    const std::string mask_text = text(i % 4 == 0 ? "aAb.~1*?\xc9 " : "aAbBc..~1**", 7);
+    const FileMask mask(mask_text);
+    const std::string expected = listedBySystem(folder.path(), mask_text);
+    std::string names;
+    for (const std::string& name : folders.files(directory, mask)) {
+      if (!(mask.plain() && fitsTwice(mask_text, name) &&
+            expected.find(name) == std::string::npos)) {
+        (names += name) += '|';
+      }
+      ++hits;
+      short_hits += mask.plain() && !mask.fits(name) ? 1 : 0;
+    }
+    CAPTURE(mask_text);
+    CHECK(names == expected);
+  }
+  CHECK(hits > 1000);
+  CHECK(short_hits > 10);
+  for (const std::string& path : paths) {
+    DeleteFileA(path.c_str());
+  }
 }
 
 TEST_CASE("references go into a group of their own, each run below its header") {
-  const int references = fake::live_references;
-  fake::Ide ide;
-  ide.AddRef();
-  storeIde(&ide);
+  BarSession session;
+  fake::Ide& ide = session.ide;
   {
     CrossReferenceMessages messages;
     Tableau<QuickResu> hits;
@@ -172,8 +319,6 @@ TEST_CASE("references go into a group of their own, each run below its header") 
   ide.services.erase(ideapi::kMessageService.Data1);
   CrossReferenceMessages().write("Paint", Tableau<QuickResu>());
   CHECK(log.size() == 6);
-  releaseIde();
-  CHECK(fake::live_references == references);
 }
 
 }  // namespace kesto

@@ -3,8 +3,10 @@
 
 #include <string>
 
+#include "addon/addon_hook_host.h"
 #include "addon/completion/completion_settings.h"
 #include "addon/foundation/settings_store.h"
+#include "addon/ide/completion_source.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/topbar/bar_window.h"
@@ -117,6 +119,49 @@ TEST_CASE("the bar shows all rows of its menu while it is expanded, and else the
     CHECK(bar.showsLastEntry());
     DestroyWindow(above);
   }
+}
+
+TEST_CASE("the bar hands activation on and is not closed by a person") {
+  OwnSettings root;
+  WindowFixture windows;
+  Bar bar(true, 0, 0, 3);
+  SetActiveWindow(bar.window);
+  CHECK(GetActiveWindow() == windows.frame);
+  CHECK(GetFocus() != bar.window);
+  // A box without owner closes, and the bar is the next window in order.
+  const HWND box = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, nullptr);
+  SetWindowPos(bar.window, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(bar.window, box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  CHECK(GetActiveWindow() == box);
+  DestroyWindow(box);
+  CHECK(GetActiveWindow() == windows.frame);
+  // A dialog keeps the frame from being used.
+  const HWND dialog = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, windows.frame);
+  SetActiveWindow(dialog);
+  EnableWindow(windows.frame, FALSE);
+  SetActiveWindow(bar.window);
+  CHECK(GetActiveWindow() == dialog);
+  EnableWindow(windows.frame, TRUE);
+  DestroyWindow(dialog);
+
+  SendMessageA(bar.window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  CHECK(IsWindow(bar.window));
+}
+
+TEST_CASE("the completion key is one while something completes") {
+  OwnSettings root;
+  class Source : public kesto::CompletionSource {
+    kesto::CompletionAnswer complete(const char*) override { return {}; }
+  };
+  Source source;
+  const kesto::AddonHookHost host;
+  kesto::completionSettings = new kesto::CompletionSettings;
+  CHECK(host.completionKey() == 0);
+  kesto::completionSource = &source;
+  CHECK(host.completionKey() == 222);
+  kesto::completionSource = nullptr;
+  delete kesto::completionSettings;
+  kesto::completionSettings = nullptr;
 }
 
 TEST_CASE("the bar takes any margins") {

@@ -11,7 +11,7 @@ class WindowFixture {
  public:
   WindowFixture() {
     for (const char* name : {ideapi::kFrameClass, ideapi::kMdiClientClass, ideapi::kEditorClass,
-                             ideapi::kProjectClass, "KestoTestBar"}) {
+                             ideapi::kEditorTextClass, ideapi::kProjectClass, "KestoTestBar"}) {
       WNDCLASSA window_class = {};
       window_class.lpfnWndProc = DefWindowProcA;
       window_class.hInstance = GetModuleHandleA(nullptr);
@@ -44,6 +44,13 @@ class WindowFixture {
         create(ideapi::kEditorClass, title, WS_CHILD | WS_CAPTION | WS_VISIBLE, client);
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return window;
+  }
+
+  // The keyboard is in it.
+  HWND editorText(HWND editor) {
+    const HWND text = create(ideapi::kEditorTextClass, "", WS_CHILD | WS_VISIBLE, editor);
+    SetFocus(text);
+    return text;
   }
 
   // Ids of the commands that reached the bar since the last call.

@@ -8,9 +8,13 @@ namespace kesto {
 
 std::vector<RecordedBox> recorded_boxes;
 int box_answer = kAnswerOk;
+std::function<void()> while_box;
 
 int showMessage(void* /*owner*/, const char* text, const char* caption, unsigned flags) {
   recorded_boxes.push_back({text, caption, flags});
+  if (while_box) {
+    while_box();
+  }
   return box_answer;
 }
 

@@ -105,6 +105,21 @@ TEST_CASE("a string's file form") {
   }
 }
 
+TEST_CASE("a long string and a short one are read into the same object") {
+  std::string lengthy;
+  for (int i = 0; i < 1000; ++i) {
+    lengthy += std::to_string(10000 + i);
+  }
+  const ByteFile file("\x88\x13"s + lengthy + "\0\3\0abc\0"s);
+  String read;
+  CHECK(read.fRead(file.get()) == 1);
+  CHECK(read.length() == 5000);
+  CHECK(read == lengthy.c_str());
+  CHECK(read.fRead(file.get()) == 1);
+  CHECK(read.length() == 3);
+  CHECK(read == "abc");
+}
+
 TEST_CASE("a damaged string is a failed read") {
   const std::string whole = "\4\0word\0"s;
   for (std::size_t size = 0; size < whole.size(); ++size) {

@@ -1,14 +1,24 @@
-// Paths, titles, lists and the numbers of the settings.
+// Identifiers, paths, titles, lists and the numbers of the settings.
 #include <climits>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "addon/foundation/identifier.h"
 #include "addon/foundation/path.h"
 #include "addon/foundation/settings_values.h"
 #include "doctest.h"
 
 namespace kesto {
+
+TEST_CASE("what an identifier may hold") {
+  const std::string held = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
+  for (int code = 0; code < 256; ++code) {
+    CAPTURE(code);
+    const char c = static_cast<char>(code);
+    CHECK(isIdentifierCharacter(c) == (held.find(c) != std::string::npos));
+  }
+}
 
 TEST_CASE("the parts of a path") {
   const struct {
@@ -24,6 +34,17 @@ TEST_CASE("the parts of a path") {
     CAPTURE(c.path);
     CHECK(directoryPart(c.path) == c.directory);
     CHECK(fileNamePart(c.path) == c.name);
+  }
+}
+
+TEST_CASE("a name in a directory, whose separator may be there") {
+  const struct {
+    std::string_view directory;
+    const char* path;
+  } cases[] = {{"C:\\P", "C:\\P\\a.h"}, {"E:\\", "E:\\a.h"}, {"c:/p/", "c:/p/a.h"}, {"", "a.h"}};
+  for (const auto& c : cases) {
+    CAPTURE(c.directory);
+    CHECK(joinPath(c.directory, "a.h") == c.path);
   }
 }
 

@@ -1,14 +1,11 @@
 // Whole generations. The cases of data/ are pairs: NAME.tree holds the sources, NAME.site
-// the pages in their order, each after a line "==== PATH". What differs is left in
-// the build tree as test-output/NAME.actual.
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+// the pages in their order, each after a line "==== PATH".
 #include <string>
 
 #include "addon/html/ht_projet.h"
 #include "addon/html/site_pages.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/foundation/recorded_boxes.h"
 #include "tests/html/played_site.h"
 
@@ -19,11 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kHead = "==== ";
-
-std::string contents(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 void addTree(PlayedSite& site, const std::string& tree) {
   for (std::size_t at = 0; at < tree.size();) {
@@ -52,14 +44,10 @@ TEST_CASE("the site of each tree, byte for byte and in order") {
     }
     ++cases;
     PlayedSite site;
-    addTree(site, contents(path));
+    addTree(site, tests::contents(path));
     CHECK(generate(site));
     CHECK(site.made == "C:\\P\\kHTML");
-    const std::string wanted = contents(path.replace_extension(".site"));
-    CHECK(site.pages == wanted);
-    if (site.pages != wanted) {
-      std::ofstream(path.stem().string() + ".actual", std::ios::binary) << site.pages;
-    }
+    tests::checkFile(path.replace_extension(".site"), site.pages);
   }
   CHECK(cases == 2);
 }
@@ -99,6 +87,25 @@ TEST_CASE("a page that cannot be written is left out, and none leaves the direct
         "D\xE9mo Presentation.html\na.h Contents.html\na.h Presentation.html\n"
         "Class Good.html\nClass odd *.html\n");
   CHECK(site.last_written == 12);
+}
+
+TEST_CASE("a class without documentation says so unless its methods speak for it") {
+  const struct {
+    bool documented, has_method, says_so;
+  } cases[] = {{false, false, true}, {false, true, false}, {true, true, false}};
+  for (const auto& c : cases) {
+    CAPTURE(c.documented);
+    CAPTURE(c.has_method);
+    htProjet projet("C:\\P", "*.h", "P");
+    htClass& shown = projet.findOrAddClass("Stack", projet.addFile("C:\\P\\a.h"));
+    shown.documentation = c.documented ? "x\n" : "";
+    if (c.has_method) {
+      projet.findOrAddMethod(shown, "push", EntryKind::kAny).documentation = "y\n";
+    }
+    Page page;
+    SitePages(projet).classPage(page, shown);
+    CHECK((page.text.find("Pas de documentation") != std::string::npos) == c.says_so);
+  }
 }
 
 TEST_CASE("a page for what the project does not have fails its check") {

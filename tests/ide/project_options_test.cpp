@@ -89,7 +89,8 @@ TEST_CASE("texts start behind their marker and end in time") {
               {std::string("?other\0", 7), 7, "other"},
               {std::string("~\0", 2), 2, ""},
               {"~", 1, ""},
-              {"~abc", 4, "abc"},                           // no terminator
+              {"~abc", 4, "abc"},  // no terminator
+              {"~" + std::string(65535, 'x'), 65536, std::string(65534, 'x')},
               {std::string("~ab\0cd\0", 7), 7, "ab"},       // more behind it
               {std::string("~ab\0", 4), 2000000000, "ab"},  // a size that lies
               {std::string("~ab\0", 4), 2, "a"},            // one that is too small
@@ -139,14 +140,23 @@ TEST_CASE("recipients, and counts that no project has") {
     Store store;
     store.plantNumber("Kesto_NB_MAIL", count);
     store.plantNumber("Kesto_NB_ODR", count);
-    store.plantText("Kesto_MAIL_PJ_1", "+anna");
+    store.plantText("Kesto_MAIL_PJ_9999", "+anna");
+    store.plantText("Kesto_MAIL_PJ_10000", "+one too many");
+    store.plantText("Kesto_ODR_TYP_9999", "+.exe");
+    store.plantText("Kesto_ODR_TYP_10000", "+.dll");
     kesto::MailProjectOptions mail;
     mail.recipients = {"of another project"};
     mail.read(store);
-    CHECK(mail.recipients.size() == (count > 0 ? 1 : 0));
+    const std::size_t kept = count > 0 ? 1 : 0;
+    CHECK(mail.recipients.size() == kept);
     kesto::DeliveryProjectOptions delivery;
     delivery.readCount(store);
     delivery.readGroups(store);
-    CHECK(delivery.groups.empty());
+    CHECK(delivery.groups.size() == kept);
   }
+  Store uncounted;
+  uncounted.plantText("Kesto_MAIL_PJ_0", "+anna");
+  kesto::MailProjectOptions mail;
+  mail.read(uncounted);
+  CHECK(mail.recipients.empty());
 }

@@ -40,6 +40,12 @@ TEST_CASE("which button a point hits, and where its popup opens") {
     CHECK(hit.x == c.popup_x);
     CHECK(hit.y == c.popup_y);
   }
+  // 140 pixels wide: the buttons begin at 10, 34 and 58, and the system menu ends at 22.
+  const WindowEdges narrow = {100, 50, 240};
+  CHECK(hitTest(buttonGeometry(true), narrow, false, 100, 19, 130, 60).button == -1);
+  CHECK(hitTest(buttonGeometry(true), narrow, false, 100, 19, 134, 60).button == 1);
+  CHECK(!buttonShows(22));
+  CHECK(buttonShows(23));
   CHECK(hitTest(buttonGeometry(true), window, true, 100, 19, 223, 60).button == 0);
   CHECK(hitTest(buttonGeometry(true), window, true, 100, 19, 222, 60).button == -1);
 }

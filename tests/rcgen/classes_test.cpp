@@ -1,9 +1,5 @@
 // The classes made of resource scripts. data/NAME.rc is the only script of a unit NAME,
-// whose files must be data/rcNAME.h and data/rcNAME.cpp. What differs is left in
-// the build tree as test-output/FILE.actual.
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+// whose files must be data/rcNAME.h and data/rcNAME.cpp.
 #include <memory>
 #include <string>
 
@@ -11,6 +7,7 @@
 #include "addon/rcgen/rc_fields.h"
 #include "addon/rcgen/rc_reader.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/rcgen/played_files.h"
 #include "tests/rcgen/text_count.h"
 
@@ -19,20 +16,6 @@ namespace kesto {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-void checkFile(const fs::path& expected, const std::string& actual) {
-  CHECK(fs::exists(expected));
-  const bool same = actual == contents(expected);
-  CHECK(same);
-  if (!same) {
-    std::ofstream(expected.filename().string() + ".actual", std::ios::binary) << actual;
-  }
-}
 
 struct Texts {
   std::string header;
@@ -67,15 +50,16 @@ TEST_CASE("each unit's files are those written out for it") {
     CAPTURE(unit);
     PlayedFiles files;
     files.scripts["P"] = {path.filename().string()};
-    files.put("P\\" + unit + ".rc", contents(path));
-    updateClassUnit(files, {"P", String(unit.c_str())});
+    files.put("P\\" + unit + ".rc", tests::contents(path));
+    Folders folders(files);
+    updateClassUnit(files, folders, {"P", String(unit.c_str())});
     for (const char* extension : {".h", ".cpp"}) {
       const std::string name = "rc" + unit + extension;
-      checkFile(path.parent_path() / name, files.files["P\\" + name].text);
+      tests::checkFile(path.parent_path() / name, files.files["P\\" + name].text);
     }
     ++cases;
   }
-  CHECK(cases == 3);
+  CHECK(cases == 2);
 }
 
 TEST_CASE("fields of a line") {
@@ -104,6 +88,94 @@ TEST_CASE("fields of a line") {
   }
 }
 
+TEST_CASE("the framework's classes") {
+  const struct {
+    const char *lower, *upper, *framework_class;
+  } rows[] = {
+      {"button", "BUTTON", "Control"},
+      {"edit", "EDIT", "Edit"},
+      {"listbox", "LISTBOX", "List"},
+      {"combobox", "COMBOBOX", "ComboBox"},
+      {"SysListView32", "SYSLISTVIEW32", "ListView"},
+      {"msctls_statusbar32", "MSCTLS_STATUSBAR32", "StatusBar"},
+      {"ToolbarWindow32", "TOOLBARWINDOW32", "ToolBar"},
+      {"msctls_progress32", "MSCTLS_PROGRESS32", "Progress"},
+      {"msctls_trackbar32", "MSCTLS_TRACKBAR32", "TrackBar"},
+      {"SysTabControl32", "SYSTABCONTROL32", "TabControl"},
+      {"SysTreeView32", "SYSTREEVIEW32", "TreeView"},
+      {"static", "syslistview32", ""},
+      {"Button", "scrollbar", ""},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.lower);
+    CHECK(rcFrameworkClass(row.lower, "0") == row.framework_class);
+    CHECK(rcFrameworkClass(row.upper, "0") == row.framework_class);
+  }
+  const struct {
+    const char *style, *framework_class;
+  } styles[] = {
+      {"BS_3STATE", "CheckBox"},       {"BS_AUTO3STATE", "CheckBox"},
+      {"BS_CHECKBOX | 1", "CheckBox"}, {"1 | BS_AUTOCHECKBOX", "CheckBox"},
+      {"BS_RADIOBUTTON", "Radio"},     {"BS_AUTORADIOBUTTON", "Radio"},
+      {"BS_PUSHBUTTON", "Control"},    {"BS_RADIOBUTTON | BS_3STATE", "CheckBox"},
+  };
+  for (const auto& row : styles) {
+    CAPTURE(row.style);
+    CHECK(rcFrameworkClass("BUTTON", row.style) == row.framework_class);
+  }
+}
+
+TEST_CASE("lines of a dialog") {
+  const std::string defines =
+      "#include \"resource.h\"\n#define IDC_NAME 101\n#define IDC_NAME 999\n"
+      "#define\tCM_CHECK\t103\t/* kept whole */\n#define IDC_ 104\n#define  IDC_A (100+5)\n"
+      " #define IDC_LATE 106\n#define IDOK 1\n";
+  const struct {
+    const char *line, *member, *id;  // no member: the line says nothing
+  } rows[] = {
+      {" CONTROL \"O, K\", IDOK, \"BUTTON\", BS_DEFPUSHBUTTON | WS_TABSTOP, 1, 1", "Control OK",
+       "IDOK"},
+      {" CONTROL \"Cancel\", IDCANCEL, \"button\", 0", "Control CANCEL", "IDCANCEL"},
+      {" CONTROL \"\", IDHELP, \"button\", 0", "Control HELP", "IDHELP"},
+      {" CONTROL \"\", IDHELP , \"button\", 0", "", ""},
+      {"\tCONTROL\t\"A \"\"quoted\"\", name\",IDC_NAME,\"edit\",ES_LEFT", "Edit NAME", "101"},
+      {" CONTROL \"\", CM_CHECK, \"BUTTON\", BS_CHECKBOX", "CheckBox CM_CHECK", "103"},
+      {" CONTROL \"\", IDC_, BUTTON, BS_AUTORADIOBUTTON", "Radio IDC_", "104"},
+      {" CONTROL \"\", IDC_A, BUTTON , BS_AUTORADIOBUTTON", "", ""},
+      {" CONTROL \"\", \"IDC_A\", \"listbox\", LBS_NOTIFY", "List A", "(100+5)"},
+      {" CONTROL \"\", IDC_LATE, \"edit\", 0", "", ""},
+      {" CONTROL \"\",\tIDC_NAME, \"edit\", 0", "", ""},
+      {" CONTROL \"\", 103, \"edit\", 0", "", ""},
+      {" CONTROL \"\", -1, \"edit\", 0", "", ""},
+      {" CONTROL \"\", IDC_NAME, \"static\", 0", "", ""},
+      {" CONTROL \"open, IDC_NAME, \"edit\", 1", "", ""},
+      {" PUSHBUTTON \"Typed\", IDC_NAME, 1, 1", "", ""},
+      {"CAPTION \"CONTROL\"", "", ""},
+      {" }", "", ""},
+      {"BEGIN", "", ""},
+      {"END", "", ""},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.line);
+    const Texts texts = textsOf(defines + "D DIALOG 1\n{\n" + row.line + "\n}\n");
+    const std::string member = row.member;
+    const std::string name = member.substr(member.find(' ') + 1);
+    CHECK(count(texts.header, "{\n  public :\n" + (member.empty() ? "" : "    " + member + " ;\n") +
+                                  "  public :\n") == 1);
+    CHECK(texts.implementation.starts_with(
+        "void rcD::rcInit()\n{\n" +
+        (member.empty() ? "" : "  " + name + ".Get(this, " + row.id + ") ;\n") + "}\n"));
+  }
+}
+
+TEST_CASE("dialogs that are none, or have no end") {
+  const Texts texts = textsOf(
+      "FIND_1033 DIALOG 0\n{\n}\nFIND DIALOGEX\n{\n}\nLOST DIALOGEX 0\n CONTROL \"\", IDOK, "
+      "edit\n");
+  CHECK(texts.header == "\n\n\n\n\n/*\nLOST()\n*/\nclass rcLOST : public Dialog\n{\n  public :\n");
+  CHECK(texts.implementation.empty());
+}
+
 TEST_CASE("language variants") {
   for (const char* name : {"MAIN_1033", "A_1036", "A_xx1x", "__xx0\xE9"}) {
     CAPTURE(name);
@@ -119,11 +191,13 @@ TEST_CASE("a full table takes no more") {
   const std::string defines = many(255, "#define IDC_A", " 7\n") + "#define IDC_LAST 8\n";
   const std::string edit = ", \"edit\", 0\n";
   const std::string script = defines + "M MENU\n" + many(255, "MENUITEM \"\", IDC_A", "\n") +
-                             "MENUITEM \"\", IDC_A3\n}\nD DIALOG 1\n" + "CONTROL \"\", IDC_LAST" +
-                             edit + many(255, "CONTROL \"\", IDC_A", edit) + "CONTROL \"\", IDOK" +
-                             edit + "}\nE DIALOG 1\nCONTROL \"\", IDOK" + edit + "}\n";
+                             "MENUITEM \"\", IDC_A3\n}\nD DIALOG 1\nMENU M\n" +
+                             "CONTROL \"\", IDC_LAST" + edit +
+                             many(255, "CONTROL \"\", IDC_A", edit) + "CONTROL \"\", IDOK" + edit +
+                             "}\nE DIALOG 1\nCONTROL \"\", IDOK" + edit + "}\n";
   const Texts texts = textsOf(script);
   CHECK(count(texts.header, "virtual void mnu") == 255);
+  CHECK(count(texts.header, "virtual int mnu") == 255);  // of the first dialog alone
   CHECK(count(texts.implementation, ".Get(this, 7)") == 255);
   CHECK(count(texts.implementation, ".Get(this, 8)") == 0);
   CHECK(count(texts.implementation, ".Get(this, IDOK)") == 1);

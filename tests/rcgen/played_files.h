@@ -23,20 +23,21 @@ class PlayedFiles : public RcFiles {
   // What each directory lists.
   std::map<std::string, std::vector<std::string>> scripts;
   std::map<std::string, std::vector<std::string>> directories;
-  bool endless = false;  // every directory holds two more
-  bool locked = false;   // nothing can be written
+  std::map<std::string, std::vector<std::string>> links;  // to directories
+  bool endless = false;                                   // every directory holds two more
+  bool locked = false;                                    // nothing can be written
   std::int64_t now = 100;
   std::string done;  // "read PATH", "write PATH", ...; a line each
 
   void put(const std::string& path, const std::string& text) { files[path] = {text, now}; }
   std::string takeDone() { return std::exchange(done, std::string()); }
 
-  void listFiles(const char* directory, const char* /*mask*/, Tableau<String>& names) override {
-    append(scripts[directory], names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
+  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
     note("list", directory);
-    append(endless ? std::vector<std::string>{"loop", "more"} : directories[directory], names);
+    add(DirectoryEntries::Kind::kFile, scripts[directory], entries);
+    add(DirectoryEntries::Kind::kDirectory,
+        endless ? std::vector<std::string>{"loop", "more"} : directories[directory], entries);
+    add(DirectoryEntries::Kind::kLink, links[directory], entries);
   }
   std::optional<RcFileStatus> status(const char* path) override {
     const auto found = files.find(path);
@@ -77,9 +78,10 @@ class PlayedFiles : public RcFiles {
 
  private:
   void note(const char* what, const char* path) { done += std::string(what) + ' ' + path + '\n'; }
-  static void append(const std::vector<std::string>& from, Tableau<String>& names) {
-    for (const std::string& name : from) {
-      names.append(new String(name.c_str()));
+  static void add(DirectoryEntries::Kind kind, const std::vector<std::string>& names,
+                  DirectoryEntries& entries) {
+    for (const std::string& name : names) {
+      entries.add(kind, name);
     }
   }
 };

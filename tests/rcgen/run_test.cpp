@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <optional>
 #include <string>
@@ -15,6 +13,7 @@
 #include "addon/rcgen/class_unit.h"
 #include "addon/rcgen/version_stamp.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/rcgen/played_files.h"
 #include "tests/rcgen/text_count.h"
 
@@ -24,11 +23,6 @@ namespace {
 
 constexpr GeneratorSwitches kClasses = {true, false};
 constexpr GeneratorSwitches kVersions = {false, true};
-
-std::string contents(const char* path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 std::string ran(PlayedFiles& files, GeneratorSwitches switches, std::int32_t& build_number) {
   files.takeDone();
@@ -94,6 +88,7 @@ TEST_CASE("units are made in order, each when something of its own changed") {
   PlayedFiles files;
   std::int32_t build_number = 0;
   files.directories["P"] = {".", "..", "src", "res"};
+  files.links["P"] = {"link"};
   files.directories["P\\src"] = {"deeper"};
   files.scripts["P"] = {"a.rc", ".b.rc"};
   files.scripts["P\\res"] = {"c.rc", "d.rc"};
@@ -103,8 +98,9 @@ TEST_CASE("units are made in order, each when something of its own changed") {
 
   CHECK(ran(files, {false, false}, build_number).empty());
   CHECK(ran(files, kClasses, build_number) ==
-        "list P\n" + written("P\\src\\rcsrc") + "read P\\res\\c.rc\nread P\\res\\d.rc\n" +
-            written("P\\res\\rcres") + "read P\\a.rc\n" + written("P\\rc"));
+        "list P\nlist P\\src\n" + written("P\\src\\rcsrc") +
+            "list P\\res\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres") +
+            "read P\\a.rc\n" + written("P\\rc"));
   const std::string& header = files.files["P\\res\\rcres.h"].text;
   CHECK(header.find("class rcC ") < header.find("class rcD "));
   CHECK(header.ends_with("\n#endif\n"));
@@ -113,18 +109,19 @@ TEST_CASE("units are made in order, each when something of its own changed") {
   CHECK(files.files["P\\rc.cpp"].text.ends_with("}\n\n\nRCRCMAIN\n\n"));
   CHECK(files.files["P\\res\\rcres.cpp"].text.find("RCRCMAIN") == std::string::npos);
 
-  CHECK(ran(files, kClasses, build_number) == "list P\n");
+  const std::string listed = "list P\nlist P\\src\nlist P\\res\n";
+  CHECK(ran(files, kClasses, build_number) == listed);
 
   files.now = 101;
   files.put("P\\res\\d.rc", "E DIALOG 1\n}\n");
   CHECK(ran(files, kClasses, build_number) ==
-        "list P\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
+        listed + "read P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
 
   // A script that cannot be had is left out, and asks for its unit every time.
   files.files.erase("P\\res\\d.rc");
   for (int i = 0; i < 2; ++i) {
     CHECK(ran(files, kClasses, build_number) ==
-          "list P\nread P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
+          listed + "read P\\res\\c.rc\nread P\\res\\d.rc\n" + written("P\\res\\rcres"));
   }
   CHECK(files.files["P\\res\\rcres.h"].text.find("class rcE") == std::string::npos);
   CHECK(build_number == 0);
@@ -132,9 +129,9 @@ TEST_CASE("units are made in order, each when something of its own changed") {
 
 TEST_CASE("a version resource is stamped as written out") {
   std::int32_t build_number = 1;
-  const std::string source = contents(TEST_DATA_DIR "/rcgen/data/resource.version");
-  CHECK(stampVersion(source, build_number) ==
-        contents(TEST_DATA_DIR "/rcgen/data/resource.stamped"));
+  const std::string source = tests::contents(TEST_DATA_DIR "/rcgen/data/resource.version");
+  tests::checkFile(TEST_DATA_DIR "/rcgen/data/resource.stamped",
+                   stampVersion(source, build_number));
   CHECK(build_number == 44);
 }
 
@@ -159,6 +156,7 @@ TEST_CASE("lines and numbers of a version resource") {
        std::numeric_limits<std::int32_t>::min()},
       {"FILEVERSION 1,2,3,-5", "FILEVERSION 1, 2, 3, -4\n", -6, -4},
       {"FILEVERSION 1,2,3,6", "FILEVERSION 1, 2, 3, 7\n", 6, 7},
+      {"FILEVERSION \t3,\t4, \t5,\t6", "FILEVERSION 3, 4, 5, 7\n", 6, 7},
       {"FILEVERSION -,2,3,6", "FILEVERSION 1, 0, 0, 7\n", 6, 7},
       {"FILEVERSION 3,-x", "FILEVERSION 3, 0, 0, 7\n", 6, 7},
   };
@@ -175,6 +173,7 @@ TEST_CASE("the version files of a tree") {
   std::int32_t build_number = 0;
   files.directories["P"] = {".", "..", "a", "b"};
   files.directories["P\\a"] = {".", "..", "c"};
+  files.links["P\\a"] = {"link"};
   files.put("P\\VERSION.RC", "FILEVERSION 1,0,0,41\n");
   files.put("P\\a\\VERSION.RC", "FILEVERSION 1,0,0,2\n");
   files.put("P\\a\\c\\VERSION.RC", "FILEVERSION 1,0,0,5\n");
@@ -207,6 +206,14 @@ TEST_CASE("the version files of a tree") {
   files.directories["P\\a\\c\\VERSION.RC"] = {};
   CHECK(ran(files, kVersions, build_number).find("c\\VERSION.BAK") == std::string::npos);
   CHECK(build_number == 45);
+
+  // Who ends it leaves the directories that it came through as they are.
+  class : public WalkWatch {
+    bool goOn(int directories, int /*files*/) override { return directories < 3; }
+  } watch;
+  files.takeDone();
+  runGenerator(files, "P", kVersions, build_number, &watch);
+  CHECK(files.takeDone() == "list P\nlist P\\a\n");
 }
 
 TEST_CASE("directories without end") {

@@ -161,6 +161,17 @@ TEST_CASE("columns break at every multiple of the menu size") {
   }
 }
 
+TEST_CASE("recent files beyond their ids are left out") {
+  kesto::RecentList list(300, 300);
+  list.assign(std::vector<std::string>(300, "x"));
+  kesto::BarMenuContent content;
+  content.projects = content.headers = &list;
+  const kesto::BarMenuPlan plan = planBarMenu(content);
+  CHECK(plan.popups[1].items[99].id == 299);
+  CHECK(plan.popups[1].items[100].kind == kesto::BarItem::Kind::kSeparator);
+  CHECK(plan.popups[2].items.size() == 200);
+}
+
 TEST_CASE("wide and deep projects end where the ids do") {
   std::vector<Row> wide;
   std::vector<Row> deep;

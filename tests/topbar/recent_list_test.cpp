@@ -52,6 +52,7 @@ TEST_CASE("operations on a list of recent files") {
       {"removed", {"a", "b", "c"}, 4, kRemove, "b", {"a", "c"}},
       {"removed in another case: no", {"a", "b"}, 4, kRemove, "B", {"a", "b"}},
       {"a lower maximum cuts", {"a", "b", "c"}, 4, kMaximum, "1", {"a"}},
+      {"more than there is room for", {"a", "b", "c"}, 2, kRemove, "x", {"a", "b"}},
       {"a higher one does not", {"a", "b", "c"}, 3, kMaximum, "4", {"a", "b", "c"}},
   };
   for (const auto& row : rows) {

@@ -11,7 +11,6 @@ using namespace std::string_literals;
 using workbench::Document;
 using workbench::DocumentChange;
 using workbench::DocumentListener;
-using workbench::LineEnd;
 using workbench::Place;
 
 namespace {
@@ -44,25 +43,20 @@ TEST_CASE("a text is given back byte for byte") {
   const struct {
     std::string text;
     int lines;
-    LineEnd prevailing;
+    std::string_view new_end;
   } cases[] = {
-      {"", 1, LineEnd::kCrLf},
-      {"one", 1, LineEnd::kCrLf},
-      {"one\r\n", 2, LineEnd::kCrLf},
-      {"a\nb\nc\r\n", 4, LineEnd::kLf},
-      {"a\rb\rc\n", 4, LineEnd::kCr},
-      {"a\nb\r\n", 3, LineEnd::kCrLf},
-      {"a\rb\nc", 3, LineEnd::kLf},
-      {"\r\r\n\n\r", 5, LineEnd::kCr},
-      {"nul\0\xE9\xFF\x1A\n"s, 2, LineEnd::kLf},
+      {"", 1, "\r\n"},          {"one", 1, "\r\n"},      {"one\r\n", 2, "\r\n"},
+      {"a\nb\nc\r\n", 4, "\n"}, {"a\rb\rc\n", 4, "\r"},  {"a\nb\r\n", 3, "\r\n"},
+      {"a\rb\nc", 3, "\n"},     {"\r\r\n\n\r", 5, "\r"}, {"nul\0\xE9\xFF\x1A\n"s, 2, "\n"},
   };
   for (const auto& each : cases) {
     CAPTURE(each.text);
-    const Document document = documentOf(each.text);
+    Document document = documentOf(each.text);
     CHECK(document.bytes() == each.text);
     CHECK(document.lineCount() == each.lines);
-    CHECK(document.prevailingEnd() == each.prevailing);
     CHECK_FALSE(document.modified());
+    document.insert({0, 0}, "\n");
+    CHECK(document.bytes() == std::string(each.new_end) + each.text);
   }
 }
 
@@ -124,24 +118,22 @@ TEST_CASE("a run of typing is one step, and a moved caret or another kind of edi
   document.erase({0, 2}, {0, 3}, Document::Edit::kErasing);
   CHECK(document.bytes() == "xa\r\ndefg");
 
+  // Forwards, each at the same place; the caret comes back behind what was erased.
+  document.breakRun();
+  document.erase({1, 0}, {1, 1}, Document::Edit::kErasing);
+  document.erase({1, 0}, {1, 1}, Document::Edit::kErasing);
+  CHECK(document.bytes() == "xa\r\nfg");
   Place caret;
+  CHECK(document.undo(&caret));
+  CHECK(document.bytes() == "xa\r\ndefg");
+  CHECK(caret == Place{1, 2});
+
   std::vector<std::string> seen;
   while (document.undo(&caret)) {
     seen.push_back(document.bytes());
   }
   CHECK(seen ==
         std::vector<std::string>{"xabc\r\ndefg", "abc\r\ndefg", "abc\r\nde", "abc\r\n", "abc", ""});
-}
-
-TEST_CASE("erasing forwards and backwards each make a run") {
-  Document document = documentOf("abcdef");
-  document.erase({0, 1}, {0, 2}, Document::Edit::kErasing);
-  document.erase({0, 1}, {0, 2}, Document::Edit::kErasing);
-  CHECK(document.bytes() == "adef");
-  Place caret;
-  CHECK(document.undo(&caret));
-  CHECK(document.bytes() == "abcdef");
-  CHECK(caret == Place{0, 3});
 }
 
 TEST_CASE("a text undone or redone to the saved point is clean again") {

@@ -101,6 +101,21 @@ class Desk {
   EditorWindow* editor = nullptr;
 };
 
+// A key, or text as it is typed.
+struct Stroke {
+  WPARAM key;
+  bool shift, control;
+  std::string text;
+};
+
+Stroke key(WPARAM code, bool shift = false, bool control = false) {
+  return {code, shift, control, ""};
+}
+
+Stroke typed(const char* text) {
+  return {0, false, false, text};
+}
+
 const std::string kOnDisk = "first\r\nsecond word\r\nthird\r\n";
 
 }  // namespace
@@ -108,101 +123,45 @@ const std::string kOnDisk = "first\r\nsecond word\r\nthird\r\n";
 TEST_CASE("keys edit the text") {
   const struct {
     std::string before;
-    void (*work)(Desk&);
+    Place from, to;  // what is selected, or where the caret stands, from 0
+    std::vector<Stroke> strokes;
     std::string after;
     std::string place;
   } cases[] = {
-      {"",
-       [](Desk& d) {
-         d.keys(
-             "ab\x01\x1B"
-             "c");
-       },
-       "abc", "1:4"},
-      {"\t  x",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.keys("\ry");
-       },
-       "\t  x\r\n\t  y", "2:5"},
-      {"  x",
-       [](Desk& d) {
-         d.editor->setCaret(1, 2);
-         d.keys("\r");
-       },
-       " \r\n  x", "2:2"},
-      {"ab\ncd",
-       [](Desk& d) {
-         d.editor->setCaret(2, 1);
-         d.press(VK_BACK);
-       },
-       "abcd", "1:3"},
-      {"ab\ncd",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.press(VK_DELETE);
-       },
-       "abcd", "1:3"},
-      {"one two", [](Desk& d) { d.press(VK_DELETE, false, true); }, "two", "1:1"},
-      {"one two",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.press(VK_BACK, false, true);
-       },
-       "one ", "1:5"},
-      {"abc",
-       [](Desk& d) {
-         d.press(VK_INSERT);
-         d.keys("xy");
-         d.press(VK_INSERT);
-         d.keys("z");
-       },
-       "xyzc", "1:4"},
-      {"ab",
-       [](Desk& d) {
-         d.editor->setCaret(1, 5);
-         d.keys("c");
-       },
-       "ab  c", "1:6"},
-      {"a\nb\nc",
-       [](Desk& d) {
-         d.editor->select(1, 1, 3, 1);
-         d.keys("\t");
-       },
-       "\ta\r\n\tb\r\nc", "3:1"},
+      {"", {}, {}, {typed("ab\x01\x1B"), typed("c")}, "abc", "1:4"},
+      {"\t  x", {}, {}, {key(VK_END), typed("\ry")}, "\t  x\r\n\t  y", "2:5"},
+      {"  x", {0, 1}, {0, 1}, {typed("\r")}, " \r\n  x", "2:2"},
+      {"ab\ncd", {1, 0}, {1, 0}, {key(VK_BACK)}, "abcd", "1:3"},
+      {"ab\ncd", {}, {}, {key(VK_END), key(VK_DELETE)}, "abcd", "1:3"},
+      {"one two", {}, {}, {key(VK_DELETE, false, true)}, "two", "1:1"},
+      {"one two", {}, {}, {key(VK_END), key(VK_BACK, false, true)}, "one ", "1:5"},
+      {"abc", {}, {}, {key(VK_INSERT), typed("xy"), key(VK_INSERT), typed("z")}, "xyzc", "1:4"},
+      {"ab", {0, 4}, {0, 4}, {typed("c")}, "ab  c", "1:6"},
+      {"a\nb\nc", {0, 0}, {2, 0}, {typed("\t")}, "\ta\r\n\tb\r\nc", "3:1"},
       // A vertical move remembers the cell it came from.
-      {"abcd\na\nabcd",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.press(VK_DOWN);
-         d.press(VK_DOWN);
-       },
-       "abcd\r\na\r\nabcd", "3:5"},
-      {"  ab",
-       [](Desk& d) {
-         d.press(VK_END);
-         d.press(VK_HOME);
-       },
-       "  ab", "1:3"},
-      {"a\nb",
-       [](Desk& d) {
-         d.press(VK_END, false, true);
-         d.keys("!");
-       },
-       "a\r\nb!", "2:3"},
-      {"one two",
-       [](Desk& d) {
-         d.press(VK_RIGHT, true, true);
-         d.press(VK_DELETE);
-       },
-       "two", "1:1"},
+      {"abc\na\nabc", {}, {}, {key(VK_END), key(VK_DOWN), key(VK_DOWN)}, "abc\r\na\r\nabc", "3:4"},
+      {"  ab", {}, {}, {key(VK_END), key(VK_HOME)}, "  ab", "1:3"},
+      {"a\nb", {}, {}, {key(VK_END, false, true), typed("!")}, "a\r\nb!", "2:3"},
+      {"one two", {}, {}, {key(VK_RIGHT, true, true), key(VK_DELETE)}, "two", "1:1"},
   };
   Desk desk;
   for (const auto& each : cases) {
     CAPTURE(each.before);
     CAPTURE(each.after);
     desk.setText(each.before);
-    each.work(desk);
+    // Only the caret may stand beyond a line's end.
+    if (each.from == each.to) {
+      desk.editor->setCaret(each.from.line + 1, each.from.column + 1);
+    } else {
+      desk.editor->select(each.from.line + 1, each.from.column + 1, each.to.line + 1,
+                          each.to.column + 1);
+    }
+    for (const Stroke& stroke : each.strokes) {
+      desk.keys(stroke.text);
+      if (stroke.key != 0) {
+        desk.press(stroke.key, stroke.shift, stroke.control);
+      }
+    }
     CHECK(desk.editor->text() == each.after);
     CHECK(desk.place() == each.place);
   }

@@ -9,7 +9,6 @@ using workbench::ansiFromUtf8;
 using workbench::Event;
 using workbench::EventLog;
 using workbench::jsonString;
-using workbench::utf8FromAnsi;
 
 TEST_CASE("Windows-1252 becomes UTF-8 and comes back") {
   const struct {
@@ -25,7 +24,7 @@ TEST_CASE("Windows-1252 becomes UTF-8 and comes back") {
   };
   for (const auto& row : rows) {
     CAPTURE(std::string(row.utf8));
-    CHECK(utf8FromAnsi(row.ansi) == row.utf8);
+    CHECK(jsonString(row.ansi) == '"' + std::string(row.utf8) + '"');
     std::string back;
     CHECK(ansiFromUtf8(row.utf8, &back));
     CHECK(back == row.ansi);
@@ -61,7 +60,8 @@ TEST_CASE("A JSON string is escaped") {
       {"", R"("")"},
       {R"(C:\a "b")", R"("C:\\a \"b\"")"},
       {"a\tb\r\n\b\f", R"("a\tb\r\n\b\f")"},
-      {std::string("\0\x1F\x7F", 3), R"("\u0000\u001f\u007f")"},
+      {std::string("\0\1\x0B\x10\x1A\x1F\x7F", 7),
+       R"("\u0000\u0001\u000b\u0010\u001a\u001f\u007f")"},
       {"a/\xE9", "\"a/\xC3\xA9\""},
   };
   for (const auto& row : rows) {

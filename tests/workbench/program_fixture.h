@@ -72,8 +72,8 @@ class Program {
 
   void close() {
     if (application.frame() != nullptr) {
-      application.frameClosing();
-      DestroyWindow(application.frame());
+      PostQuitMessage(0);
+      application.run();
       UnregisterClassA(ideapi::kFrameClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorTextClass, GetModuleHandleA(nullptr));

@@ -1,10 +1,10 @@
 #include "workbench/project/project_file.h"
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "workbench/project/project.h"
 
 using namespace workbench;
@@ -14,16 +14,7 @@ namespace {
 constexpr char kFolder[] = "C:\\work\\app";
 
 std::string dataFile(const std::string& name) {
-  const std::string path = std::string(TEST_DATA_DIR) + "/workbench/data/" + name;
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  REQUIRE(file != nullptr);
-  std::string bytes;
-  char buffer[4096];
-  for (std::size_t got = 0; (got = std::fread(buffer, 1, sizeof buffer, file)) > 0;) {
-    bytes.append(buffer, got);
-  }
-  std::fclose(file);
-  return bytes;
+  return tests::contents(std::string(TEST_DATA_DIR) + "/workbench/data/" + name);
 }
 
 ProjectTree readGood(const std::string& bytes) {

@@ -1,11 +1,26 @@
 #include "workbench/app/application.h"
 
+#include <cstring>
+
 #include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
-#include "workbench/windows/names.h"
+#include "workbench/windows/message_box.h"
 #include "workbench/windows/path_text.h"
 
 namespace workbench {
+namespace {
+
+BOOL CALLBACK takeBar(HWND window, LPARAM data) {
+  char name[8] = "";
+  GetClassNameA(window, name, sizeof name);
+  if (std::strcmp(name, "KADO") != 0) {
+    return TRUE;
+  }
+  *reinterpret_cast<HWND*>(data) = window;
+  return FALSE;
+}
+
+}  // namespace
 
 Application::Application()
     : editors_(store_, settings_),
@@ -57,6 +72,12 @@ void Application::showTools() {
   frame_.setTools(items);
 }
 
+HWND Application::addonBar() {
+  HWND bar = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), takeBar, reinterpret_cast<LPARAM>(&bar));
+  return bar;
+}
+
 int Application::run() {
   const int code = frame_.run();
   // A script may end the loop with the frame still there.
@@ -64,6 +85,8 @@ int Application::run() {
     frameClosing();
     DestroyWindow(frame_.window());
   }
+  // Calls of the add-on that were under way as it was shut down have returned by now.
+  root_.reportLeaks();
   return code;
 }
 
@@ -78,7 +101,6 @@ void Application::frameClosing() {
   root_.project().setView(nullptr);
   addon_.shutDown();
   root_.tools().setMenuListener({});
-  root_.reportLeaks();
 }
 
 void Application::showError(const std::string& text) {
@@ -86,7 +108,7 @@ void Application::showError(const std::string& text) {
 }
 
 int Application::ask(const std::string& text, UINT buttons) {
-  return MessageBoxA(frame_.window(), text.c_str(), kProgramCaption, buttons);
+  return showBox(frame_.window(), text, buttons);
 }
 
 std::string Application::projectDirectory() {

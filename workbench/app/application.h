@@ -77,7 +77,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
-  HWND addonBar() override { return FindWindowA("KADO", nullptr); }
+  HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;
   void renameFromWindow(unsigned int node, const std::string& name) override;
@@ -123,7 +123,7 @@ class Application final : public Workbench,
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
-  bool editCommand(int id, EditorChild* child);
+  void editCommand(int id, EditorChild* child);
   bool windowCommand(int id, EditorChild* child);
   bool projectCommand(int id);
   bool nodeCommand(int id);

@@ -101,13 +101,13 @@ bool Application::fileCommand(int id, EditorChild* child) {
       }
       return true;
     case CM_FILE_SAVE:
-      if (child != nullptr && child->save()) {
-        setStatus("Saved " + child->file());
-      }
-      return true;
     case CM_FILE_SAVE_AS:
-      if (child != nullptr && editors_.saveAs(child->openFile())) {
-        setStatus("Saved " + child->file());
+      if (child != nullptr) {
+        // Its editors may be gone when a box has been answered.
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        if (id == CM_FILE_SAVE ? editors_.save(*file) : editors_.saveAs(*file)) {
+          setStatus("Saved " + file->path);
+        }
       }
       return true;
     case CM_FILE_SAVE_ALL:
@@ -115,7 +115,8 @@ bool Application::fileCommand(int id, EditorChild* child) {
       return true;
     case CM_FILE_RELOAD:
       if (child != nullptr) {
-        editors_.reload(child->openFile());
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        editors_.reload(*file);
       }
       return true;
     case CM_FILE_CLOSE:
@@ -143,30 +144,30 @@ void Application::saveAll() {
   }
 }
 
-bool Application::editCommand(int id, EditorChild* child) {
+void Application::editCommand(int id, EditorChild* child) {
   TextWindow& text = child->textView();
   switch (id) {
     case CM_EDIT_UNDO:
       text.undo();
-      return true;
+      break;
     case CM_EDIT_REDO:
       text.redo();
-      return true;
+      break;
     case CM_EDIT_CUT:
       text.cut();
-      return true;
+      break;
     case CM_EDIT_COPY:
       text.copy();
-      return true;
+      break;
     case CM_EDIT_PASTE:
       text.paste();
-      return true;
+      break;
     case CM_EDIT_DELETE:
       text.clear();
-      return true;
+      break;
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
-      return true;
+      break;
     case CM_EDIT_FIND: {
       const std::string selected = child->selection();
       if (!selected.empty() && selected.size() < 256 &&
@@ -176,25 +177,28 @@ bool Application::editCommand(int id, EditorChild* child) {
       if (askFind(frame_.window(), &find_)) {
         findNext(find_.backward);
       }
-      return true;
+      break;
     }
     case CM_EDIT_FIND_NEXT:
       findNext(find_.backward);
-      return true;
+      break;
     case CM_EDIT_FIND_PREVIOUS:
       findNext(!find_.backward);
-      return true;
+      break;
     case CM_EDIT_GO_TO_LINE:
       goToLine(*child);
-      return true;
+      break;
     default:
-      return false;
+      break;
   }
 }
 
 void Application::findNext(bool backward) {
+  if (editors_.active() == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
+    return;
+  }
   EditorChild* child = editors_.active();
-  if (child == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
+  if (child == nullptr) {
     return;
   }
   if (!child->textView().findText(fromAnsi(find_.text, child->openFile().document.encoding()),
@@ -206,8 +210,12 @@ void Application::findNext(bool backward) {
 
 void Application::goToLine(EditorChild& child) {
   int line = child.textView().caret().line + 1;
-  if (askLine(frame_.window(), child.openFile().document.lineCount(), &line)) {
-    child.setCaret(line, 1);
+  const unsigned int handle = child.handle();
+  if (!askLine(frame_.window(), child.openFile().document.lineCount(), &line)) {
+    return;
+  }
+  if (EditorChild* asked = editors_.byHandle(handle)) {
+    asked->setCaret(line, 1);
   }
 }
 
@@ -284,8 +292,9 @@ void Application::openProjectFile() {
       files.push_back(node->name);
     }
   }
+  const std::string folder = project_.folder();
   std::string path;
-  if (hasProject() && askProjectFile(frame_.window(), project_.folder(), files, &path)) {
+  if (hasProject() && askProjectFile(frame_.window(), folder, files, &path)) {
     editFile(path, 0);
   }
 }

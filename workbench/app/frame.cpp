@@ -93,15 +93,17 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
       }
       return 0;
     case WM_QUERYENDSESSION:
-      return handler_.mayCloseFrame() ? TRUE : FALSE;
+      return mayClose() ? TRUE : FALSE;
     case WM_ENDSESSION:
-      if (w != 0 && !closing_) {
-        closing_ = true;
-        handler_.frameClosing();
+      if (w != 0) {
+        close();
       }
       return 0;
     case WM_CLOSE:
-      close();
+      // Disabled means that a box or dialog waits to be answered first.
+      if (IsWindowEnabled(window_) != 0 && mayClose()) {
+        close();
+      }
       return 0;
     case WM_DESTROY:
       PostQuitMessage(0);
@@ -119,9 +121,19 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
   return DefFrameProcA(window_, mdi_client_, message, w, l);
 }
 
+bool Frame::mayClose() {
+  // While it is being asked, the question on the screen counts.
+  if (closing_ || asking_) {
+    return closing_;
+  }
+  asking_ = true;
+  const bool may = handler_.mayCloseFrame();
+  asking_ = false;
+  return may;
+}
+
 void Frame::close() {
-  // Disabled means that a box is up, perhaps the very question about closing.
-  if (closing_ || IsWindowEnabled(window_) == 0 || !handler_.mayCloseFrame()) {
+  if (closing_) {
     return;
   }
   closing_ = true;

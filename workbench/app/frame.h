@@ -10,6 +10,7 @@
 
 #include "workbench/app/status_bar.h"
 #include "workbench/windows/handles.h"
+#include "workbench/windows/topmost_order.h"
 
 namespace workbench {
 
@@ -58,6 +59,9 @@ class Frame {
   bool createClient();
   void layOut();
   void enableItems(HMENU menu);
+  // Asks what has to be asked before the program may end.
+  bool mayClose();
+  // Ends the program, from within whatever menu, box or dialog is open.
   void close();
 
   FrameHandler& handler_;
@@ -67,7 +71,9 @@ class Frame {
   HMENU window_menu_ = nullptr;  // the menu bar's
   HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
+  TopmostOrder topmost_order_;
   OwnedAccelerators accelerators_;
+  bool asking_ = false;
   bool closing_ = false;
 };
 

@@ -53,6 +53,9 @@ bool Application::startMake() {
       editBuild();
     }
   }
+  if (!project_.loaded()) {
+    return false;
+  }
   if (project_.build().empty()) {
     makeStarted("");
     makeEnded(kMakeNotRun);

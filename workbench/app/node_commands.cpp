@@ -83,7 +83,7 @@ unsigned int Application::parentForNew() const {
 
 void Application::addFiles() {
   std::vector<std::string> paths;
-  if (!askOpenNames(frame_.window(), project_.folder(), &paths)) {
+  if (!askOpenNames(frame_.window(), project_.folder(), &paths) || !hasProject()) {
     return;
   }
   const unsigned int parent = parentForNew();
@@ -99,7 +99,7 @@ void Application::addFiles() {
 void Application::addContainer() {
   NodeFields fields;
   fields.type = "Group";
-  if (!askNode(frame_.window(), true, &fields)) {
+  if (!askNode(frame_.window(), true, &fields) || !hasProject()) {
     return;
   }
   // Targets stand at the top, groups where one is.
@@ -158,7 +158,8 @@ void Application::editSelected() {
 
 void Application::editBuild() {
   std::string command = project_.build();
-  if (askBuild(frame_.window(), &command)) {
+  const std::string file = project_.file();
+  if (askBuild(frame_.window(), &command) && project_.file() == file) {
     project_.setBuild(command);
   }
 }

@@ -147,7 +147,15 @@ class OptionsDialog final : public Dialog {
 
   bool accept() override {
     for (std::size_t i = 0; i < topics_.size(); ++i) {
-      if (windows_[i] != nullptr && topics_[i].page->Validate(windows_[i]) == 0) {
+      if (windows_[i] == nullptr) {
+        continue;
+      }
+      const bool valid = topics_[i].page->Validate(windows_[i]) != 0;
+      // A page may show a box, and the program may close behind it.
+      if (IsWindow(window()) == 0) {
+        return false;
+      }
+      if (!valid) {
         SendMessageA(item(IDC_OPTIONS_TOPICS), LB_SETCURSEL, i, 0);
         show(i);
         return false;

@@ -55,6 +55,9 @@ bool Application::readProject(const std::string& file, ProjectTree* tree, FileSt
         store_, file, &read,
         [this](const std::string& text, UINT buttons) { return ask(text, buttons); }, &bytes,
         leftover);
+    if (closed_) {
+      return false;
+    }
   }
   if (fault != FileFault::kNone) {
     showError(describeFault(fault, file));
@@ -158,6 +161,10 @@ bool Application::saveProject() {
   if (now.exists && !now.sameContent(project_stamp_) &&
       ask(file + " was written by another program.\n\nOverwrite it?",
           MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
+    return false;
+  }
+  // While it was asked the project may have closed, or given way to another.
+  if (project_.file() != file) {
     return false;
   }
   const FileFault fault =

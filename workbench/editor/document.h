@@ -72,8 +72,6 @@ class Document {
   int lineCount() const { return static_cast<int>(lines_.size()); }
   const std::string& line(int index) const { return lines_[static_cast<std::size_t>(index)].text; }
   LineEnd lineEnd(int index) const { return lines_[static_cast<std::size_t>(index)].end; }
-  // What a new line ends with: the end most lines have, CR LF in a text without one.
-  LineEnd prevailingEnd() const { return prevailing_; }
   Place endPlace() const;
   Place clamp(Place place) const;
   // The text between two places with its line ends.
@@ -133,6 +131,7 @@ class Document {
   std::vector<TextLine> lines_;
   Encoding encoding_ = Encoding::kAnsi;
   bool marked_ = false;
+  // What a new line ends with: the end most lines have, CR LF in a text without one.
   LineEnd prevailing_ = LineEnd::kCrLf;
   std::vector<Step> steps_;
   std::size_t position_ = 0;  // steps before it are done, those from it on undone

@@ -44,11 +44,14 @@ LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
         host_.childActivated(*this);
       }
       break;
-    case WM_CLOSE:
-      if (!host_.mayClose(*this)) {
+    case WM_CLOSE: {
+      const HWND closing = window();
+      // The whole program may have closed by the answer, and this editor with it.
+      if (!host_.mayClose(*this) || IsWindow(closing) == 0) {
         return 0;
       }
       break;
+    }
     default:
       break;
   }

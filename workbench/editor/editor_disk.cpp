@@ -87,7 +87,10 @@ void EditorSet::checkDisk(bool patiently) {
   }
   checking_ = true;
   for (const auto& file : files()) {
-    checkOnDisk(*file, patiently);
+    // A question about one may have closed others.
+    if (!viewsOf(*file).empty()) {
+      checkOnDisk(*file, patiently);
+    }
   }
   checking_ = false;
 }
@@ -125,7 +128,8 @@ void EditorSet::reload(OpenFile& file) {
 }
 
 void EditorSet::askToReload(OpenFile& file, const char* question) {
-  if (ask(file.path + question + "changes made here?", MB_YESNO | MB_ICONQUESTION) == IDYES) {
+  if (ask(file.path + question + "changes made here?", MB_YESNO | MB_ICONQUESTION) == IDYES &&
+      !viewsOf(file).empty()) {
     readAgain(file);
   }
 }

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "workbench/windows/file_dialogs.h"
-#include "workbench/windows/names.h"
+#include "workbench/windows/message_box.h"
 #include "workbench/windows/path_text.h"
 
 namespace workbench {
@@ -16,10 +16,15 @@ void EditorSet::attach(HWND frame, HWND mdi_client, HINSTANCE instance) {
 }
 
 int EditorSet::ask(const std::string& text, UINT buttons) {
-  return MessageBoxA(frame_, text.c_str(), kProgramCaption, buttons);
+  return showBox(frame_, text, buttons);
 }
 
 EditorChild* EditorSet::find(const std::string& path) const {
+  // Mostly none has it, which is known without asking the system for its windows.
+  if (std::none_of(children_.begin(), children_.end(),
+                   [&](const auto& child) { return samePath(child->file(), path); })) {
+    return nullptr;
+  }
   // The MDI client lists its children from the top one down.
   for (HWND window = GetWindow(mdi_client_, GW_CHILD); window != nullptr;
        window = GetWindow(window, GW_HWNDNEXT)) {
@@ -98,8 +103,15 @@ EditorChild* EditorSet::open(const std::string& path) {
     ask(describeFault(fault, path), MB_OK | MB_ICONERROR);
     return nullptr;
   }
-  // A question may have gone on for long.
-  if (EditorChild* child = find(path)) {
+  return showAnswered(file);
+}
+
+// Shows the file after a question, which may have gone on for long.
+EditorChild* EditorSet::showAnswered(const std::shared_ptr<OpenFile>& file) {
+  if (IsWindow(mdi_client_) == 0) {
+    return nullptr;
+  }
+  if (EditorChild* child = find(file->path)) {
     bringForward(*child);
     return child;
   }
@@ -116,7 +128,7 @@ EditorChild* EditorSet::openOrStart(const std::string& path) {
   auto file = std::make_shared<OpenFile>();
   file->path = path;
   offerLeftovers(*file);
-  return show(file);
+  return showAnswered(file);
 }
 
 EditorChild* EditorSet::create(const std::string& folder) {
@@ -193,12 +205,10 @@ bool EditorSet::askToSaveAll() {
   return true;
 }
 
-bool EditorSet::closeAll() {
-  if (!askToSaveAll()) {
-    return false;
+void EditorSet::closeAll() {
+  if (askToSaveAll()) {
+    destroyAll();
   }
-  destroyAll();
-  return true;
 }
 
 void EditorSet::destroyAll() {
@@ -211,8 +221,15 @@ void EditorSet::destroyAll() {
   }
 }
 
+bool EditorSet::saveChild(EditorChild& child) {
+  // The editor may go while a box is up.
+  const std::shared_ptr<OpenFile> file = child.sharedFile();
+  return save(*file);
+}
+
 bool EditorSet::mayClose(EditorChild& child) {
-  return viewsOf(child.openFile()).size() > 1 || askToSave(child.openFile());
+  const std::shared_ptr<OpenFile> file = child.sharedFile();
+  return viewsOf(*file).size() > 1 || askToSave(*file);
 }
 
 void EditorSet::childGone(EditorChild& child) {

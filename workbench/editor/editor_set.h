@@ -40,7 +40,8 @@ class EditorSet final : public EditorChildHost {
   EditorChild* newView(EditorChild& child);
   void bringForward(EditorChild& child);
 
-  // False when the file could not be written or the user chose not to.
+  // False when the file could not be written or the user chose not to. These ask: the
+  // caller keeps the file, and its editors may be gone afterwards.
   bool save(OpenFile& file);
   bool saveAs(OpenFile& file);
   // Saves every modified file; false when one could not be. Names are appended.
@@ -48,19 +49,19 @@ class EditorSet final : public EditorChildHost {
   // Asks about every modified file; false when the user cancelled or a save failed.
   bool askToSaveAll();
   // Asks, then closes every editor.
-  bool closeAll();
+  void closeAll();
   // Closes every editor as it is.
   void destroyAll();
   // Reads again what other programs changed, or asks where there are changes here too.
   // Patiently: a file that has just gone may come back.
   void checkDisk(bool patiently);
-  // Reads the file again; asks when there are changes.
+  // Reads the file again; asks when there are changes, so the caller keeps the file.
   void reload(OpenFile& file);
   void settingsChanged();
   const std::vector<std::unique_ptr<EditorChild>>& all() const { return children_; }
 
   bool mayClose(EditorChild& child) override;
-  bool saveChild(EditorChild& child) override { return save(child.openFile()); }
+  bool saveChild(EditorChild& child) override;
   void childGone(EditorChild& child) override;
   void childActivated(EditorChild& child) override;
   void childChanged(EditorChild& child) override;
@@ -68,6 +69,7 @@ class EditorSet final : public EditorChildHost {
 
  private:
   // editor_disk.cpp has what concerns the disk.
+  EditorChild* showAnswered(const std::shared_ptr<OpenFile>& file);
   EditorChild* show(const std::shared_ptr<OpenFile>& file);
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;

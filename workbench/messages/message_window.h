@@ -19,7 +19,6 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   // A group has come or changed; the window catches up when the queue is empty.
   void storeChanged();
   void showGroup(unsigned int group);
-  unsigned int shownGroup() const { return shown_; }
 
   const std::vector<Message>* shownMessages() override;
   void openMessage(const Message& message) override { open_(message); }

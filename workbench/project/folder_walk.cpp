@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <string_view>
 #include <utility>
 
 #include "workbench/windows/path_text.h"
@@ -18,6 +19,20 @@ constexpr std::string_view kSourceExtensions[] = {
 constexpr std::string_view kSkippedFolders[] = {
     "build", "builds", "debug", "release", "obj", "out", "cmakefiles", "node_modules",
 };
+
+bool isSourceFile(std::string_view path) {
+  const std::string extension = foldCase(extensionOf(path));
+  return std::find(std::begin(kSourceExtensions), std::end(kSourceExtensions), extension) !=
+         std::end(kSourceExtensions);
+}
+
+// A folder of tools' output or of version control, never of sources.
+bool isSkippedFolder(std::string_view name) {
+  const std::string folded = foldCase(name);
+  return folded.empty() || folded[0] == '.' || folded.starts_with("cmake-build") ||
+         std::find(std::begin(kSkippedFolders), std::end(kSkippedFolders), folded) !=
+             std::end(kSkippedFolders);
+}
 
 class Walker {
  public:
@@ -68,19 +83,6 @@ class Walker {
 };
 
 }  // namespace
-
-bool isSourceFile(std::string_view path) {
-  const std::string extension = foldCase(extensionOf(path));
-  return std::find(std::begin(kSourceExtensions), std::end(kSourceExtensions), extension) !=
-         std::end(kSourceExtensions);
-}
-
-bool isSkippedFolder(std::string_view name) {
-  const std::string folded = foldCase(name);
-  return folded.empty() || folded[0] == '.' || folded.starts_with("cmake-build") ||
-         std::find(std::begin(kSkippedFolders), std::end(kSkippedFolders), folded) !=
-             std::end(kSkippedFolders);
-}
 
 bool walkFolder(FolderLister& lister, const std::string& top, const WalkLimits& limits,
                 FolderContent* content) {

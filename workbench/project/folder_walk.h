@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace workbench {
@@ -41,9 +40,5 @@ struct WalkLimits {
 // False when the top folder cannot be read.
 bool walkFolder(FolderLister& lister, const std::string& top, const WalkLimits& limits,
                 FolderContent* content);
-
-bool isSourceFile(std::string_view path);
-// A folder of tools' output or of version control, never of sources.
-bool isSkippedFolder(std::string_view name);
 
 }  // namespace workbench

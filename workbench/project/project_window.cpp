@@ -13,6 +13,8 @@ namespace workbench {
 namespace {
 
 constexpr std::size_t kMostShown = 260;  // characters of one node
+// What a notification of the tree set off: a command, or 0 for the context menu.
+constexpr UINT kLater = WM_APP + 1;
 
 // A folder of the disk and a file are shown by their last part.
 std::string shortName(const NodeInfo& node) {
@@ -175,6 +177,11 @@ bool ProjectWindow::paneMessage(UINT message, WPARAM w, LPARAM l, LRESULT* resul
     *result = notified(*reinterpret_cast<const NMHDR*>(l));
     return true;
   }
+  if (message == kLater) {
+    carryOut(static_cast<int>(w), l);
+    *result = 0;
+    return true;
+  }
   if (message == WM_CONTEXTMENU && reinterpret_cast<HWND>(w) == tree_) {
     POINT place = {GET_X_LPARAM(l), GET_Y_LPARAM(l)};
     if (place.x == -1 && place.y == -1) {
@@ -188,12 +195,28 @@ bool ProjectWindow::paneMessage(UINT message, WPARAM w, LPARAM l, LRESULT* resul
   return false;
 }
 
+// The tree notifies from within its own messages, and a menu or box may see the program
+// close: what could show one waits until the tree has done.
+void ProjectWindow::later(int command, LPARAM detail) {
+  PostMessageA(window(), kLater, static_cast<WPARAM>(command), detail);
+}
+
+void ProjectWindow::carryOut(int command, LPARAM detail) {
+  if (command == 0) {
+    contextMenu({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
+  } else if (command != CM_NODE_OPEN) {
+    host_.projectWindowCommand(command);
+  } else if (selected() != 0) {
+    host_.openNode(selected(), detail != 0);
+  }
+}
+
 LRESULT ProjectWindow::notified(const NMHDR& header) {
   switch (header.code) {
     case NM_DBLCLK: {
       const NodeInfo* node = project_.node(selected());
       if (node != nullptr && node->children.empty()) {
-        host_.openNode(node->id, false);
+        later(CM_NODE_OPEN, 0);
         return 1;
       }
       return 0;  // opens or closes the branch
@@ -206,7 +229,7 @@ LRESULT ProjectWindow::notified(const NMHDR& header) {
       if (HTREEITEM item = TreeView_HitTest(tree_, &hit)) {
         TreeView_SelectItem(tree_, item);
       }
-      contextMenu(place);
+      later(0, MAKELPARAM(place.x, place.y));
       return 1;
     }
     case TVN_KEYDOWN:
@@ -242,21 +265,19 @@ void ProjectWindow::keyPressed(WORD key) {
   const bool alternative = GetKeyState(VK_CONTROL) < 0;
   switch (key) {
     case VK_RETURN:
-      if (selected() != 0) {
-        host_.openNode(selected(), alternative);
-      }
+      later(CM_NODE_OPEN, alternative ? 1 : 0);
       break;
     case VK_INSERT:
-      host_.projectWindowCommand(CM_NODE_ADD_FILES);
+      later(CM_NODE_ADD_FILES, 0);
       break;
     case VK_DELETE:
-      host_.projectWindowCommand(CM_NODE_REMOVE);
+      later(CM_NODE_REMOVE, 0);
       break;
     case VK_F2:
-      host_.projectWindowCommand(CM_NODE_RENAME);
+      later(CM_NODE_RENAME, 0);
       break;
     case VK_F4:
-      host_.projectWindowCommand(CM_NODE_PROPERTIES);
+      later(CM_NODE_PROPERTIES, 0);
       break;
     default:
       break;

@@ -57,6 +57,8 @@ class ProjectWindow final : public MdiPane, public ProjectView {
   void insertAll(HTREEITEM parent, const std::vector<unsigned int>& nodes);
   LRESULT notified(const NMHDR& header);
   void keyPressed(WORD key);
+  void later(int command, LPARAM detail);
+  void carryOut(int command, LPARAM detail);
   void beginEdit();
   void contextMenu(POINT place);
 

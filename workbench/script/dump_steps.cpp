@@ -38,24 +38,37 @@ StepResult dumpBar(StepTry& step) {
   return dumpMenuOf(step, bar != nullptr ? GetMenu(bar) : nullptr, "menu in the add-on's bar");
 }
 
-// From the topmost down.
-StepResult dumpEditors(StepTry& step) {
-  EditorWindow* active = step.stage.editing.activeEditor();
+// The windows inside the frame, from the topmost down; the titles of icons are windows too.
+StepResult dumpDocuments(StepTry& step, const char* name, const char* only_class) {
+  HWND client = step.stage.window.mdiClient();
+  HWND active = reinterpret_cast<HWND>(SendMessageA(client, WM_MDIGETACTIVE, 0, 0));
   std::vector<Event> items;
-  for (HWND window = GetWindow(step.stage.window.mdiClient(), GW_CHILD); window != nullptr;
+  for (HWND window = GetWindow(client, GW_CHILD); window != nullptr;
        window = GetWindow(window, GW_HWNDNEXT)) {
-    if (windowClass(window) != ideapi::kEditorClass) {
+    if (GetWindow(window, GW_OWNER) != nullptr ||
+        (only_class != nullptr && windowClass(window) != only_class)) {
       continue;
     }
     Event item("");
-    item.text("title", windowText(window))
-        .flag("active", active != nullptr && active->window() == window)
-        .flag("iconic", IsIconic(window) != 0);
+    item.text("class", windowClass(window))
+        .text("title", windowText(window))
+        .flag("active", window == active)
+        .flag("iconic", IsIconic(window) != 0)
+        .flag("maximized", IsZoomed(window) != 0)
+        .flag("focus", IsChild(window, GetFocus()) != 0);
     addPlace(item, window);
     items.push_back(item);
   }
-  step.stage.log.emit(Event("editors").list("items", items));
+  step.stage.log.emit(Event(name).list("items", items));
   return StepResult::kDone;
+}
+
+StepResult dumpEditors(StepTry& step) {
+  return dumpDocuments(step, "editors", ideapi::kEditorClass);
+}
+
+StepResult dumpAllDocuments(StepTry& step) {
+  return dumpDocuments(step, "documents", nullptr);
 }
 
 BOOL CALLBACK addWindow(HWND window, LPARAM data) {
@@ -126,9 +139,11 @@ StepResult stepDump(StepTry& step) {
   const struct {
     const char* name;
     Step dump;
-  } kinds[] = {{"menu", dumpMenu},       {"bar", dumpBar},          {"editors", dumpEditors},
-               {"windows", dumpWindows}, {"dialog", dumpDialog},    {"text", dumpText},
-               {"project", dumpProject}, {"messages", dumpMessages}};
+  } kinds[] = {
+      {"menu", dumpMenu},          {"bar", dumpBar},           {"editors", dumpEditors},
+      {"windows", dumpWindows},    {"dialog", dumpDialog},     {"text", dumpText},
+      {"project", dumpProject},    {"messages", dumpMessages}, {"documents", dumpAllDocuments},
+      {"clipboard", dumpClipboard}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
       return kind.dump(step);

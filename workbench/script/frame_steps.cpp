@@ -67,7 +67,9 @@ StepResult stepSave(StepTry& step) {
   if (editor == nullptr) {
     return noEditor(step);
   }
-  return editor->save() ? StepResult::kDone : step.fail("could not save " + editor->file());
+  // The editor may be gone when a box has been answered.
+  const std::string file = editor->file();
+  return editor->save() ? StepResult::kDone : step.fail("could not save " + file);
 }
 
 StepResult stepType(StepTry& step) {
@@ -122,6 +124,14 @@ StepResult stepMinimize(StepTry& step) {
   return IsIconic(frame) ? StepResult::kDone : step.again("the frame is not minimized");
 }
 
+StepResult stepMaximize(StepTry& step) {
+  HWND frame = step.stage.window.frame();
+  if (step.attempt == 0) {
+    ShowWindow(frame, SW_MAXIMIZE);
+  }
+  return IsZoomed(frame) ? StepResult::kDone : step.again("the frame is not maximized");
+}
+
 StepResult stepRestore(StepTry& step) {
   HWND frame = step.stage.window.frame();
   if (step.attempt == 0) {
@@ -140,6 +150,20 @@ StepResult stepActivate(StepTry& step) {
   return active ? StepResult::kDone : step.again("the frame does not become active");
 }
 
+// A second IDE may also end at once, for the sake of the one that runs.
+StepResult stepOtherIde(StepTry& step) {
+  OtherIde& other = step.stage.other_ide;
+  const bool plain = step.argCount() == 1;
+  if (plain && step.arg(0) != "plain") {
+    return step.fail("another IDE is plain or has the add-on");
+  }
+  if (step.attempt == 0 && !other.start(!plain)) {
+    return step.fail("another IDE cannot be started");
+  }
+  return other.inFront() || other.ended() ? StepResult::kDone
+                                          : step.again("the other IDE does not come forward");
+}
+
 StepResult stepDeactivate(StepTry& step) {
   HWND& elsewhere = step.stage.elsewhere;
   if (elsewhere == nullptr) {
@@ -151,6 +175,33 @@ StepResult stepDeactivate(StepTry& step) {
   SetForegroundWindow(elsewhere);
   bool active = GetActiveWindow() == elsewhere;
   return active ? StepResult::kDone : step.again("the frame stays active");
+}
+
+// The system commands of a window inside the frame, found by its title.
+StepResult stepDocument(StepTry& step) {
+  const struct {
+    const char* word;
+    WPARAM command;
+  } commands[] = {{"minimize", SC_MINIMIZE}, {"maximize", SC_MAXIMIZE}, {"restore", SC_RESTORE}};
+  HWND client = step.stage.window.mdiClient();
+  HWND window = GetWindow(client, GW_CHILD);
+  while (window != nullptr && !wildcardMatch(step.arg(0), windowText(window))) {
+    window = GetWindow(window, GW_HWNDNEXT);
+  }
+  if (window == nullptr) {
+    return step.again("no window of the frame is called " + step.arg(0), 2000);
+  }
+  if (step.arg(1) == "activate") {
+    SendMessageA(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(window), 0);
+    return StepResult::kDone;
+  }
+  for (const auto& each : commands) {
+    if (step.arg(1) == each.word) {
+      SendMessageA(window, WM_SYSCOMMAND, each.command, 0);
+      return StepResult::kDone;
+    }
+  }
+  return step.fail("a window is made to activate, minimize, maximize or restore");
 }
 
 }  // namespace workbench

@@ -52,12 +52,14 @@ bool pointerRests(POINT screen) {
   return false;
 }
 
-void clickMouse(POINT screen, MouseButton button) {
+void clickMouse(POINT screen, MouseButton button, const KeyStroke& held) {
+  sendModifiers(held, true);
   bool left = button == MouseButton::kLeft;
   DWORD x = absolute(screen.x, SM_CXSCREEN), y = absolute(screen.y, SM_CYSCREEN);
   DWORD place = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
   mouse_event(place | (left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN), x, y, 0, 0);
   mouse_event(place | (left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP), x, y, 0, 0);
+  sendModifiers(held, false);
 }
 
 }  // namespace workbench

@@ -15,7 +15,7 @@ void pressKey(const KeyStroke& stroke);
 // Moves the pointer. Returns whether it was there already: motion that is still
 // under way could carry a click elsewhere.
 bool pointerRests(POINT screen);
-// Presses and releases there.
-void clickMouse(POINT screen, MouseButton button);
+// Presses and releases there, with the stroke's modifiers held.
+void clickMouse(POINT screen, MouseButton button, const KeyStroke& held = {});
 
 }  // namespace workbench

@@ -12,11 +12,15 @@
 namespace workbench {
 namespace {
 
+bool isOwn(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
 // Input goes to the foreground: the thread must have it.
 void takeForeground(const StepTry& step) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(GetForegroundWindow(), &process);
-  if (process != GetCurrentProcessId()) {
+  if (!isOwn(GetForegroundWindow())) {
     SetForegroundWindow(step.stage.window.frame());
   }
 }
@@ -102,6 +106,23 @@ StepResult stepClickTitle(StepTry& step) {
   return clickEditor(step, editor, place, MouseButton::kLeft);
 }
 
+StepResult stepDoubleClickTitle(StepTry& step) {
+  long button = 0;
+  if (!step.number(1, 0, 2, &button)) {
+    return StepResult::kFailed;
+  }
+  HWND editor = editorToClick(step, step.arg(0));
+  if (editor == nullptr) {
+    return StepResult::kFailed;
+  }
+  POINT place = titleButtonCenter(editor, static_cast<int>(button), storedTitleSide());
+  StepResult result = clickEditor(step, editor, place, MouseButton::kLeft);
+  if (result == StepResult::kDone) {
+    clickMouse(place, MouseButton::kLeft);
+  }
+  return result;
+}
+
 StepResult stepRightClickTitle(StepTry& step) {
   HWND editor = editorToClick(step, step.arg(0));
   if (editor == nullptr) {
@@ -119,7 +140,10 @@ StepResult stepClickAt(StepTry& step) {
   if (!step.number(0, 0, 32767, &x) || !step.number(1, 0, 32767, &y)) {
     return StepResult::kFailed;
   }
-  takeForeground(step);
+  // A window of this program that is in reach comes forward by the click itself.
+  if (!isOwn(WindowFromPoint({x, y}))) {
+    takeForeground(step);
+  }
   return click(step, {x, y}, MouseButton::kLeft);
 }
 

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "workbench/main_window.h"
+#include "workbench/script/input.h"
 #include "workbench/script/menu_reader.h"
 #include "workbench/script/steps.h"
 
@@ -127,8 +128,16 @@ void moveTo(const MenuLoop& loop, HMENU menu, bool across, int from, int to) {
   }
 }
 
-// One move towards the entry. Returns true when its Enter has been pressed.
-bool approach(const MenuLoop& loop, const MenuPath& path, bool whole) {
+// A menu takes no Enter while Ctrl is down, but a click.
+void clickEntry(HMENU menu, int position, const KeyStroke& held) {
+  RECT place{};
+  GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &place);
+  clickMouse({(place.left + place.right) / 2, (place.top + place.bottom) / 2}, MouseButton::kLeft,
+             held);
+}
+
+// One move towards the entry. Returns true when it has been chosen.
+bool approach(const MenuLoop& loop, const MenuPath& path, bool whole, const KeyStroke& held) {
   MenuPath now = standing(loop.root);
   for (size_t level = 0; level < path.size(); ++level) {
     int from = level < now.size() ? now[level] : -1;
@@ -145,7 +154,11 @@ bool approach(const MenuLoop& loop, const MenuPath& path, bool whole) {
     }
     bool last = level + 1 == path.size();
     if (last || now.size() == level + 1) {
-      postKeys(loop.owner, VK_RETURN, 1);
+      if (last && whole && (held.ctrl || held.shift)) {
+        clickEntry(menu, path[level], held);
+      } else {
+        postKeys(loop.owner, VK_RETURN, 1);
+      }
       return last && whole;
     }
   }
@@ -180,6 +193,10 @@ StepResult openBar(StepTry& step, const Wanted& wanted) {
 
 StepResult stepChoose(StepTry& step) {
   Stage& stage = step.stage;
+  KeyStroke held;
+  if (step.argCount() == 2 && !parseKey(step.arg(1) + "+a", &held)) {
+    return step.fail("usage: choose ENTRY [Ctrl|Shift]");
+  }
   if (step.attempt == 0) {
     stage.chosen_in = 0;
     stage.bar_opened = false;
@@ -210,7 +227,7 @@ StepResult stepChoose(StepTry& step) {
     }
     whole = false;
   }
-  if (approach(*loop, path, whole)) {
+  if (approach(*loop, path, whole, held)) {
     stage.chosen_in = loop->serial;
   }
   return step.again("the highlight does not reach the menu entry " + step.arg(0));

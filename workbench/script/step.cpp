@@ -54,20 +54,30 @@ Step stepOf(Verb verb) {
       return stepClickCaption;
     case Verb::kClickTitle:
       return stepClickTitle;
+    case Verb::kClipboard:
+      return stepClipboard;
     case Verb::kClose:
       return stepClose;
+    case Verb::kCloseFrame:
+      return stepCloseFrame;
     case Verb::kCommand:
       return stepCommand;
     case Verb::kDeactivate:
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDocument:
+      return stepDocument;
+    case Verb::kDoubleClickTitle:
+      return stepDoubleClickTitle;
     case Verb::kDump:
       return stepDump;
     case Verb::kEcho:
       return stepEcho;
     case Verb::kEdit:
       return stepEdit;
+    case Verb::kEndSession:
+      return stepEndSession;
     case Verb::kExpect:
       return stepExpect;
     case Verb::kExpectNot:
@@ -82,6 +92,8 @@ Step stepOf(Verb verb) {
       return stepMake;
     case Verb::kMark:
       return stepMark;
+    case Verb::kMaximize:
+      return stepMaximize;
     case Verb::kMessageOpen:
       return stepMessageOpen;
     case Verb::kMinimize:
@@ -94,6 +106,8 @@ Step stepOf(Verb verb) {
       return stepOpen;
     case Verb::kOption:
       return stepOption;
+    case Verb::kOtherIde:
+      return stepOtherIde;
     case Verb::kPress:
       return stepPress;
     case Verb::kQuit:

@@ -9,6 +9,7 @@
 
 #include "workbench/script/event_history.h"
 #include "workbench/script/observer.h"
+#include "workbench/script/other_ide.h"
 #include "workbench/script/script_line.h"
 #include "workbench/script/verbs.h"
 
@@ -44,6 +45,7 @@ struct Stage {
   POINT last_click{-1000, -1000};
   DWORD last_click_ms = 0;   // as GetTickCount
   HWND elsewhere = nullptr;  // the window that takes the activation away
+  OtherIde other_ide;        // the program that takes it away
 };
 
 enum class StepResult { kDone, kAgain, kFailed };

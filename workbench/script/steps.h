@@ -15,9 +15,20 @@ StepResult stepType(StepTry& step);
 StepResult stepCaret(StepTry& step);
 StepResult stepSelect(StepTry& step);
 StepResult stepMinimize(StepTry& step);
+StepResult stepMaximize(StepTry& step);
 StepResult stepRestore(StepTry& step);
 StepResult stepActivate(StepTry& step);
+StepResult stepOtherIde(StepTry& step);
 StepResult stepDeactivate(StepTry& step);
+StepResult stepDocument(StepTry& step);
+
+// session_steps.cpp: how the program ends
+StepResult stepCloseFrame(StepTry& step);
+StepResult stepEndSession(StepTry& step);
+
+// clipboard_steps.cpp
+StepResult stepClipboard(StepTry& step);
+StepResult dumpClipboard(StepTry& step);
 
 // project_steps.cpp: the project's tree and options, the message window
 StepResult stepNewProject(StepTry& step);
@@ -36,6 +47,7 @@ StepResult dumpMessages(StepTry& step);
 // input_steps.cpp: real keys and clicks
 StepResult stepKey(StepTry& step);
 StepResult stepClickTitle(StepTry& step);
+StepResult stepDoubleClickTitle(StepTry& step);
 StepResult stepRightClickTitle(StepTry& step);
 StepResult stepClickAt(StepTry& step);
 StepResult stepClickCaption(StepTry& step);

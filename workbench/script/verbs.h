@@ -18,13 +18,18 @@ enum class Verb {
   kClickAt,
   kClickCaption,
   kClickTitle,
+  kClipboard,
   kClose,
+  kCloseFrame,
   kCommand,
   kDeactivate,
   kDescribeNode,
+  kDocument,
+  kDoubleClickTitle,
   kDump,
   kEcho,
   kEdit,
+  kEndSession,
   kExpect,
   kExpectNot,
   kExpectRegistry,
@@ -32,12 +37,14 @@ enum class Verb {
   kKey,
   kMake,
   kMark,
+  kMaximize,
   kMessageOpen,
   kMinimize,
   kNewProject,
   kNodePath,
   kOpen,
   kOption,
+  kOtherIde,
   kPress,
   kQuit,
   kRegistryDelete,
@@ -60,7 +67,8 @@ inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWait) + 1;
 
 // Whether a step waits while a message box that nobody has answered is open.
 enum class Readiness {
-  kBesideBoxes,  // runs at any time
+  kBesideBoxes,  // does not wait
+  kHeldUp,       // nor for a call that holds up the thread, once that lasts
   kWithoutBox,   // waits for the box to go
 };
 

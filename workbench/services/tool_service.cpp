@@ -51,13 +51,12 @@ int ToolService::run(const std::string& name, const std::string& file) {
   return result;
 }
 
-int ToolService::runFromMenu(ToolHandle handle, const std::string& file) {
+void ToolService::runFromMenu(ToolHandle handle, const std::string& file) {
   IIdeString* text = file.empty() ? nullptr : handOut(context_.live, file);
-  const int result = runTool(find(handle), text);
+  runTool(find(handle), text);
   if (text != nullptr) {
     text->Release();
   }
-  return result;
 }
 
 int ToolService::runTool(const Tool* tool, IIdeString* file) {

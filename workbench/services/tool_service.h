@@ -28,7 +28,7 @@ class ToolService final : public Service<IToolService> {
 
   int run(const std::string& name, const std::string& file);
   // Runs a tool of the menu; an empty file is none.
-  int runFromMenu(ToolHandle tool, const std::string& file);
+  void runFromMenu(ToolHandle tool, const std::string& file);
   std::vector<MenuTool> menuTools() const;
   // Called when a tool of the menu came or went.
   void setMenuListener(std::function<void()> listener) { menu_changed_ = std::move(listener); }

@@ -28,6 +28,10 @@ bool MdiChild::createChild(HWND mdi_client, HINSTANCE instance, const char* clas
   info.cx = width;
   info.cy = height;
   info.lParam = reinterpret_cast<LPARAM>(this);
+  // In front of a maximized window another is so too.
+  BOOL maximized = FALSE;
+  SendMessageA(mdi_client, WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&maximized));
+  info.style = maximized != FALSE ? WS_MAXIMIZE : 0;
   return SendMessageA(mdi_client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&info)) != 0;
 }
 

@@ -7,10 +7,8 @@ void rcPAGES::rcInit()
   TREE.Get(this, 201) ;
   LIST.Get(this, 202) ;
   BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
-  BAR.Get(this, 203) ;
+  OK.Get(this, IDOK) ;
+  CANCEL.Get(this, IDCANCEL) ;
 }
 
 char *rcPAGES::Name()
@@ -43,26 +41,16 @@ int rcPAGES::cmdBAR(int notify)
 }
 
 #pragma argsused
-int rcPAGES::cmdBAR(int notify)
+int rcPAGES::cmdOK(int notify)
 {
+  End(1) ;
   return(0) ;
 }
 
 #pragma argsused
-int rcPAGES::cmdBAR(int notify)
+int rcPAGES::cmdCANCEL(int notify)
 {
-  return(0) ;
-}
-
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
-  return(0) ;
-}
-
-#pragma argsused
-int rcPAGES::cmdBAR(int notify)
-{
+  End(0) ;
   return(0) ;
 }
 
@@ -82,10 +70,8 @@ int rcPAGES::wmCommand(int id, int notify)
   switch (id)
   {
     case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
-    case 203 : return(cmdBAR(notify)) ;
+    case IDOK : return(cmdOK(notify)) ;
+    case IDCANCEL : return(cmdCANCEL(notify)) ;
     case 10 : return(mnuOPEN()) ;
     case 11 : return(mnuCM_EXIT()) ;
   }

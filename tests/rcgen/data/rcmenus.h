@@ -43,10 +43,8 @@ class rcPAGES : public Dialog
     TreeView TREE ;
     ListView LIST ;
     StatusBar BAR ;
-    ToolBar BAR ;
-    Progress BAR ;
-    TrackBar BAR ;
-    ComboBox BAR ;
+    Control OK ;
+    Control CANCEL ;
   public :
     void rcInit() ;
     char *Name() ;
@@ -54,10 +52,8 @@ class rcPAGES : public Dialog
     virtual int cmdTREE(NMHDR *ndr) ;
     virtual int cmdLIST(NMHDR *ndr) ;
     virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
-    virtual int cmdBAR(int notify) ;
+    virtual int cmdOK(int notify) ;
+    virtual int cmdCANCEL(int notify) ;
     virtual int mnuOPEN() ;
     virtual int mnuCM_EXIT() ;
     int wmCommand(int id, int notify) ;

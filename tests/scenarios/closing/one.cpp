@@ -1,0 +1,11 @@
+#include "one.h"
+int first(int a)
+{
+  return a;
+}
+void Frame::paint()
+{
+}
+void Window::paint()
+{
+}

@@ -1,0 +1,3 @@
+int one(int a) {
+  return a;
+}
