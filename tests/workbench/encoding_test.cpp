@@ -99,7 +99,11 @@ TEST_CASE("no byte changes that was not edited, whatever a file holds") {
     const std::string mark = before.substr(0, before.size() - left.size() - right.size());
     CHECK((mark.empty() || mark == kUtf8Mark));
     const Place end = document.insert({line, column}, fromAnsi("\xE9", document.encoding()));
-    CHECK(document.bytes() == mark + left + fromAnsi("\xE9", document.encoding()) + right);
+    std::string wanted = mark;
+    wanted += left;
+    wanted += fromAnsi("\xE9", document.encoding());
+    wanted += right;
+    CHECK(document.bytes() == wanted);
     CHECK(previousColumn(document.line(line), end.column, document.encoding()) == column);
     document.erase({line, column}, end);
     CHECK(document.bytes() == before);
@@ -142,6 +146,8 @@ TEST_CASE("characters are walked one way like the other, and add-ons see a byte 
   CHECK_FALSE(fromWide(L"\x3A9", Encoding::kAnsi, &text));
   CHECK(fromWide(L"?\x20AC", Encoding::kAnsi, &text));
   CHECK(text == "?\x80");
+  CHECK(fromWide(std::wstring{0xD83D, 0xDE00, 0xD83D, L'x', 0xDE00}, Encoding::kUtf8, &text));
+  CHECK(text == "\xF0\x9F\x98\x80?x?");
 }
 
 TEST_CASE("a character takes one cell, and a word keeps its letters") {

@@ -114,12 +114,10 @@ std::string toAnsi(std::string_view text, Encoding encoding) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
-    int length = 1;
     unsigned code = 0;
     const std::size_t size = decodeUtf8(text, &code);
     result += size > 0 ? ansiFromCode(code) : text[0];
-    length = static_cast<int>(std::max<std::size_t>(1, size));
-    text.remove_prefix(static_cast<std::size_t>(length));
+    text.remove_prefix(std::max<std::size_t>(1, size));
   }
   return result;
 }
@@ -147,9 +145,13 @@ std::wstring toWide(std::string_view text, Encoding encoding) {
 bool fromWide(std::wstring_view wide, Encoding encoding, std::string* text) {
   text->clear();
   for (std::size_t i = 0; i < wide.size(); ++i) {
-    unsigned code = static_cast<unsigned>(wide[i]);
-    if (code >= 0xD800 && code < 0xDC00 && i + 1 < wide.size()) {
-      code = 0x10000 + ((code - 0xD800) << 10) + (static_cast<unsigned>(wide[++i]) - 0xDC00);
+    char32_t code = wide[i];
+    const char32_t next = i + 1 < wide.size() ? wide[i + 1] : 0;
+    if (code >= 0xD800 && code < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
+      code = 0x10000 + ((code - 0xD800) << 10) + (next - 0xDC00);
+      ++i;
+    } else if (code >= 0xD800 && code < 0xE000) {
+      code = '?';  // half of a pair is no character
     }
     if (encoding == Encoding::kUtf8) {
       appendUtf8(*text, code);
