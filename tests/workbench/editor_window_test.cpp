@@ -8,6 +8,7 @@
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
 #include "workbench/windows/clipboard.h"
+#include "workbench/windows/command_ids.h"
 
 using namespace workbench;
 
@@ -285,6 +286,38 @@ TEST_CASE("a file that another program changed is not overwritten unasked") {
   }
   CHECK(desk.onDisk() == "x" + kOnDisk);
   CHECK_FALSE(desk.editor->modified());
+}
+
+TEST_CASE("what an add-on has saved is saved without a question, or not at all") {
+  Desk desk;
+  Application& application = desk.program.application;
+  auto* service = desk.program.service<IEditorService>(ideapi::kEditorService);
+  const auto save = [&] {
+    IIdeString* names = nullptr;
+    const int count = service->SaveModified(&names);
+    if (names != nullptr) {
+      names->Release();
+    }
+    return count;
+  };
+  Answers none({});
+  const std::string header = desk.folder.file("inc\\b.h");
+  EditorWindow* other = application.editFile(header, 1);
+  desk.keys("x");
+  other->type("y");
+  SendMessageA(application.frame(), WM_COMMAND, CM_FILE_NEW, 0);
+  application.activeEditor()->type("z");
+  writeFile(desk.folder.file("a.cpp"), "another program's");
+  SetFileAttributesA(header.c_str(), FILE_ATTRIBUTE_READONLY);
+  CHECK(save() == 0);
+  CHECK(application.status() == "The file was not saved. " + header + " is read-only.");
+  SetFileAttributesA(header.c_str(), FILE_ATTRIBUTE_NORMAL);
+  CHECK(save() == 1);
+  CHECK_FALSE(other->modified());
+  CHECK(application.activeEditor()->modified());
+  CHECK(desk.editor->modified());
+  CHECK(desk.onDisk() == "another program's");
+  service->Release();
 }
 
 TEST_CASE("a changed file is read again where the caret was, and asks before changes here go") {

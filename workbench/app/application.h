@@ -41,8 +41,8 @@ class Application final : public Workbench,
   IIde* ide() { return &root_; }
   // keep_settings: the user's settings are read now and written when they change.
   bool createFrame(HINSTANCE instance, bool keep_settings);
-  // Shows the first source of the project, so that there is something to look at.
-  void showFirstSource();
+  // As a person's start opens it: with a source in sight, so that there is something to look at.
+  void openForPerson(const std::string& path);
   // Runs until the program ends; returns its exit code.
   int run();
 
@@ -95,9 +95,13 @@ class Application final : public Workbench,
   void frameClosing() override;
   void programActivated() override { editors_.checkDisk(false); }
   void timePassed() override { editors_.checkDisk(true); }
+  // A script's run is nobody else's.
+  bool mayTakePath() override { return keep_settings_; }
+  void takePath(const std::string& path) override;
   HWND modelessDialog() override { return make_.window(); }
 
  private:
+  void showFirstSource();
   bool openFolder(const std::string& folder);
   bool openProjectFile(const std::string& file);
   // False when it cannot be read (the reason has been shown). *leftover: where it was read

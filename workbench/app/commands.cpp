@@ -9,6 +9,7 @@
 #include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/mdi_layout.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/path_text.h"
 
@@ -223,10 +224,10 @@ bool Application::windowCommand(int id, EditorChild* child) {
   HWND client = frame_.mdiClient();
   switch (id) {
     case CM_WINDOW_CASCADE:
-      SendMessageA(client, WM_MDICASCADE, 0, 0);
+      cascadeChildren(client);
       return true;
     case CM_WINDOW_TILE:
-      SendMessageA(client, WM_MDITILE, MDITILE_HORIZONTAL, 0);
+      tileChildren(client);
       return true;
     case CM_WINDOW_ARRANGE:
       SendMessageA(client, WM_MDIICONARRANGE, 0, 0);

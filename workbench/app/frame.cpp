@@ -4,6 +4,7 @@
 
 #include "ideapi/ide_identifiers.h"
 #include "workbench/windows/command_ids.h"
+#include "workbench/windows/hand_over.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/window_class.h"
 
@@ -13,6 +14,7 @@ namespace {
 constexpr UINT kCheckDisk = WM_APP + 1;
 constexpr UINT kTimer = 1;
 constexpr UINT kTimerMs = 2000;
+constexpr UINT kOpenTaken = WM_APP + 2;
 // The Window menu, to which the system appends the list of children.
 constexpr int kWindowMenuPosition = 4;
 
@@ -92,6 +94,13 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
         handler_.timePassed();
       }
       return 0;
+    case WM_COPYDATA:
+      return takeOver(*reinterpret_cast<const COPYDATASTRUCT*>(l)) ? TRUE : FALSE;
+    case kOpenTaken:
+      if (!closing_ && IsWindowEnabled(window_) != 0) {
+        handler_.takePath(taken_);
+      }
+      return 0;
     case WM_QUERYENDSESSION:
       return mayClose() ? TRUE : FALSE;
     case WM_ENDSESSION:
@@ -139,6 +148,18 @@ void Frame::close() {
   closing_ = true;
   handler_.frameClosing();
   DestroyWindow(window_);
+}
+
+// Opening may ask, and the sender waits no longer than for the answer.
+bool Frame::takeOver(const COPYDATASTRUCT& data) {
+  if (data.dwData != kHandOver || data.cbData == 0 || closing_ || IsWindowEnabled(window_) == 0 ||
+      !handler_.mayTakePath()) {
+    return false;
+  }
+  taken_.assign(static_cast<const char*>(data.lpData), data.cbData - 1);
+  ShowWindow(window_, IsIconic(window_) != 0 ? SW_RESTORE : SW_SHOW);
+  SetForegroundWindow(window_);
+  return PostMessageA(window_, kOpenTaken, 0, 0) != 0;
 }
 
 void Frame::layOut() {

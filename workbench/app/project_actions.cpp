@@ -225,6 +225,20 @@ void Application::showTitle() {
   }
 }
 
+void Application::openForPerson(const std::string& path) {
+  if (openPath(path) && editors_.active() == nullptr) {
+    showFirstSource();
+  }
+}
+
+void Application::takePath(const std::string& path) {
+  const std::string full = path.empty() ? path : resolve(path);
+  // What is open already stays as it is.
+  if (!full.empty() && !samePath(full, project_.file()) && !samePath(full, project_.folder())) {
+    openForPerson(full);
+  }
+}
+
 void Application::showFirstSource() {
   for (const NodeInfo* node : project_.nodes()) {
     const std::string type = foldCase(node->type);

@@ -23,8 +23,9 @@ EditorChild::~EditorChild() {
 }
 
 bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
-  return createChild(mdi_client, instance, ideapi::kEditorClass, title().c_str(), CW_USEDEFAULT,
-                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+  shown_title_ = title();
+  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(),
+                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
 }
 
 LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
@@ -76,9 +77,15 @@ void EditorChild::setViewNumber(int number) {
 }
 
 void EditorChild::updateTitle() {
-  if (window() != nullptr) {
-    SetWindowTextA(window(), title().c_str());
+  const std::string wanted = title();
+  if (window() == nullptr || wanted == shown_title_) {
+    return;
   }
+  shown_title_ = wanted;
+  SetWindowTextA(window(), wanted.c_str());
+  // The system may draw the new caption without a word. Add-ons that draw into it wait
+  // for this message.
+  SendMessageA(window(), WM_NCPAINT, 1, 0);
 }
 
 std::string EditorChild::text() {

@@ -83,6 +83,7 @@ class EditorChild final : public EditorWindow,
   std::shared_ptr<OpenFile> file_;
   EditorChildHost& host_;
   TextWindow text_;
+  std::string shown_title_;
   unsigned int handle_ = 0;
   int number_ = 0;
 };

@@ -33,11 +33,10 @@ bool EditorSet::offerLeftovers(OpenFile& file) {
   return true;
 }
 
-bool EditorSet::write(OpenFile& file, const std::string& path) {
+FileFault EditorSet::store(OpenFile& file, const std::string& path) {
   const FileFault fault = saveFile(store_, path, file.document.bytes());
   if (fault != FileFault::kNone) {
-    ask("The file was not saved. " + describeFault(fault, path), MB_OK | MB_ICONERROR);
-    return false;
+    return fault;
   }
   const bool renamed = file.path != path;
   file.path = path;
@@ -51,15 +50,27 @@ bool EditorSet::write(OpenFile& file, const std::string& path) {
   if (renamed) {
     renumber(file);
   }
-  return true;
+  return fault;
+}
+
+bool EditorSet::write(OpenFile& file, const std::string& path) {
+  const FileFault fault = store(file, path);
+  if (fault != FileFault::kNone) {
+    ask("The file was not saved. " + describeFault(fault, path), MB_OK | MB_ICONERROR);
+  }
+  return fault == FileFault::kNone;
+}
+
+bool EditorSet::changedOnDisk(const OpenFile& file) {
+  const FileStamp now = store_.stamp(file.path);
+  return now.exists && !now.sameContent(file.stamp);
 }
 
 bool EditorSet::save(OpenFile& file) {
   if (file.untitled) {
     return saveAs(file);
   }
-  const FileStamp now = store_.stamp(file.path);
-  if (now.exists && !now.sameContent(file.stamp) &&
+  if (changedOnDisk(file) &&
       ask(file.path + " was changed by another program since it was read.\n\nOverwrite it?",
           MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
     return false;

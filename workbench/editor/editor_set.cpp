@@ -188,6 +188,21 @@ bool EditorSet::saveAll(std::vector<std::string>* names) {
   return done;
 }
 
+void EditorSet::saveQuietly(std::vector<std::string>* names, std::string* failure) {
+  failure->clear();
+  for (const auto& file : files()) {
+    if (!file->document.modified() || file->untitled || changedOnDisk(*file)) {
+      continue;
+    }
+    const FileFault fault = store(*file, file->path);
+    if (fault == FileFault::kNone) {
+      names->push_back(file->path);
+    } else {
+      *failure = "The file was not saved. " + describeFault(fault, file->path);
+    }
+  }
+}
+
 bool EditorSet::askToSave(OpenFile& file) {
   if (!file.document.modified()) {
     return true;

@@ -46,6 +46,9 @@ class EditorSet final : public EditorChildHost {
   bool saveAs(OpenFile& file);
   // Saves every modified file; false when one could not be. Names are appended.
   bool saveAll(std::vector<std::string>* names);
+  // Saves the modified files that need no question and no name; asks and tells nothing.
+  // What kept one from being written is in *failure, empty for nothing.
+  void saveQuietly(std::vector<std::string>* names, std::string* failure);
   // Asks about every modified file; false when the user cancelled or a save failed.
   bool askToSaveAll();
   // Asks, then closes every editor.
@@ -80,6 +83,8 @@ class EditorSet final : public EditorChildHost {
   void readAgain(OpenFile& file);
   void renumber(const OpenFile& file);
   bool askToSave(OpenFile& file);
+  bool changedOnDisk(const OpenFile& file);
+  FileFault store(OpenFile& file, const std::string& path);
   bool write(OpenFile& file, const std::string& path);
   void checkOnDisk(OpenFile& file, bool patiently);
   int ask(const std::string& text, UINT buttons);

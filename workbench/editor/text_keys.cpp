@@ -39,8 +39,7 @@ bool TextWindow::keyDown(WPARAM key) {
         copy();
       } else {
         insert_mode_ = !insert_mode_;
-        CreateCaret(window_, nullptr, insert_mode_ ? 2 : cell_width_, line_height_);
-        ShowCaret(window_);
+        makeCaret();
         afterMove();
       }
       return true;

@@ -87,9 +87,7 @@ LRESULT TextWindow::handle(UINT message, WPARAM w, LPARAM l) {
       return 0;
     case WM_SETFOCUS:
       focused_ = true;
-      CreateCaret(window_, nullptr, insert_mode_ ? 2 : cell_width_, line_height_);
-      placeCaret();
-      ShowCaret(window_);
+      makeCaret();
       owner_.textFocused();
       return 0;
     case WM_KILLFOCUS:
@@ -215,46 +213,15 @@ std::string TextWindow::selection() const {
 
 void TextWindow::afterMove() {
   revealCaret();
+  repaintSelection();
   placeCaret();
-  if (window_ != nullptr && painting_held_ == 0) {
-    InvalidateRect(window_, nullptr, FALSE);
-  }
   owner_.textCaretMoved();
 }
 
-void TextWindow::revealCaret() {
-  if (window_ == nullptr || painting_held_ > 0) {
-    return;
-  }
-  int top = top_;
-  int left = left_;
-  top = std::min(top, caret_.line);
-  top = std::max(top, caret_.line - visibleLines() + 1);
-  const int cell = cellOfColumn(document_.line(caret_.line), caret_.column, settings_.tab_width,
-                                document_.encoding());
-  if (cell < left) {
-    left = std::max(0, cell - 8);
-  } else if (cell >= left + visibleCells()) {
-    left = cell - visibleCells() + 8;
-  }
-  scrollTo(top, left);
-}
-
-void TextWindow::showLine(int line) {
-  line = std::clamp(line, 0, document_.lineCount() - 1);
-  if (line < top_ || line >= top_ + visibleLines()) {
-    scrollTo(line - visibleLines() / 2, left_);
-  }
-}
-
-void TextWindow::scrollTo(int top, int left) {
-  top_ = std::clamp(top, 0, std::max(0, document_.lineCount() - 1));
-  left_ = std::clamp(left, 0, std::max(left_, widest_ + visibleCells()));
-  updateScrollBars();
-  if (window_ != nullptr) {
-    InvalidateRect(window_, nullptr, FALSE);
-    placeCaret();
-  }
+void TextWindow::makeCaret() {
+  CreateCaret(window_, nullptr, insert_mode_ ? 2 : cell_width_, line_height_);
+  placeCaret();
+  ShowCaret(window_);
 }
 
 void TextWindow::placeCaret() {
@@ -266,79 +233,6 @@ void TextWindow::placeCaret() {
   // A caret left of the text area would stand in the margin.
   const int x = cell < left_ ? -100 : marginWidth() + (cell - left_) * cell_width_;
   SetCaretPos(x, (caret_.line - top_) * line_height_);
-}
-
-int TextWindow::visibleLines() const {
-  RECT area = {};
-  GetClientRect(window_, &area);
-  return std::max(1, static_cast<int>(area.bottom) / line_height_);
-}
-
-int TextWindow::visibleCells() const {
-  RECT area = {};
-  GetClientRect(window_, &area);
-  return std::max(1, (static_cast<int>(area.right) - marginWidth()) / cell_width_);
-}
-
-void TextWindow::updateScrollBars() {
-  if (window_ == nullptr || painting_held_ > 0) {
-    return;
-  }
-  SCROLLINFO info = {
-      sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL, 0, 0, 0, 0, 0};
-  info.nMax = document_.lineCount() - 1;
-  info.nPage = static_cast<UINT>(visibleLines());
-  info.nPos = top_;
-  SetScrollInfo(window_, SB_VERT, &info, TRUE);
-  info.nMax = std::max(widest_, left_ + visibleCells() - 1);
-  info.nPage = static_cast<UINT>(visibleCells());
-  info.nPos = left_;
-  SetScrollInfo(window_, SB_HORZ, &info, TRUE);
-}
-
-void TextWindow::scroll(int bar, WPARAM w) {
-  SCROLLINFO info = {sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
-  GetScrollInfo(window_, bar, &info);
-  int position = info.nPos;
-  const int page = std::max(1, static_cast<int>(info.nPage) - 1);
-  switch (LOWORD(w)) {
-    case SB_LINEUP:
-      position -= bar == SB_VERT ? 1 : 4;
-      break;
-    case SB_LINEDOWN:
-      position += bar == SB_VERT ? 1 : 4;
-      break;
-    case SB_PAGEUP:
-      position -= page;
-      break;
-    case SB_PAGEDOWN:
-      position += page;
-      break;
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION:
-      position = info.nTrackPos;
-      break;
-    case SB_TOP:
-      position = 0;
-      break;
-    case SB_BOTTOM:
-      position = info.nMax;
-      break;
-    default:
-      return;
-  }
-  position = std::clamp(position, 0, std::max(0, info.nMax - page));
-  scrollTo(bar == SB_VERT ? position : top_, bar == SB_HORZ ? position : left_);
-}
-
-void TextWindow::wheel(int delta) {
-  wheel_rest_ += delta;
-  const int notches = wheel_rest_ / WHEEL_DELTA;
-  wheel_rest_ -= notches * WHEEL_DELTA;
-  if (notches != 0) {
-    const int last = std::max(0, document_.lineCount() - visibleLines());
-    scrollTo(std::clamp(top_ - notches * 3, 0, std::max(last, top_)), left_);
-  }
 }
 
 void TextWindow::makeFont() {
@@ -361,9 +255,9 @@ void TextWindow::settingsChanged() {
   widest_ = 0;
   trackWidth(0, document_.lineCount() - 1);
   updateScrollBars();
+  repaint();
   if (focused_) {
-    CreateCaret(window_, nullptr, insert_mode_ ? 2 : cell_width_, line_height_);
-    ShowCaret(window_);
+    makeCaret();
   }
   afterMove();
 }
@@ -372,6 +266,7 @@ void TextWindow::holdPainting(bool hold) {
   painting_held_ += hold ? 1 : -1;
   if (painting_held_ == 0) {
     updateScrollBars();
+    repaint();
     afterMove();
   }
 }
@@ -402,15 +297,20 @@ Place moved(Place place, const DocumentChange& change) {
 }  // namespace
 
 void TextWindow::documentChanged(const DocumentChange& change) {
-  highlighter_.invalidate(change.from.line);
+  highlighter_.documentChanged(change);
   trackWidth(change.from.line, change.new_end.line);
   caret_ = wholeCharacter(document_.clamp(moved(caret_, change)));
   anchor_ = wholeCharacter(document_.clamp(moved(anchor_, change)));
-  top_ = std::min(top_, document_.lineCount() - 1);
+  shown_from_ = moved(shown_from_, change);
+  shown_to_ = moved(shown_to_, change);
   wanted_cell_ = -1;
-  if (window_ != nullptr && painting_held_ == 0) {
+  if (top_ >= document_.lineCount()) {
+    top_ = document_.lineCount() - 1;
+    repaint();
+  }
+  if (paints()) {
+    repaintChange(change);
     updateScrollBars();
-    InvalidateRect(window_, nullptr, FALSE);
     placeCaret();
   }
 }

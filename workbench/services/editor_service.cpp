@@ -6,6 +6,7 @@
 
 #include "workbench/editor/editor_set.h"
 #include "workbench/events/event_log.h"
+#include "workbench/main_window.h"
 #include "workbench/paths.h"
 #include "workbench/services/ide_string.h"
 
@@ -112,7 +113,11 @@ void STDMETHODCALLTYPE EditorService::InsertText(IIdeString* text) {
 
 int STDMETHODCALLTYPE EditorService::SaveModified(IIdeString** names) {
   std::vector<std::string> saved;
-  context_.editors.saveAll(&saved);
+  std::string failure;
+  context_.editors.saveQuietly(&saved, &failure);
+  if (!failure.empty()) {
+    context_.window.setStatus(failure);
+  }
   if (names != nullptr) {
     *names = nullptr;
     std::string list;
