@@ -1,4 +1,4 @@
-# bench: find - the searches over a tree of sources, against grep -rw and against merely reading it
+# bench: find - the searches over a tree of sources, against grep -rnw and against a plain loop that reads it
 # windows: yes
 # usage: bash bench/find.sh BINDIR [TREE [NAME]]
 set -u
@@ -6,6 +6,7 @@ bin=${1:?usage: bash bench/find.sh BINDIR [TREE [NAME]]}
 tree=${2:-}
 name=${3:-Run}
 here=$(cd "$(dirname "$(readlink -f "$0")")/.." && pwd)
+. "$here/bench/turns.sh"
 work=$(mktemp -d) || exit 1
 trap 'rm -rf "$work"' EXIT
 
@@ -25,34 +26,26 @@ sources() { find "$tree" -type f \( -name '*.cpp' -o -name '*.cc' -o -name '*.c'
 bytes=$(sources | xargs -0 cat | wc -c)
 echo "$(sources | tr -dc '\0' | wc -c) sources, $bytes bytes, searching $name"
 
-# The median of several runs of a command, its output kept, in milliseconds. All read
-# from the cache: the first run is not counted.
-time_of() {
-  local begun ended
-  "$@" >"$work/out"
-  for _ in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21; do
-    begun=$(date +%s%N)
-    "$@" >"$work/out"
-    ended=$(date +%s%N)
-    echo $((ended - begun))
-  done | sort -n | sed -n 11p | awk '{ print $1 / 1e6 }'
-}
-grep_words() { grep -rwn --include='*.cpp' --include='*.cc' --include='*.c' -e "$name" "$tree"; }
-
-{
-  echo "native-grep $(time_of grep_words)"
-  echo "grep-lines $(wc -l <"$work/out")"
-  for kind in cross method function; do
-    echo "native-$kind $(time_of "$bin/find_bench" $kind "$name" "$tree")"
-    echo "native-$kind-hits $(wc -l <"$work/out")"
-  done
-} >"$work/times"
-
+grep_words() { grep -rnw --include='*.cpp' --include='*.cc' --include='*.c' -e "$name" "$tree"; }
+native_cross() { "$bin/find_bench" cross "$name" "$tree"; }
+native_method() { "$bin/find_bench" method "$name" "$tree"; }
+native_function() { "$bin/find_bench" function "$name" "$tree"; }
 program=$bin/../../mingw32/bin/find_bench_win.exe
-if [ -e "$program" ]; then
+windows() {
   KESTO_TIMEOUT=600 "$here/kesto" exec "$program" "$name" "Z:$(realpath "$tree" | tr / '\\')" |
-    tr -d '\r' >>"$work/times" || exit 1
-fi
+    tr -d '\r'
+}
+
+# Whole processes on this system; under Wine one process that searches again and again.
+# These two take turns as well.
+for turn in 1 2 3; do
+  turns 10 "$work" grep_words native_cross native_method native_function || exit 1
+  [ ! -e "$program" ] || windows || exit 1
+done >"$work/all"
+for one in grep_words native_cross native_method native_function; do
+  echo "$one-hits $(wc -l <"$work/$one")"
+done >>"$work/all"
+best <"$work/all" >"$work/times"
 
 # Ratios only: the times themselves say more about the machine.
 awk '
@@ -60,12 +53,15 @@ awk '
   END {
     n = split("cross method function", kinds)
     for (i = 1; i <= n; ++i) {
-      printf "%s: %d hits, %.2f times grep -rw (%d lines)\n", kinds[i],
-        t["native-" kinds[i] "-hits"], t["native-" kinds[i]] / t["native-grep"], t["grep-lines"]
+      one = "native_" kinds[i]
+      printf "%s: %d hits, %.2f times grep -rnw (%d lines)\n", kinds[i], t[one "-hits"],
+        t[one] / t["grep_words"], t["grep_words-hits"]
     }
-    if (t["read"] > 0) {
-      printf "Windows, cross:  %d hits, %.2f times reading the files\n", t["hits"], t["cross"] / t["read"]
-      printf "Windows, method: %.2f times reading the files\n", t["method"] / t["read"]
+    if (t["plain"] > 0) {
+      printf "Windows, cross:  %d hits, %.2f times a plain loop, %.1f times grep -rnw\n", t["hits"],
+        t["cross"] / t["plain"], t["cross"] / t["grep_words"]
+      printf "Windows, method: %.2f times a plain loop\n", t["method"] / t["plain"]
+      printf "Windows, plain loop: %.1f times grep -rnw\n", t["plain"] / t["grep_words"]
       printf "Windows, memory: %d KB before a hundred searches, %d KB after\n",
         t["memory-before"], t["memory-after"]
     }

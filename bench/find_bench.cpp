@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 
+#include "addon/foundation/directory_walk.h"
 #include "addon/foundation/message_box.h"
 #include "addon/navigation/name_matchers.h"
 #include "addon/navigation/search_plan.h"
@@ -64,11 +65,12 @@ int search(const char* kind, const char* name, const char* tree) {
   }
   const NameMatcher matcher(static_cast<Search>(which), name);
   PosixListing lister;
+  Folders folders(lister);
   Searcher searcher(matcher);
   const auto plan =
       planSearch(static_cast<Search>(which), {tree, true, "", tree, "*.cpp;*.cc;*.c", "*.h;*.rh"});
   for (const SearchStep& step : plan) {
-    walkDirectory(lister, step.directory, step.mask, true, searcher);
+    walkDirectory(folders, step.directory, step.mask, true, searcher);
   }
   return 0;
 }

@@ -1,30 +1,30 @@
 // find_bench_win NAME TREE   prints, a name and a number each:
-//   read, cross, method   medians in milliseconds: reading the sources of the tree by
-//                         the searches' own walk and calls, and the searches themselves
+//   plain, cross, method   best times in milliseconds: a plain loop that lists each
+//                         directory once and reads the same sources, and the searches
 //   hits                  of the cross reference
 //   memory-before, memory-after   kilobytes of this process around a hundred searches
 //
-// The IDE is played: its file stream reads from the disk with the system's own calls.
+// The IDE is played: its file stream reads from the disk with the system's own calls, as
+// the Workbench's does.
 #include <windows.h>
 
 #include <psapi.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "addon/foundation/directory_listing.h"
 #include "addon/ide/access.h"
 #include "addon/ide/file_text.h"
 #include "addon/ide/unknown_imp.h"
 #include "addon/navigation/name_search.h"
+#include "bench/turns.h"
 
 namespace kesto {
 namespace {
 
-constexpr int kRounds = 21;
+constexpr int kRounds = 25;
 constexpr int kSearches = 100;
 
 class Text : public IUnknownImp<IIdeString> {
@@ -43,18 +43,20 @@ class DiskStream : public IUnknownImp<IFileStream> {
     closeFile();
     file_ = CreateFileA(file->GetText(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    size_ = static_cast<long>(GetFileSize(file_, nullptr));
+    position_ = 0;
     return file_ != INVALID_HANDLE_VALUE ? 1 : 0;
   }
   int STDMETHODCALLTYPE GetState() override { return 0; }
   long STDMETHODCALLTYPE Seek(long offset, int origin) override {
-    return static_cast<long>(
-        SetFilePointer(file_, offset, nullptr, origin == kStreamFromEnd ? FILE_END : FILE_BEGIN));
+    position_ = offset + (origin == kStreamFromEnd ? size_ : 0);
+    return position_;
   }
   long STDMETHODCALLTYPE Read(void* buffer, long count) override {
     DWORD given = 0;
-    return ReadFile(file_, buffer, static_cast<DWORD>(count), &given, nullptr) != FALSE
-               ? static_cast<long>(given)
-               : -1;
+    const BOOL read = ReadFile(file_, buffer, static_cast<DWORD>(count), &given, nullptr);
+    position_ += static_cast<long>(given);
+    return read != FALSE ? static_cast<long>(given) : -1;
   }
   void STDMETHODCALLTYPE Close() override { closeFile(); }
 
@@ -67,6 +69,8 @@ class DiskStream : public IUnknownImp<IFileStream> {
   }
 
   HANDLE file_ = INVALID_HANDLE_VALUE;
+  long size_ = 0;
+  long position_ = 0;  // where the file's own stands too whenever something is read
 };
 
 class Ide : public IUnknownImp<IIde> {
@@ -75,46 +79,47 @@ class Ide : public IUnknownImp<IIde> {
   IFileStream* STDMETHODCALLTYPE CreateFileStream() override { return new DiskStream; }
 };
 
-class Reading : public FileVisitor {
+// What has to be done at the least: each directory listed once, each source read once.
+class PlainLoop {
  public:
-  bool visit(const char* path) override {
-    bytes += readFileText(path).length();
-    return false;
-  }
-  long bytes = 0;
-};
-
-double milliseconds() {
-  LARGE_INTEGER frequency;
-  LARGE_INTEGER now;
-  QueryPerformanceFrequency(&frequency);
-  QueryPerformanceCounter(&now);
-  return 1e3 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-struct Measured {
-  const char* name;
-  std::function<void()> work;
-  std::vector<double> times;
-};
-
-// Takes turns, so that a busy moment of the machine falls on all alike. The first
-// round fills the caches and does not count.
-void takeTurns(std::vector<Measured>& all) {
-  for (int round = 0; round <= kRounds; ++round) {
-    for (Measured& one : all) {
-      const double begun = milliseconds();
-      one.work();
-      if (round > 0) {
-        one.times.push_back(milliseconds() - begun);
+  void read(const std::string& directory) {
+    std::vector<std::string> directories;
+    WIN32_FIND_DATAA found = {};
+    const HANDLE search = FindFirstFileA((directory + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+      return;
+    }
+    do {
+      const std::string name = found.cFileName;
+      if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+        if (name.ends_with(".cpp") || name.ends_with(".cc") || name.ends_with(".c")) {
+          readFile(directory + '\\' + name);
+        }
+      } else if (!name.starts_with('.')) {
+        directories.push_back(directory + '\\' + name);
       }
+    } while (FindNextFileA(search, &found) != FALSE);
+    FindClose(search);
+    for (const std::string& below : directories) {
+      read(below);
     }
   }
-  for (Measured& one : all) {
-    std::nth_element(one.times.begin(), one.times.begin() + kRounds / 2, one.times.end());
-    printf("%s %f\n", one.name, one.times[kRounds / 2]);
+
+ private:
+  void readFile(const std::string& path) {
+    const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const DWORD size = GetFileSize(file, nullptr);
+    if (size != INVALID_FILE_SIZE) {
+      buffer_.resize(std::max<std::size_t>(buffer_.size(), size));
+      DWORD given = 0;
+      ReadFile(file, buffer_.data(), size, &given, nullptr);
+    }
+    CloseHandle(file);
   }
-}
+
+  std::vector<char> buffer_;
+};
 
 unsigned long workingSetKilobytes() {
   PROCESS_MEMORY_COUNTERS counters = {};
@@ -130,17 +135,11 @@ int measure(const char* name, const char* tree) {
   const NameMatcher cross(Search::kCross, name);
   const NameMatcher method(Search::kMethod, name);
   Tableau<QuickResu> hits;
-  const auto read = [&] {
-    DirectoryListing listing;
-    Reading reading;
-    for (const SearchStep& step : plan) {
-      walkDirectory(listing, step.directory, step.mask, true, reading);
-    }
-  };
-  std::vector<Measured> all = {{"read", read, {}},
-                               {"method", [&] { collectHits(plan, true, method, hits); }, {}},
-                               {"cross", [&] { collectHits(plan, true, cross, hits); }, {}}};
-  takeTurns(all);
+  Turns turns;
+  turns.add("plain", [&] { PlainLoop().read(tree); });
+  turns.add("method", [&] { collectHits(plan, true, method, hits); });
+  turns.add("cross", [&] { collectHits(plan, true, cross, hits); });
+  turns.run(kRounds);
   printf("hits %d\n", hits.count());
   printf("memory-before %lu\n", workingSetKilobytes());
   for (int i = 0; i < kSearches; ++i) {

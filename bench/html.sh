@@ -3,6 +3,7 @@
 set -u
 bin=${1:?usage: bash bench/html.sh BINDIR [TREE]}
 source=${2:-/usr/src/googletest}
+. "$(dirname "$(readlink -f "$0")")/turns.sh"
 # In memory where that is at hand: thousands of small files on a disk would measure the
 # disk. TMPDIR names another place.
 fast=${TMPDIR:-/dev/shm}
@@ -38,21 +39,9 @@ mkdir "$work/twice"
 cp -r "$work/once/." "$work/twice"
 copy $((copies + 1)) $((2 * copies)) "$work/twice"
 
-# The median of several runs, in milliseconds. The first run is not counted: the others
-# read from the cache and write over what is there.
-time_of() { # RUNS COMMAND...
-  local runs=$1 begun ended
-  shift
-  [ "$runs" = 1 ] || "$@" >"$work/out"
-  for _ in $(seq "$runs"); do
-    begun=$(date +%s%N)
-    "$@" >"$work/out" || exit 1
-    ended=$(date +%s%N)
-    echo $((ended - begun))
-  done | sort -n | sed -n $(((runs + 1) / 2))p | awk '{ print $1 / 1e6 }'
-}
-
-kesto() { "$bin/html_bench" "$work/$1" '*.cpp;*.cc;*.c;*.h'; }
+# The rounds after the first read from the cache and write over what is there.
+once() { "$bin/html_bench" "$work/once" '*.cpp;*.cc;*.c;*.h'; }
+twice() { "$bin/html_bench" "$work/twice" '*.cpp;*.cc;*.c;*.h'; }
 plain_doxygen() {
   doxygen - <<SETTINGS >/dev/null 2>&1
 INPUT = "$work/once"
@@ -70,14 +59,20 @@ WARNINGS = NO
 SETTINGS
 }
 
-once=$(time_of 11 kesto once)
-read -r files pages <"$work/out"
-twice=$(time_of 11 kesto twice)
-read -r files_twice pages_twice <"$work/out"
+mkdir "$work/out"
+{
+  # Doxygen takes long enough for a few rounds to do.
+  turns 1 "$work/out" once plain_doxygen && turns 10 "$work/out" once twice &&
+    turns 1 "$work/out" once plain_doxygen
+} >"$work/all" || exit 1
+best <"$work/all" >"$work/times"
+read -r files pages <"$work/out/once"
+read -r _ pages_twice <"$work/out/twice"
 echo "$(size_of "$work/once") bytes in $files files, $pages pages"
-other=$(time_of 1 plain_doxygen)
-awk -v once="$once" -v twice="$twice" -v other="$other" \
-  -v pages="$pages" -v pages_twice="$pages_twice" -v made="$(find "$work/doxygen" -name '*.html' | wc -l)" 'BEGIN {
-    printf "doxygen takes %.0f times as long (%d pages)\n", other / once, made
-    printf "twice the tree, %.2f times the pages: %.2f times as long\n", pages_twice / pages, twice / once
-  }'
+awk -v pages="$pages" -v pages_twice="$pages_twice" \
+  -v made="$(find "$work/doxygen" -name '*.html' | wc -l)" '
+  { t[$1] = $2 }
+  END {
+    printf "doxygen takes %.0f times as long (%d pages)\n", t["plain_doxygen"] / t["once"], made
+    printf "twice the tree, %.2f times the pages: %.2f times as long\n", pages_twice / pages, t["twice"] / t["once"]
+  }' "$work/times"

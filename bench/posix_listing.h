@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <string>
 
-#include "addon/foundation/directory_walk.h"
+#include "addon/foundation/directory_lister.h"
 
 namespace kesto {
 
@@ -17,24 +17,19 @@ inline std::string nativePath(std::string path) {
   return path;
 }
 
-class PosixListing : public MaskLister {
+class PosixListing : public DirectoryLister {
  public:
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override {
-    list(directory, DT_REG, mask, names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
-    list(directory, DT_DIR, "*", names);
-  }
-
- private:
-  static void list(const char* directory, int type, const char* mask, Tableau<String>& names) {
+  void list(const char* directory, const char* mask, DirectoryEntries& entries) override {
     DIR* const open = opendir(nativePath(directory).c_str());
     if (open == nullptr) {
       return;
     }
     while (const dirent* entry = readdir(open)) {
-      if (entry->d_type == type && fnmatch(mask, entry->d_name, 0) == 0) {
-        names.append(new String(entry->d_name));
+      const bool is_directory = entry->d_type == DT_DIR;
+      if ((is_directory || entry->d_type == DT_REG) && fnmatch(mask, entry->d_name, 0) == 0) {
+        entries.add(
+            is_directory ? DirectoryEntries::Kind::kDirectory : DirectoryEntries::Kind::kFile,
+            entry->d_name);
       }
     }
     closedir(open);

@@ -1,11 +1,9 @@
 // scan_bench MAKE FILE   writes the deterministic source that is measured
-// scan_bench FILE        prints the medians of the scans of FILE, in milliseconds:
+// scan_bench FILE        prints the best times of the scans of FILE, in milliseconds:
 //                        copy, copy-lines, functions, includes; a name and a number each
 //
 // "copy" is one memcpy of the whole text into a buffer touched before; "copy-lines"
 // finds each line's end with memchr and copies line after line.
-#include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -19,6 +17,7 @@
 
 #include "addon/foundation/message_box.h"
 #include "addon/navigation/source_scanner.h"
+#include "bench/turns.h"
 
 namespace kesto {
 
@@ -30,7 +29,7 @@ int showMessage(void* /*owner*/, const char* text, const char* /*caption*/, unsi
 namespace {
 
 constexpr int kLines = 100000;
-constexpr int kRounds = 101;
+constexpr int kRounds = 51;
 
 // Reproducible on every machine, unlike the library's generators' distributions.
 class Dice {
@@ -127,21 +126,6 @@ class SourceMaker {
   int lines_ = 0;
 };
 
-// The median of many rounds, in milliseconds.
-template <class Work>
-double median(Work work) {
-  std::vector<double> times;
-  for (int i = 0; i < kRounds; ++i) {
-    const auto begun = std::chrono::steady_clock::now();
-    work();
-    times.push_back(
-        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begun)
-            .count());
-  }
-  std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-  return times[kRounds / 2];
-}
-
 // Keeps the compiler from dropping a copy that nobody reads.
 void touch(const void* memory) {
   asm volatile("" : : "g"(memory) : "memory");
@@ -165,18 +149,18 @@ int measure(const char* path) {
   const auto copy = std::make_unique<char[]>(text.size() + 1);
   Tableau<Fnc> functions;
   Tableau<String> includes;
-  const double whole = median([&] {
+  Turns turns;
+  turns.add("copy", [&] {
     memcpy(copy.get(), text.data(), text.size());
     touch(copy.get());
   });
-  const double lines = median([&] {
+  turns.add("copy-lines", [&] {
     copyLines(text, copy.get());
     touch(copy.get());
   });
-  const double functions_time = median([&] { scanFunctions(text, functions); });
-  const double includes_time = median([&] { scanIncludes(text, includes); });
-  printf("copy %f\ncopy-lines %f\nfunctions %f\nincludes %f\n", whole, lines, functions_time,
-         includes_time);
+  turns.add("functions", [&] { scanFunctions(text, functions); });
+  turns.add("includes", [&] { scanIncludes(text, includes); });
+  turns.run(kRounds);
   fprintf(stderr, "%zu bytes, %d functions, %d includes\n", text.size(), functions.count(),
           includes.count());
   return functions.count() > 0 && includes.count() > 0 ? 0 : 1;

@@ -1,49 +1,43 @@
 #include "addon/foundation/directory_listing.h"
 
-#include <io.h>
-#include <sys/stat.h>
+#include <windows.h>
 
 #include "addon/foundation/path.h"
 
 namespace kesto {
 namespace {
 
-constexpr unsigned kVolumeLabel = 0x08;
+constexpr DWORD kVolumeLabel = 0x08;
+// A junction, or under Wine a symbolic link. Windows 95's headers do not name it.
+constexpr DWORD kReparsePoint = 0x400;
 
-bool isDirectory(unsigned attributes) {
-  return (attributes & _A_SUBDIR) != 0;
-}
-
-// Appends the entries that fit the pattern and the wanted attributes; volume labels
-// are neither files nor directories.
-void list(const char* directory, const char* pattern, Tableau<String>& names,
-          bool (*wanted)(unsigned attributes)) {
-  _finddata_t entry = {};
-  const intptr_t search = _findfirst(joinPath(directory, pattern), &entry);
-  if (search == -1) {
-    return;
+DirectoryEntries::Kind kindOf(DWORD attributes) {
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+    return DirectoryEntries::Kind::kFile;
   }
-  do {
-    if ((entry.attrib & kVolumeLabel) == 0 && wanted(entry.attrib)) {
-      names.append(new String(entry.name));
-    }
-  } while (_findnext(search, &entry) == 0);
-  _findclose(search);
+  return (attributes & kReparsePoint) == 0 ? DirectoryEntries::Kind::kDirectory
+                                           : DirectoryEntries::Kind::kLink;
 }
 
 }  // namespace
 
+void DirectoryListing::list(const char* directory, const char* mask, DirectoryEntries& entries) {
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA(joinPath(directory, mask), &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return;
+  }
+  do {
+    if ((found.dwFileAttributes & kVolumeLabel) == 0) {
+      entries.add(kindOf(found.dwFileAttributes), found.cFileName, found.cAlternateFileName);
+    }
+  } while (FindNextFileA(search, &found) != FALSE);
+  FindClose(search);
+}
+
 bool DirectoryListing::isFile(const char* path) {
-  struct _stat status = {};
-  return _stat(path, &status) == 0 && (status.st_mode & _S_IFDIR) == 0;
-}
-
-void DirectoryListing::listFiles(const char* directory, const char* mask, Tableau<String>& names) {
-  list(directory, mask, names, [](unsigned attributes) { return !isDirectory(attributes); });
-}
-
-void DirectoryListing::listDirectories(const char* directory, Tableau<String>& names) {
-  list(directory, "*", names, isDirectory);
+  const DWORD attributes = GetFileAttributesA(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 }  // namespace kesto

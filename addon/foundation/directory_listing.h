@@ -1,17 +1,14 @@
 // The file system as the features list it. Holds nothing; any thread.
 #pragma once
 
-#include "addon/foundation/directory_walk.h"
+#include "addon/foundation/directory_lister.h"
 
 namespace kesto {
 
-class DirectoryListing : public DirectoryLister, public MaskLister {
+class DirectoryListing : public DirectoryLister, public FileLookup {
  public:
+  void list(const char* directory, const char* mask, DirectoryEntries& entries) override;
   bool isFile(const char* path) override;
-  // The mask goes to the system as it is.
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override;
-  // Overrides that of both bases.
-  void listDirectories(const char* directory, Tableau<String>& names) override;
 };
 
 }  // namespace kesto

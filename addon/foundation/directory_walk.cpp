@@ -8,25 +8,22 @@ namespace {
 
 class Walk {
  public:
-  Walk(MaskLister& lister, std::string_view mask, bool recurse, FileVisitor& visitor)
-      : lister_(lister), mask_(mask), recurse_(recurse), visitor_(visitor) {}
+  Walk(Folders& folders, std::string_view mask, bool recurse, FileVisitor& visitor)
+      : folders_(folders), mask_(mask), recurse_(recurse), visitor_(visitor) {}
 
   // Each level adds two characters at least, so that kPathLimit bounds the depth.
   bool below(const String& directory) {
-    if (directories_left_ == 0 || directory.view().size() > kPathLimit) {
-      return false;
+    if (!folders_.enter(directory)) {
+      return folders_.stopped();
     }
-    --directories_left_;
     return visitFiles(directory) || (recurse_ && visitDirectories(directory));
   }
 
  private:
   bool visitFiles(const String& directory) {
-    Tableau<String> names;
-    lister_.listFiles(directory, mask_, names);
-    for (int i = 0; i < names.count(); ++i) {
-      const String path = joinPath(directory.view(), names.at(i)->view());
-      if (path.view().size() <= kPathLimit && visitor_.visit(path)) {
+    for (const std::string& name : folders_.files(directory, mask_)) {
+      const String path = joinPath(directory.view(), name);
+      if (path.view().size() <= kPathLimit && (visitor_.visit(path) || !folders_.countFile())) {
         return true;
       }
     }
@@ -34,29 +31,25 @@ class Walk {
   }
 
   bool visitDirectories(const String& directory) {
-    Tableau<String> names;
-    lister_.listDirectories(directory, names);
-    for (int i = 0; i < names.count(); ++i) {
-      const std::string_view name = names.at(i)->view();
-      if (!name.empty() && name.front() != '.' && below(joinPath(directory.view(), name))) {
+    for (const std::string_view name : folders_.directories(directory)) {
+      if (!name.starts_with('.') && below(joinPath(directory.view(), name))) {
         return true;
       }
     }
     return false;
   }
 
-  MaskLister& lister_;
-  String mask_;
+  Folders& folders_;
+  FileMask mask_;
   bool recurse_;
   FileVisitor& visitor_;
-  int directories_left_ = kDirectoryLimit;
 };
 
 }  // namespace
 
-bool walkDirectory(MaskLister& lister, std::string_view directory, std::string_view mask,
+bool walkDirectory(Folders& folders, std::string_view directory, std::string_view mask,
                    bool recurse, FileVisitor& visitor) {
-  return Walk(lister, mask, recurse, visitor).below(String(directory));
+  return Walk(folders, mask, recurse, visitor).below(String(directory));
 }
 
 }  // namespace kesto

@@ -49,9 +49,13 @@ LRESULT CALLBACK HookSet::callWindowHook(int code, WPARAM wParam, LPARAM lParam)
 }
 
 LRESULT CALLBACK HookSet::keyboardHook(int code, WPARAM wParam, LPARAM lParam) {
-  if (code == HC_ACTION && current != nullptr &&
-      current->onKey(static_cast<UINT>(wParam), lParam)) {
-    return 1;
+  if (current != nullptr) {
+    // A menu only looks at a key before it takes it, and acts on that.
+    const bool looked_at = code == HC_ACTION || code == HC_NOREMOVE;
+    if ((looked_at && wParam == VK_ESCAPE && current->onSwallowedEscape(lParam)) ||
+        (code == HC_ACTION && current->onKey(static_cast<UINT>(wParam), lParam))) {
+      return 1;
+    }
   }
   return CallNextHookEx(current != nullptr ? current->keyboard_ : nullptr, code, wParam, lParam);
 }

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include "addon/foundation/path.h"
+
 namespace kesto {
 
 // Commands that the hooks post.
@@ -54,9 +56,10 @@ class HookHost {
 // The editor that the last title-bar command concerns.
 struct EditorTarget {
   HWND window = nullptr;
-  char title[256] = "";       // its file, without view number and modified mark
-  char documented[512] = "";  // title of the last right click, for the documentation
-  POINTS click = {};          // where its popup belongs, in screen coordinates
+  char title[256] = "";            // its title as far as the hooks read it
+  char file[kPathLimit + 1] = "";  // the file of its whole title, without the IDE's marks
+  char documented[512] = "";       // title of the last right click, for the documentation
+  POINTS click = {};               // where its popup belongs, in screen coordinates
 };
 
 class HookSet {
@@ -71,6 +74,10 @@ class HookSet {
   // While a window captures, every key goes to it and none to the IDE.
   void startKeyCapture(HWND window) { key_capture_ = window; }
   void stopKeyCapture() { key_capture_ = nullptr; }
+
+  // The press of Escape that waits in the queue, or is still going on, was meant for what
+  // held up the queue: nobody else gets it.
+  void swallowEscape();
 
   const EditorTarget& target() const { return target_; }
   // Set while a title-bar popup is tracked: title-bar clicks go to the IDE.
@@ -92,6 +99,7 @@ class HookSet {
   void onFrameSize(bool minimised);
   void onFrameActivation(bool active);
   bool onKey(UINT virtual_key, LPARAM lParam);
+  bool onSwallowedEscape(LPARAM lParam);
   bool onCapturedKey(UINT virtual_key, LPARAM lParam);
   bool onSearchKey(unsigned code);
   void onCommand(HWND window, WPARAM wParam);
@@ -109,6 +117,8 @@ class HookSet {
   EditorTarget target_;
   bool suspended_ = false;
   bool posting_paint_ = false;
+  bool swallowing_escape_ = false;
+  DWORD swallowing_since_ = 0;  // milliseconds of the system's clock
   HookHost& host_;
 };
 

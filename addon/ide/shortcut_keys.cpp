@@ -1,5 +1,8 @@
 // The keyboard hook's part of the hook set: shortcuts and key capture.
+#include <string>
+
 #include "addon/foundation/key_code.h"
+#include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/hook_set.h"
 #include "ideapi/ide_identifiers.h"
@@ -11,6 +14,8 @@ constexpr LPARAM kKeyUp = static_cast<LPARAM>(1UL << 31);
 constexpr LPARAM kKeyWasDown = 1L << 30;
 constexpr LPARAM kAltHeld = 1L << 29;
 constexpr int kActiveTitleSize = 300;
+// Milliseconds after which an Escape that has not come was never in the queue.
+constexpr DWORD kSwallowTime = 5000;
 
 unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
   return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
@@ -43,6 +48,19 @@ bool keysAreTaken() {
 }
 
 }  // namespace
+
+void HookSet::swallowEscape() {
+  swallowing_escape_ = true;
+  swallowing_since_ = GetTickCount();
+}
+
+// Held down, the key repeats until it comes up.
+bool HookSet::onSwallowedEscape(LPARAM lParam) {
+  const bool swallowed = swallowing_escape_ && GetTickCount() - swallowing_since_ < kSwallowTime;
+  swallowing_since_ = GetTickCount();
+  swallowing_escape_ = swallowed && (lParam & kKeyUp) == 0;
+  return swallowed;
+}
 
 bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   if (key_capture_ != nullptr) {
@@ -81,6 +99,8 @@ bool HookSet::onSearchKey(unsigned code) {
     const int length = GetWindowTextA(editor, title, sizeof title);
     target_.window = editor;
     lstrcpynA(target_.title, title, sizeof target_.title);
+    lstrcpynA(target_.file, std::string(fileOfTitle(title, sizeof title)).c_str(),
+              sizeof target_.file);
     if (length == 0) {
       return false;
     }

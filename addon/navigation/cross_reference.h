@@ -10,8 +10,9 @@ namespace kesto {
 
 class CrossReferenceMessages {
  public:
-  // Writes a run's references. An IDE without the message service gets none.
-  void write(const char* name, const Tableau<QuickResu>& references);
+  // Writes a run's references, and below them when they are not the whole of them. An IDE
+  // without the message service gets none.
+  void write(const char* name, const Tableau<QuickResu>& references, bool whole = true);
 
  private:
   bool open();

@@ -8,36 +8,40 @@ namespace {
 
 class HeaderSearch {
  public:
-  HeaderSearch(DirectoryLister& lister, std::string_view name, String& found)
-      : lister_(lister), name_(name), found_(found) {}
+  HeaderSearch(Folders& folders, FileLookup& lookup, std::string_view name, String& found)
+      : folders_(folders), lookup_(lookup), name_(name), found_(found) {}
 
-  // Each level adds two characters at least, so that kPathLimit bounds the depth.
-  bool below(std::string_view directory) {
-    if (directories_left_ == 0 || directory.size() > kPathLimit) {
+  // A directory that stands on the path itself is looked into however many were before.
+  bool from(const String& directory) {
+    const bool entered = folders_.enter(directory);
+    return !folders_.stopped() && (holds(directory) || (entered && below(directory)));
+  }
+
+ private:
+  bool holds(const String& directory) {
+    const String path = joinPath(directory.view(), name_);
+    if (path.view().size() > kPathLimit || !lookup_.isFile(path)) {
       return false;
     }
-    --directories_left_;
-    const String path = joinPath(directory, name_);
-    if (path.view().size() <= kPathLimit && lister_.isFile(path)) {
-      found_ = path;
-      return true;
-    }
-    Tableau<String> names;
-    lister_.listDirectories(String(directory), names);
-    for (int i = 0; i < names.count(); ++i) {
-      const std::string_view name = names.at(i)->view();
-      if (!name.empty() && name.front() != '.' && below(joinPath(directory, name).view())) {
+    found_ = path;
+    return true;
+  }
+
+  // Each level adds two characters at least, so that kPathLimit bounds the depth.
+  bool below(const String& directory) {
+    for (const std::string_view name : folders_.directories(directory)) {
+      const String path = joinPath(directory.view(), name);
+      if (!name.starts_with('.') && folders_.enter(path) && (holds(path) || below(path))) {
         return true;
       }
     }
     return false;
   }
 
- private:
-  DirectoryLister& lister_;
+  Folders& folders_;
+  FileLookup& lookup_;
   std::string_view name_;
   String& found_;
-  int directories_left_ = kDirectoryLimit;
 };
 
 }  // namespace
@@ -51,14 +55,15 @@ String includeSearchPath(std::string_view directory, std::string_view include_pa
   return path;
 }
 
-bool findInclude(DirectoryLister& lister, std::string_view search_path, std::string_view name,
-                 String& found) {
+bool findInclude(Folders& folders, FileLookup& lookup, std::string_view search_path,
+                 std::string_view name, String& found) {
+  HeaderSearch search(folders, lookup, name, found);
   while (!name.empty() && !search_path.empty()) {
     const std::size_t separator = search_path.find(';');
     const std::string_view directory = search_path.substr(0, separator);
     search_path.remove_prefix(separator == std::string_view::npos ? search_path.size()
                                                                   : separator + 1);
-    if (!directory.empty() && HeaderSearch(lister, name, found).below(directory)) {
+    if (!directory.empty() && search.from(String(directory))) {
       return true;
     }
   }

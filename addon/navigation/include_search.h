@@ -1,14 +1,10 @@
 // Finding a header on the search path: each directory, then all below it, depth
-// first. The file system is seen through DirectoryLister, which the shell
-// implements and the tests play.
-//
-// Directories that contain themselves through links end at kPathLimit characters
-// or after kDirectoryLimit directories, whichever comes first.
+// first. The file system is seen through Folders and FileLookup.
 #pragma once
 
 #include <string_view>
 
-#include "addon/foundation/directory_walk.h"
+#include "addon/foundation/folders.h"
 #include "addon/foundation/string.h"
 
 namespace kesto {
@@ -18,7 +14,7 @@ String includeSearchPath(std::string_view directory, std::string_view include_pa
 
 // Looks for the name in the directories of a ";" list. True when found, with its
 // path in found; else found is untouched.
-bool findInclude(DirectoryLister& lister, std::string_view search_path, std::string_view name,
-                 String& found);
+bool findInclude(Folders& folders, FileLookup& lookup, std::string_view search_path,
+                 std::string_view name, String& found);
 
 }  // namespace kesto

@@ -1,5 +1,5 @@
 // The places of one name in many texts. Looks for the byte of the name that sources
-// hold least, which the library does many bytes at a time, and compares only there.
+// hold least, many bytes at a time, and compares only there.
 #pragma once
 
 #include <cstddef>

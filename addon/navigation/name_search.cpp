@@ -20,12 +20,15 @@ class FirstHitVisitor : public FileVisitor {
       return false;
     }
     hit_ = {path, reader.number()};
+    found_ = true;
     return true;
   }
+  bool found() const { return found_; }
 
  private:
   const NameMatcher& matcher_;
   FirstHit& hit_;
+  bool found_ = false;
 };
 
 class CollectingVisitor : public FileVisitor {
@@ -53,31 +56,33 @@ class CollectingVisitor : public FileVisitor {
   size_t bytes_left_ = kHitBytesLimit;
 };
 
-bool walkPlan(const std::vector<SearchStep>& plan, bool recurse, FileVisitor& visitor) {
+void walkPlan(const std::vector<SearchStep>& plan, bool recurse, FileVisitor& visitor,
+              WalkWatch* watch) {
   DirectoryListing listing;
+  Folders folders(listing, watch);
   for (const SearchStep& step : plan) {
-    if (walkDirectory(listing, step.directory, step.mask, recurse, visitor)) {
-      return true;
+    if (walkDirectory(folders, step.directory, step.mask, recurse, visitor)) {
+      return;
     }
   }
-  return false;
 }
 
 }  // namespace
 
 bool findFirst(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
-               FirstHit& hit) {
+               FirstHit& hit, WalkWatch* watch) {
   FirstHitVisitor visitor(matcher, hit);
-  return walkPlan(plan, recurse, visitor);
+  walkPlan(plan, recurse, visitor, watch);
+  return visitor.found();
 }
 
 void collectHits(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
-                 Tableau<QuickResu>& hits) {
+                 Tableau<QuickResu>& hits, WalkWatch* watch) {
   constexpr int kStep = 256;
   hits.clear();
   hits.setStep(kStep);
   CollectingVisitor visitor(matcher, hits);
-  walkPlan(plan, recurse, visitor);
+  walkPlan(plan, recurse, visitor, watch);
 }
 
 }  // namespace kesto

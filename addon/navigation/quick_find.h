@@ -43,14 +43,16 @@ class QuickFind {
   // Has the bar open a hit of the last method search; an index outside it does nothing.
   void chooseMethodResult(int index);
 
-  // Lists the uses of the name in the message window; false when there is none.
+  // Lists the uses of the name in the message window; false when there is none in any of
+  // the files. Those found before Escape ended the search are listed as such.
   bool crossReference(const std::string& name);
 
  private:
   bool searchFor(Search search, const std::string& name);
   bool findDefinition(Search search, const std::string& name);
   bool findMethods(const std::string& name);
-  void collect(Search search, const std::string& name, Tableau<QuickResu>& hits);
+  // False when Escape ended the search: hits are those so far, which the status line tells.
+  bool collect(Search search, const std::string& name, Tableau<QuickResu>& hits);
   std::vector<SearchStep> plan(Search search) const;
   // Posts one of the bar's messages about a file and a line.
   void postFound(UINT message, const char* path, int line);

@@ -2,12 +2,15 @@
 
 #include <algorithm>
 
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/name_search.h"
 #include "addon/navigation/popup_menu.h"
@@ -47,17 +50,17 @@ std::string searchingText(const std::string& name) {
   return "Searching " + name + " ...";
 }
 
+// What the status line says of a search that Escape ended.
+std::string stoppedText(const std::string& searching, int found) {
+  return searching + " stopped, " + std::to_string(found) + " found so far";
+}
+
 HWND targetEditor() {
   return hookSet != nullptr ? hookSet->target().window : nullptr;
 }
 
-// A click left the file there, a shortcut the editor's title as it is.
-std::string targetFile() {
-  if (hookSet == nullptr) {
-    return {};
-  }
-  const std::string_view title = hookSet->target().title;
-  return std::string(fileOfTitle(title, title.size()));
+const char* targetFile() {
+  return hookSet != nullptr ? hookSet->target().file : "";
 }
 
 }  // namespace
@@ -105,12 +108,18 @@ std::vector<SearchStep> QuickFind::plan(Search search) const {
   String source_path;
   String include_path;
   if (open) {
-    const ProjectNode node = nodeOfFile(targetFile().c_str());
+    const ProjectNode node = nodeOfFile(targetFile());
     getOptionText(node, kOptionSourcePath, source_path);
     getOptionText(node, kOptionIncludePath, include_path);
   }
-  return planSearch(search, {directory, open, source_path.view(), include_path.view(),
-                             function_mask_.view(), include_mask_.view()});
+  std::vector<SearchStep> steps =
+      planSearch(search, {directory, open, source_path.view(), include_path.view(),
+                          function_mask_.view(), include_mask_.view()});
+  for (SearchStep& step : steps) {
+    // What is found below it is compared with the titles of editors.
+    step.directory = fullPath(joinPath(step.directory, "").view());
+  }
+  return steps;
 }
 
 bool QuickFind::findDefinition(Search search, const std::string& name) {
@@ -120,7 +129,12 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     const WaitCursor wait;
     const std::string text = searchingText(name);
     showStatus(text.c_str());
-    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit);
+    SearchWatch watch(text);
+    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit, &watch);
+    if (watch.stopped()) {
+      showStatus((text + " stopped").c_str());
+      return true;
+    }
     showStatus((text + (found ? " Found !" : " sorry !")).c_str());
   }
   if (!found) {
@@ -135,30 +149,44 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
   return true;
 }
 
-void QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
+bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickResu>& hits) {
   const WaitCursor wait;
-  showStatus(searchingText(name).c_str());
-  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits);
+  const std::string text = searchingText(name);
+  showStatus(text.c_str());
+  SearchWatch watch(text);
+  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
+  if (watch.stopped()) {
+    showStatus(stoppedText(text, hits.count()).c_str());
+  }
+  return !watch.stopped();
 }
 
 bool QuickFind::findMethods(const std::string& name) {
-  collect(Search::kMethod, name, method_results_);
+  const bool whole = collect(Search::kMethod, name, method_results_);
   const int found = method_results_.count();
   if (found > 0) {
+    // The only one so far need not be the one that was sought.
+    const bool direct = found == 1 && whole;
     PostMessageA(owner_, WM_COMMAND,
-                 static_cast<WPARAM>(found == 1 ? kCommandFirstResult : kCommandMethodResults), 0);
+                 static_cast<WPARAM>(direct ? kCommandFirstResult : kCommandMethodResults), 0);
   }
-  return found > 0;
+  return found > 0 || !whole;
 }
 
 bool QuickFind::crossReference(const std::string& name) {
-  collect(Search::kCross, name, cross_results_);
+  const bool whole = collect(Search::kCross, name, cross_results_);
   if (cross_results_.count() == 0) {
+    if (!whole) {
+      return true;
+    }
     soundBeep();
     showStatus("Sorry, nothing found !");
     return false;
   }
-  messages_.write(name.c_str(), cross_results_);
+  messages_.write(name.c_str(), cross_results_, whole);
+  if (!whole) {
+    return true;
+  }
   soundBeep();
   showStatus("References found, see Message Window");
   return true;
@@ -171,7 +199,7 @@ void QuickFind::showMethodResults(HWND bar) {
     // Ids beyond the range of the results belong to other commands: those are only shown.
     const UINT state = i < kResultCommands ? MF_ENABLED : MF_GRAYED;
     AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
-                method_results_.at(i)->text());
+                menuText(method_results_.at(i)->text().view()).c_str());
   }
   if (shown == 0) {
     DestroyMenu(popup);

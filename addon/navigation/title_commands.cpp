@@ -3,6 +3,8 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/editor_operations.h"
@@ -11,6 +13,7 @@
 #include "addon/ide/hook_set.h"
 #include "addon/ide/koptions.h"
 #include "addon/ide/open_file.h"
+#include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/include_search.h"
@@ -36,7 +39,7 @@ void appendSearch(HMENU popup, Search search, const char* text) {
   std::string item(text);
   if (quickFind != nullptr && quickFind->key(search) != 0) {
     item += '\t';
-    item += quickFind->keyText(search).view();
+    item += menuText(quickFind->keyText(search).view());
   }
   AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
 }
@@ -57,11 +60,11 @@ bool ready() {
 }  // namespace
 
 bool showFunctionsPopup(HWND bar) {
-  return ready() && showAtClick(bar, editorNavigation->scanFunctions(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanFunctions(hookSet->target().file));
 }
 
 bool showIncludesPopup(HWND bar) {
-  return ready() && showAtClick(bar, editorNavigation->scanIncludes(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanIncludes(hookSet->target().file));
 }
 
 bool showQuickFindPopup(HWND bar) {
@@ -90,7 +93,7 @@ bool chooseFunction(int index) {
   activateFrame();
   if (ready()) {
     if (const Fnc* function = editorNavigation->functionAt(index)) {
-      goToLine(hookSet->target().title, function->line());
+      goToLine(hookSet->target().file, function->line());
     }
   }
   return true;
@@ -105,24 +108,33 @@ bool chooseInclude(int index) {
   if (name == nullptr) {
     return true;
   }
+  const std::string locating = std::string("Locating ") + name + " ...";
+  SearchWatch watch(locating);
   DirectoryListing listing;
+  Folders folders(listing, &watch);
   const String path =
-      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
+      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().file).view());
   String found;
-  if (!findInclude(listing, path.view(), name, found)) {
+  if (!findInclude(folders, listing, path.view(), name, found)) {
+    if (watch.stopped()) {
+      showStatus((locating + " stopped").c_str());
+      return true;
+    }
     showStatus("Pas trouve");
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;
   }
-  showStatus(found.text());
-  openAndRecord(found.text());
+  const std::string file = fullPath(found.view());
+  showStatus(file.c_str());
+  openAndRecord(file.c_str());
   return true;
 }
 
 bool editDocumentation() {
   activateFrame();
   if (hookSet != nullptr) {
-    openFile((std::string(hookSet->target().documented) + ".txt").c_str());
+    // Each view of a file leads to the file's one documentation.
+    openFile((std::string(fileWithoutLine(hookSet->target().documented)) + ".txt").c_str());
   }
   return true;
 }

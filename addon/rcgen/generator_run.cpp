@@ -8,29 +8,29 @@ namespace kesto {
 
 namespace {
 
-void updateClassUnits(RcFiles& files, const String& project_directory) {
-  Tableau<String> names;
-  files.listDirectories(project_directory, names);
-  for (int i = 0; i < names.count(); ++i) {
-    const String& name = *names.at(i);
-    if (name.view() != "." && name.view() != "..") {
-      updateClassUnit(files, {joinPath(project_directory.view(), name.view()), name});
-    }
+void updateClassUnits(const GeneratorHost& host, Folders& folders,
+                      const String& project_directory) {
+  if (!folders.enter(project_directory)) {
+    return;
   }
-  updateClassUnit(files, {project_directory, String()});
+  for (const std::string_view name : folders.directories(project_directory)) {
+    updateClassUnit(host, folders, {joinPath(project_directory.view(), name), String(name)});
+  }
+  updateClassUnit(host, folders, {project_directory, String()});
 }
 
 }  // namespace
 
-void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
-                  std::int32_t& build_number) {
+void runGenerator(const GeneratorHost& host, std::string_view project_directory,
+                  GeneratorSwitches switches, std::int32_t& build_number, WalkWatch* watch) {
   const String directory(project_directory);
+  Folders folders(host.lister, watch);
   if (switches.dialog_classes) {
-    updateClassUnits(files, directory);
+    updateClassUnits(host, folders, directory);
   }
   if (switches.version_stamping) {
     build_number = nextNumber(build_number);
-    stampVersions(files, directory, build_number);
+    stampVersions(host, folders, directory, build_number);
   }
 }
 

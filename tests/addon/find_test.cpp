@@ -99,6 +99,34 @@ class Folder {
   std::string path_;
 };
 
+// The names that the system lists for a mask, without directories.
+std::string listedBySystem(const std::string& folder, const std::string& mask) {
+  std::string names;
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA((folder + '\\' + mask).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return names;
+  }
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      (names += found.cFileName) += '|';
+    }
+  } while (FindNextFileA(search, &found) != FALSE);
+  FindClose(search);
+  return names;
+}
+
+// Where Wine is no judge: it gives up a name of which a beginning fits already, as that of
+// "a.c.c" does for "*.c".
+bool fitsTwice(const std::string& mask, const std::string& name) {
+  for (std::size_t size = 1; size < name.size(); ++size) {
+    if (FileMask(mask).fits(name.substr(0, size))) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 TEST_CASE("a selection is read") {
@@ -212,6 +240,55 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
     collectHits(plan, true, matcher, hits);
     CHECK(hits.count() > 1000);
     CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
+  }
+}
+
+TEST_CASE("masks fit what the system says they fit, by long and by short names") {
+  unsigned seed = 1;
+  const auto text = [&seed](std::string_view letters, unsigned longest) {
+    const auto dice = [&seed](std::size_t sides) {
+      seed = seed * 1103515245 + 12345;
+      return (seed >> 16) % sides;
+    };
+    std::string made;
+    for (std::size_t size = 1 + dice(longest); made.size() < size;) {
+      made += letters[dice(letters.size())];
+    }
+    return made;
+  };
+  const Folder folder;
+  std::vector<std::string> paths;
+  for (int i = 0; i < 150; ++i) {
+    // Without a dot or a blank at the end, which the system would cut.
+    paths.push_back(folder.path() + '\\' + text("aaBbc..~1 +\xe9", 11) + "ab"[i % 2]);
+    std::ofstream(paths.back()) << "x";
+  }
+  DirectoryListing listing;
+  Folders folders(listing);
+  const String directory(folder.path().c_str());
+  REQUIRE(folders.enter(directory));
+  int hits = 0;
+  int short_hits = 0;
+  for (int i = 0; i < 1500; ++i) {
+    const std::string mask_text = text(i % 4 == 0 ? "aAb.~1*?\xc9 " : "aAbBc..~1**", 7);
+    const FileMask mask(mask_text);
+    const std::string expected = listedBySystem(folder.path(), mask_text);
+    std::string names;
+    for (const std::string& name : folders.files(directory, mask)) {
+      if (!(mask.plain() && fitsTwice(mask_text, name) &&
+            expected.find(name) == std::string::npos)) {
+        (names += name) += '|';
+      }
+      ++hits;
+      short_hits += mask.plain() && !mask.fits(name) ? 1 : 0;
+    }
+    CAPTURE(mask_text);
+    CHECK(names == expected);
+  }
+  CHECK(hits > 1000);
+  CHECK(short_hits > 10);
+  for (const std::string& path : paths) {
+    DeleteFileA(path.c_str());
   }
 }
 

@@ -27,6 +27,7 @@ workbench 3
 workbench/make 4
 workbench/services 4
 workbench/script 4
+workbench/reach 4
 workbench/app 5
 '
 

@@ -1,4 +1,4 @@
-// A file system played by a test: sources by path, and what was read and written, in order.
+// A file system played by a test: sources by path, and what was read and put, in order.
 #pragma once
 
 #include <string>
@@ -7,37 +7,33 @@
 #include <vector>
 
 #include "addon/html/site_generation.h"
+#include "tests/foundation/played_disk.h"
 
 namespace kesto {
 
-class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
+class PlayedSite : public PlayedDisk, public DirectoryLister, public SiteProgress {
  public:
   std::vector<std::pair<std::string, std::string>> sources;  // path and text, in listing order
-  std::string unwritable;                                    // the part of a path that fails
   std::string reads;                                         // each path and a line feed
   std::string pages;                                         // "==== PATH" and text of each
   std::string names;                                         // of the pages
   std::string progress;
 
-  // Masks are "*" and the name's end; a mask without "*" fits no file.
-  void listFiles(const char* directory, const char* mask, Tableau<String>& found) override {
-    list(directory, [&](std::string_view name) {
-      const std::string_view end(mask);
-      if (name.find('\\') == std::string_view::npos && end.starts_with('*') &&
-          name.ends_with(end.substr(1))) {
-        found.append(new String(name));
-      }
-    });
-  }
-  void listDirectories(const char* directory, Tableau<String>& found) override {
+  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
     std::string last;
-    list(directory, [&](std::string_view name) {
-      const std::size_t end = name.find('\\');
-      if (end != std::string_view::npos && name.substr(0, end) != last) {
-        last = name.substr(0, end);
-        found.append(new String(std::string_view(last)));
+    const std::string root = directory + std::string("\\");
+    for (const auto& [path, content] : sources) {
+      if (path.starts_with(root)) {
+        const std::string_view name = std::string_view(path).substr(root.size());
+        const std::string_view first = name.substr(0, name.find('\\'));
+        if (first == name) {
+          entries.add(DirectoryEntries::Kind::kFile, name);
+        } else if (first != last) {
+          last = first;
+          entries.add(DirectoryEntries::Kind::kDirectory, first);
+        }
       }
-    });
+    }
   }
   bool read(const char* path, std::string& text) override {
     for (const auto& [name, content] : sources) {
@@ -49,34 +45,19 @@ class PlayedSite : public MaskLister, public SiteFiles, public SiteProgress {
     }
     return false;
   }
-  void makeDirectory(const char* path) override { made = path; }
-  bool write(const char* path, std::string_view text) override {
-    if (!unwritable.empty() && std::string_view(path).find(unwritable) != std::string_view::npos) {
-      return false;
-    }
-    (((pages += "==== ") += path) += '\n') += text;
-    (names += std::string_view(path).substr(made.size() + 1)) += '\n';
-    return true;
-  }
   void reading(int files_read) override { (progress += 'r') += std::to_string(files_read); }
   void writing(int written, int all) override {
     last_written = written;
     last_all = all;
   }
 
-  std::string made;
   int last_written = 0;
   int last_all = 0;
 
- private:
-  // Shows each source below the directory by its path from there.
-  template <class Each>
-  void list(const std::string& directory, const Each& each) const {
-    for (const auto& [name, content] : sources) {
-      if (name.starts_with(directory + '\\')) {
-        each(std::string_view(name).substr(directory.size() + 1));
-      }
-    }
+ protected:
+  void placed(const std::string& path) override {
+    (((pages += "==== ") += path) += '\n') += files[path].text;
+    (names += path.substr(path.rfind('\\') + 1)) += '\n';
   }
 };
 

@@ -12,7 +12,7 @@ namespace kesto {
 
 namespace {
 
-class FakeDisk : public DirectoryLister {
+class FakeDisk : public DirectoryLister, public FileLookup {
  public:
   void file(const std::string& path) { files_.insert(path); }
   void directory(const std::string& path, std::vector<std::string> names) {
@@ -22,14 +22,18 @@ class FakeDisk : public DirectoryLister {
   void makeEndless() { endless_ = true; }
 
   bool isFile(const char* path) override { return files_.count(path) > 0; }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
+  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
+    ++listed;
     const std::vector<std::string> found = endless_ && directory[0] == 'C'
                                                ? std::vector<std::string>{"loop", "more"}
                                                : directories_[directory];
     for (const std::string& name : found) {
-      names.append(new String(name.c_str()));
+      entries.add(
+          name == "link" ? DirectoryEntries::Kind::kLink : DirectoryEntries::Kind::kDirectory,
+          name);
     }
   }
+  int listed = 0;
 
  private:
   std::set<std::string> files_;
@@ -39,7 +43,8 @@ class FakeDisk : public DirectoryLister {
 
 std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
   String found("untouched");
-  const bool success = findInclude(disk, path, name, found);
+  Folders folders(disk);
+  const bool success = findInclude(folders, disk, path, name, found);
   CHECK(success == !(found == "untouched"));
   return found.text();
 }
@@ -48,7 +53,8 @@ std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
 
 TEST_CASE("a header is sought in each directory, then below it, depth first") {
   FakeDisk disk;
-  disk.directory("C:\\P", {".git", "b", "a"});
+  disk.directory("C:\\P", {".git", "link", "b", "a"});
+  disk.file("C:\\P\\link\\x.h");
   disk.directory("C:\\P\\b", {"deep"});
   disk.file("C:\\P\\b\\deep\\x.h");
   disk.file("C:\\P\\a\\x.h");
@@ -74,13 +80,16 @@ TEST_CASE("a header is sought in each directory, then below it, depth first") {
   }
 }
 
-TEST_CASE("directories without end keep the search neither going nor from the next entry") {
+// Those that stand on the path are looked into all the same, but for what is below them.
+TEST_CASE("directories without end leave the path's own") {
   FakeDisk disk;
   disk.makeEndless();
+  disk.file("D:\\inc\\x.h");
   disk.directory("D:\\inc", {"sub"});
-  disk.file("D:\\inc\\sub\\x.h");
-  CHECK(find(disk, "C:\\P;D:\\inc", "x.h") == "D:\\inc\\sub\\x.h");
-  CHECK(find(disk, "C:\\P", "x.h") == "untouched");
+  disk.file("D:\\inc\\sub\\y.h");
+  CHECK(find(disk, "C:\\P;C:\\Q;D:\\inc", "x.h") == "D:\\inc\\x.h");
+  CHECK(disk.listed == kDirectoryLimit);
+  CHECK(find(disk, "C:\\P;D:\\inc", "y.h") == "untouched");
 }
 
 TEST_CASE("the search path") {

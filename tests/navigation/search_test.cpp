@@ -1,10 +1,11 @@
-#include <functional>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "addon/foundation/directory_walk.h"
 #include "addon/foundation/path.h"
+#include "addon/foundation/tableau.h"
 #include "addon/navigation/cross_header.h"
 #include "addon/navigation/prompt_history.h"
 #include "addon/navigation/quick_resu.h"
@@ -24,27 +25,35 @@ std::string steps(Search search, const SearchPlaces& places) {
   return text;
 }
 
-// A tree played by the test: the files and directories of each directory, in listing
-// order. It knows no masks, only which it was asked for.
-class PlayedTree : public MaskLister {
+// A tree played by the test: the files, directories and links of each directory, in
+// listing order. Masks that only the system can judge fit "odd.c".
+class PlayedTree : public DirectoryLister {
  public:
-  std::map<std::string, std::vector<std::string>> files;
-  std::map<std::string, std::vector<std::string>> directories;
+  using Kind = DirectoryEntries::Kind;
+  using Names = std::vector<std::string>;
+  std::map<std::string, Names> files;
+  std::map<std::string, Names> directories;
+  std::map<std::string, Names> links;
+  std::map<std::string, std::string> short_names;
   bool endless = false;  // every directory holds two more
-  int listed = 0;
+  std::vector<std::string> listed;
 
-  void listFiles(const char* directory, const char* mask, Tableau<String>& names) override {
-    ++listed;
-    append(files[std::string(directory) + '|' + mask], names);
-  }
-  void listDirectories(const char* directory, Tableau<String>& names) override {
-    append(endless ? std::vector<std::string>{"loop", "more"} : directories[directory], names);
+  void list(const char* directory, const char* mask, DirectoryEntries& entries) override {
+    listed.push_back(std::string(directory) + '|' + mask);
+    if (mask != std::string("*")) {
+      entries.add(Kind::kDirectory, "odd.d");
+      entries.add(Kind::kFile, "odd.c");
+      return;
+    }
+    add(Kind::kFile, files[directory], entries);
+    add(Kind::kLink, links[directory], entries);
+    add(Kind::kDirectory, endless ? Names{"loop", "more"} : directories[directory], entries);
   }
 
  private:
-  static void append(const std::vector<std::string>& from, Tableau<String>& names) {
-    for (const std::string& name : from) {
-      names.append(new String(name.c_str()));
+  void add(Kind kind, const Names& names, DirectoryEntries& entries) {
+    for (const std::string& name : names) {
+      entries.add(kind, name, short_names[name]);
     }
   }
 };
@@ -100,11 +109,13 @@ TEST_CASE("where each search walks") {
 
 TEST_CASE("files come before directories, depth first in listing order") {
   PlayedTree tree;
-  tree.files["C:\\P|*.c"] = {"z.c", "a.c"};
-  tree.files["C:\\P\\sub|*.c"] = {"s.c"};
-  tree.files["C:\\P\\sub\\deep|*.c"] = {"d.c"};
-  tree.files["C:\\P\\other|*.c"] = {"o.c"};
-  tree.files["C:\\P\\.git|*.c"] = {"g.c"};
+  tree.files["C:\\P"] = {"z.c", "a.c", "a.h"};
+  tree.files["C:\\P\\sub"] = {"s.c"};
+  tree.files["C:\\P\\sub\\deep"] = {"d.c"};
+  tree.files["C:\\P\\other"] = {"o.c"};
+  tree.files["C:\\P\\.git"] = {"g.c"};
+  tree.files["C:\\P\\link"] = {"l.c"};
+  tree.links["C:\\P"] = {"link"};
   tree.directories["C:\\P"] = {".", "..", ".git", "sub", "other"};
   tree.directories["C:\\P\\sub"] = {".", "..", "deep"};
   const std::string top = "C:\\P\\z.c C:\\P\\a.c ";
@@ -122,43 +133,142 @@ TEST_CASE("files come before directories, depth first in listing order") {
     CAPTURE(std::string(c.stop_at));
     Visits visits;
     visits.stop_at = c.stop_at;
-    CHECK(walkDirectory(tree, "C:\\P", "*.c", c.recurse, visits) == (visits.stop_at != "never"));
+    Folders folders(tree);
+    CHECK(walkDirectory(folders, "C:\\P", "*.c", c.recurse, visits) == (visits.stop_at != "never"));
     CHECK(visits.paths == c.expected);
   }
-  tree.files["E:\\|*.c"] = {"root.c"};
+  tree.files["E:\\"] = {"root.c"};
   Visits root;
-  walkDirectory(tree, "E:\\", "*.c", true, root);
+  Folders folders(tree);
+  walkDirectory(folders, "E:\\", "*.c", true, root);
   CHECK(root.paths == "E:\\root.c ");
+}
+
+TEST_CASE("a search lists a directory once, whatever the masks and wherever it starts") {
+  PlayedTree tree;
+  tree.files["P"] = {"x.html", std::string("y.c\0\0", 5)};
+  tree.short_names["x.html"] = "X~1.HTM";
+  tree.directories["P"] = {"sub"};
+  tree.files["P\\sub"] = {"s.h"};
+  Folders folders(tree);
+  Visits visits;
+  for (const char* mask : {"*.htm", "*.h", "*.c"}) {
+    walkDirectory(folders, "P", mask, true, visits);
+  }
+  walkDirectory(folders, "P\\sub", "*.h", true, visits);
+  CHECK(visits.paths == "P\\x.html P\\sub\\s.h P\\y.c P\\sub\\s.h ");
+  CHECK(tree.listed == PlayedTree::Names{"P|*", "P\\sub|*"});
+  // The system is asked for what only it can judge; what it lists besides files is none.
+  visits.paths.clear();
+  walkDirectory(folders, "P", "?.c", false, visits);
+  CHECK(visits.paths == "P\\odd.c ");
+  CHECK(tree.listed.back() == "P|?.c");
+}
+
+TEST_CASE("what fits a mask") {
+  const struct {
+    const char* mask;
+    const char* fits;   // names, a blank after each
+    const char* other;  // names that do not
+  } cases[] = {
+      {"*", "a a.c .x ", ""},
+      {"*.*", "a a.c a.b.c .x ", ""},
+      {"*.c", "a.c A.C a.b.c .c ", "a a.cc a.c.x c "},
+      {"*.H", "a.h ", "x.html "},
+      {"*.c*", "a.c a.cpp a.c.x ", "a.xc cc "},
+      {"main.cpp", "main.cpp Main.CPP ", "main.cp main.cppp amain.cpp "},
+      {"a*", "a ab A.c ", "ba "},
+      {"a.*", "a a.b A.b.c ", "ab ab.c "},
+      {"a*b*.*", "ab axb.c abab aab ", "ba a.c "},
+      {"*.c.*", "a.c a.c.x ", "a a.x.cc "},
+      {"*a*b.*c", "ab.c xabxb.xc a.b.c ", "ab abc ab.cx "},
+      {"**a", "a ba ", "ab "},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(c.mask);
+    const FileMask mask(c.mask);
+    CHECK(mask.plain());
+    for (const bool fit : {true, false}) {
+      std::istringstream names(fit ? c.fits : c.other);
+      for (std::string name; names >> name;) {
+        CAPTURE(name);
+        CHECK(mask.fits(name) == fit);
+      }
+    }
+  }
+  for (const char* mask :
+       {"", "a?", "*.", "a..*", "*.c ", "a<", "a>", "a\"", "s\\*.c", "C:*", "\xe9*"}) {
+    CAPTURE(mask);
+    CHECK_FALSE(FileMask(mask).plain());
+  }
 }
 
 TEST_CASE("directories without end and paths without end are left") {
   PlayedTree tree;
   tree.endless = true;
   Visits visits;
-  CHECK_FALSE(walkDirectory(tree, "C:\\P", "*.c", true, visits));
-  CHECK(tree.listed == kDirectoryLimit);
+  Folders folders(tree);
+  for (const char* root : {"C:\\P", "C:\\Q"}) {
+    CHECK_FALSE(walkDirectory(folders, root, "*.c", true, visits));
+    CHECK_FALSE(walkDirectory(folders, root, "*.h", true, visits));
+    CHECK(tree.listed.size() == kDirectoryLimit);
+  }
   // "C:\P\" and 254 characters are 259.
-  tree.files["C:\\P|*.c"] = {std::string(255, 'x'), std::string(254, 'y')};
-  CHECK_FALSE(walkDirectory(tree, "C:\\P", "*.c", false, visits));
-  CHECK(visits.paths == "C:\\P\\" + std::string(254, 'y') + ' ');
+  tree.files["C:\\R"] = {std::string(253, 'x') + ".c", std::string(252, 'y') + ".c"};
+  Folders others(tree);
+  CHECK_FALSE(walkDirectory(others, "C:\\R", "*.c", false, visits));
+  CHECK(visits.paths == "C:\\R\\" + std::string(252, 'y') + ".c ");
+}
+
+TEST_CASE("who looks on ends all walks of a search") {
+  class Watch : public WalkWatch {
+   public:
+    explicit Watch(int most) : most_(most) {}
+    bool goOn(int directories, int files) override {
+      told += std::to_string(directories) + '/' + std::to_string(files) + ' ';
+      return --most_ > 0;
+    }
+    std::string told;
+
+   private:
+    int most_;
+  };
+  PlayedTree tree;
+  tree.files["P"] = {"a.c", "b.c"};
+  tree.directories["P"] = {"sub"};
+  tree.files["P\\sub"] = {"c.c", "d.c"};
+  Watch watch(5);
+  Folders folders(tree, &watch);
+  Visits visits;
+  CHECK(walkDirectory(folders, "P", "*.c", true, visits));
+  CHECK(folders.stopped());
+  CHECK(walkDirectory(folders, "P", "*.h", true, visits));
+  CHECK(visits.paths == "P\\a.c P\\b.c P\\sub\\c.c ");
+  CHECK(watch.told == "1/0 1/1 1/2 2/2 2/3 ");
 }
 
 TEST_CASE("the header of the references") {
   const struct {
     const char* title;
+    const char* maximised;
     int found;
     const char* expected;
   } cases[] = {
-      {"Borland C++ - demo", 3,
+      {"Borland C++ - demo", "", 3,
        "demo : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 3 founds"},
-      {"Borland C++ -   demo - [a.cpp]", 1,
+      {"Borland C++ -   demo - [a.cpp]", "", 1,
        "demo - [a.cpp] : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
-      {"Borland C++", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
-      {"Borland C++ -  ", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
+      {"Borland C++ - a - [b] - [C:\\d - [e].cpp:2 *]", "C:\\d - [e].cpp:2 *", 1,
+       "a - [b] : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
+      {"Borland C++ - demo - [C:\\long", "C:\\longer.cpp", 1,
+       "demo : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
+      {"Borland C++", "", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
+      {"Borland C++ -  ", "", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
   };
   for (const auto& c : cases) {
     CAPTURE(std::string(c.title));
-    CHECK(crossReferenceHeader(c.title, "Paint", "1/2/97", "3:04:05 PM", c.found) == c.expected);
+    CHECK(crossReferenceHeader(c.title, c.maximised, "Paint", "1/2/97", "3:04:05 PM", c.found) ==
+          c.expected);
   }
 }
 

@@ -51,7 +51,8 @@ TEST_CASE("each unit's files are those written out for it") {
     PlayedFiles files;
     files.scripts["P"] = {path.filename().string()};
     files.put("P\\" + unit + ".rc", tests::contents(path));
-    updateClassUnit(files, {"P", String(unit.c_str())});
+    Folders folders(files);
+    updateClassUnit(files.host(), folders, {"P", String(unit.c_str())});
     for (const char* extension : {".h", ".cpp"}) {
       const std::string name = "rc" + unit + extension;
       tests::checkFile(path.parent_path() / name, files.files["P\\" + name].text);

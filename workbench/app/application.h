@@ -19,6 +19,7 @@
 #include "workbench/project/project.h"
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
+#include "workbench/windows/box_keys.h"
 #include "workbench/workbench.h"
 
 namespace workbench {
@@ -40,8 +41,8 @@ class Application final : public Workbench,
   IIde* ide() { return &root_; }
   // keep_settings: the user's settings are read now and written when they change.
   bool createFrame(HINSTANCE instance, bool keep_settings);
-  // Shows the first source of the project, so that there is something to look at.
-  void showFirstSource();
+  // As a person's start opens it: with a source in sight, so that there is something to look at.
+  void openForPerson(const std::string& path);
   // Runs until the program ends; returns its exit code.
   int run();
 
@@ -92,14 +93,21 @@ class Application final : public Workbench,
     return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
   }
   void frameClosing() override;
-  void programActivated() override { editors_.checkDisk(); }
+  void programActivated() override { editors_.checkDisk(false); }
+  void timePassed() override { editors_.checkDisk(true); }
+  // A script's run is nobody else's.
+  bool mayTakePath() override { return keep_settings_; }
+  void takePath(const std::string& path) override;
   HWND modelessDialog() override { return make_.window(); }
 
  private:
+  void showFirstSource();
   bool openFolder(const std::string& folder);
   bool openProjectFile(const std::string& file);
-  // False when it cannot be read (the reason has been shown).
-  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp);
+  // False when it cannot be read (the reason has been shown). *leftover: where it was read
+  // from instead, else empty.
+  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp,
+                   std::string* leftover);
   // The sources of the folder as a project of this file, fileFor's when empty.
   bool openWalked(const std::string& folder, const std::string& file);
   bool walk(const std::string& folder, FolderContent* content);
@@ -140,13 +148,15 @@ class Application final : public Workbench,
   void showAbout();
 
   EventLog events_;
+  BoxKeys box_keys_;
   DiskStore store_;
   DiskLister lister_;
   EditorSettings settings_;
   bool keep_settings_ = false;
   EditorSet editors_;
   Project project_;
-  FileStamp project_stamp_;  // its file as it was last read or written
+  FileStamp project_stamp_;       // its file as it was last read or written
+  std::string project_leftover_;  // the file that its content was taken from instead
   MessageStore messages_;
   LiveObjects live_;
   IdeRoot root_;

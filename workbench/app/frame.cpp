@@ -4,6 +4,7 @@
 
 #include "ideapi/ide_identifiers.h"
 #include "workbench/windows/command_ids.h"
+#include "workbench/windows/hand_over.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/window_class.h"
 
@@ -11,6 +12,9 @@ namespace workbench {
 namespace {
 
 constexpr UINT kCheckDisk = WM_APP + 1;
+constexpr UINT kTimer = 1;
+constexpr UINT kTimerMs = 2000;
+constexpr UINT kOpenTaken = WM_APP + 2;
 // The Window menu, to which the system appends the list of children.
 constexpr int kWindowMenuPosition = 4;
 
@@ -57,6 +61,7 @@ LRESULT CALLBACK Frame::windowProc(HWND window, UINT message, WPARAM w, LPARAM l
 LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_CREATE:
+      SetTimer(window_, kTimer, kTimerMs, nullptr);
       return createClient() ? 0 : -1;
     case WM_SIZE:
       layOut();
@@ -81,6 +86,19 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
     case kCheckDisk:
       if (!closing_ && IsWindowEnabled(window_) != 0) {
         handler_.programActivated();
+      }
+      return 0;
+    case WM_TIMER:
+      // Menus and drags hold the mouse.
+      if (w == kTimer && !closing_ && IsWindowEnabled(window_) != 0 && GetCapture() == nullptr) {
+        handler_.timePassed();
+      }
+      return 0;
+    case WM_COPYDATA:
+      return takeOver(*reinterpret_cast<const COPYDATASTRUCT*>(l)) ? TRUE : FALSE;
+    case kOpenTaken:
+      if (!closing_ && IsWindowEnabled(window_) != 0) {
+        handler_.takePath(taken_);
       }
       return 0;
     case WM_QUERYENDSESSION:
@@ -132,6 +150,18 @@ void Frame::close() {
   DestroyWindow(window_);
 }
 
+// Opening may ask, and the sender waits no longer than for the answer.
+bool Frame::takeOver(const COPYDATASTRUCT& data) {
+  if (data.dwData != kHandOver || data.cbData == 0 || closing_ || IsWindowEnabled(window_) == 0 ||
+      !handler_.mayTakePath()) {
+    return false;
+  }
+  taken_.assign(static_cast<const char*>(data.lpData), data.cbData - 1);
+  ShowWindow(window_, IsIconic(window_) != 0 ? SW_RESTORE : SW_SHOW);
+  SetForegroundWindow(window_);
+  return PostMessageA(window_, kOpenTaken, 0, 0) != 0;
+}
+
 void Frame::layOut() {
   RECT area = {};
   GetClientRect(window_, &area);
@@ -181,8 +211,10 @@ void Frame::setTitle(const std::string& title) {
 }
 
 int Frame::run() {
+  // Only the wide calls bring characters beyond the code page to a window that takes them.
+  const bool wide = (GetVersion() & 0x80000000U) == 0;
   MSG message = {};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+  while ((wide ? GetMessageW(&message, nullptr, 0, 0) : GetMessageA(&message, nullptr, 0, 0)) > 0) {
     HWND dialog = handler_.modelessDialog();
     if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
       continue;
@@ -193,7 +225,11 @@ int Frame::run() {
       continue;
     }
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    if (wide) {
+      DispatchMessageW(&message);
+    } else {
+      DispatchMessageA(&message);
+    }
   }
   return static_cast<int>(message.wParam);
 }

@@ -24,6 +24,11 @@ class FrameHandler {
   // The editors are gone, the frame's windows still stand.
   virtual void frameClosing() = 0;
   virtual void programActivated() = 0;
+  // Every two seconds in which no box, menu or drag holds the frame.
+  virtual void timePassed() = 0;
+  // Another start of the program gives its path away; empty for none. False refuses it.
+  virtual bool mayTakePath() = 0;
+  virtual void takePath(const std::string& path) = 0;
   // The dialog that is open without a loop of its own; null for none.
   virtual HWND modelessDialog() = 0;
 
@@ -61,6 +66,7 @@ class Frame {
   bool mayClose();
   // Ends the program, from within whatever menu, box or dialog is open.
   void close();
+  bool takeOver(const COPYDATASTRUCT& data);
 
   FrameHandler& handler_;
   HINSTANCE instance_ = nullptr;
@@ -73,6 +79,7 @@ class Frame {
   OwnedAccelerators accelerators_;
   bool asking_ = false;
   bool closing_ = false;
+  std::string taken_;  // a path that another start gave away
 };
 
 }  // namespace workbench

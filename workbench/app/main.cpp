@@ -50,9 +50,10 @@ int runProgram(HINSTANCE instance, const std::vector<std::string>& arguments, in
     driver.start();
   }
   if (!line.path.empty()) {
-    application.openPath(line.path);
-    if (!scripted && application.activeEditor() == nullptr) {
-      application.showFirstSource();
+    if (scripted) {
+      application.openPath(line.path);
+    } else {
+      application.openForPerson(line.path);
     }
   }
   return application.run();

@@ -19,6 +19,8 @@ constexpr int kCalmTicks = 2;
 constexpr DWORD kBusyMs = 2000;
 constexpr DWORD kBoxMs = 3000;
 constexpr DWORD kCloseMs = 20000;
+// A call that has let no tick through for this time holds up the thread.
+constexpr DWORD kHeldMs = 1000;
 
 bool queueEmpty() {
   DWORD waiting =
@@ -37,6 +39,7 @@ struct ScriptDriver::State {
   void tick();
   bool calm();
   void tryStep();
+  void tryStepsHeldUp();
   void close();
   void tidyUp();
   void frameGone();
@@ -60,6 +63,7 @@ struct ScriptDriver::State {
   int attempt = 0;
   DWORD waiting_since = 0;  // when the step was first looked at
   DWORD busy_since = 0;     // when the last step was tried
+  DWORD ticked_at = 0;      // when the timer last came
   int calm_ticks = 0;
   int under_way = 0;  // steps whose call has not returned
   int exit_code = 0;
@@ -75,7 +79,7 @@ void ScriptDriver::State::begin() {
   observer->onFrameGone([](void* state) { static_cast<State*>(state)->frameGone(); }, this);
   stage.reset(new Stage(workbench, *observer, history));
   Watchdog::instance().start();
-  waiting_since = busy_since = GetTickCount();
+  waiting_since = busy_since = ticked_at = GetTickCount();
   g_running = this;
   timer = SetTimer(nullptr, 0, kTickMs, onTimer);
   ScriptError error;
@@ -92,6 +96,7 @@ void CALLBACK ScriptDriver::State::onTimer(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void ScriptDriver::State::tick() {
+  ticked_at = GetTickCount();
   if (phase == Phase::kEnded) {
     tidyUp();
     return;
@@ -151,6 +156,20 @@ void ScriptDriver::State::tryStep() {
   } else if (next == current + 1) {
     next = std::exchange(stage->next_line, std::nullopt).value_or(next);
     nextLine();
+  }
+}
+
+// Called from within what holds up the thread, at what it tells: a person looks on and
+// presses keys meanwhile.
+void ScriptDriver::State::tryStepsHeldUp() {
+  while (phase == Phase::kSteps && stage != nullptr && next < lines.size() &&
+         GetTickCount() - ticked_at >= kHeldMs &&
+         findVerb(lines[next].verb)->readiness == Readiness::kHeldUp) {
+    const size_t tried = next;
+    tryStep();
+    if (next == tried) {
+      return;
+    }
   }
 }
 
@@ -236,7 +255,13 @@ void ScriptDriver::State::tidyUp() {
 
 ScriptDriver::ScriptDriver(Workbench& workbench) : state_(new State(workbench)) {
   State* state = state_.get();
-  workbench.events().setListener([state](const Event& event) { state->history.add(event); });
+  workbench.events().setListener([state](const Event& event) {
+    state->history.add(event);
+    Watchdog::instance().alive();
+    if (event.name() == "status") {
+      state->tryStepsHeldUp();
+    }
+  });
 }
 
 ScriptDriver::~ScriptDriver() {

@@ -5,6 +5,7 @@ namespace {
 
 constexpr Readiness kBeside = Readiness::kBesideBoxes;
 constexpr Readiness kWithout = Readiness::kWithoutBox;
+constexpr Readiness kHeldUp = Readiness::kHeldUp;
 
 constexpr VerbInfo kVerbs[] = {
     {Verb::kActivate, kBeside, "activate", 0, 0, "activate"},
@@ -30,17 +31,18 @@ constexpr VerbInfo kVerbs[] = {
      "double-click-title FILE 0|1|2"},
     {Verb::kDump, kBeside, "dump", 1, 1,
      "dump menu|bar|editors|documents|windows|dialog|text|project|messages|clipboard"},
-    {Verb::kEcho, kBeside, "echo", 1, 1, "echo TEXT"},
+    {Verb::kEcho, kHeldUp, "echo", 1, 1, "echo TEXT"},
     {Verb::kEdit, kWithout, "edit", 1, 2, "edit FILE [LINE]"},
     {Verb::kEndRepeat, kBeside, "end-repeat", 0, 0, "end-repeat"},
     {Verb::kEndSession, kBeside, "end-session", 0, 0, "end-session"},
-    {Verb::kExpect, kBeside, "expect", 3, 3, "expect EVENT KEY VALUE"},
-    {Verb::kExpectNot, kBeside, "expect-not", 1, 3, "expect-not EVENT [KEY VALUE]"},
+    {Verb::kExpect, kHeldUp, "expect", 3, 3, "expect EVENT KEY VALUE"},
+    {Verb::kExpectButtons, kBeside, "expect-buttons", 1, 2, "expect-buttons FILE [left|right]"},
+    {Verb::kExpectNot, kHeldUp, "expect-not", 1, 3, "expect-not EVENT [KEY VALUE]"},
     {Verb::kExpectRegistry, kBeside, "expect-registry", 3, 3, "expect-registry SECTION NAME TEXT"},
     {Verb::kHandles, kBeside, "handles", 0, 0, "handles"},
-    {Verb::kKey, kBeside, "key", 1, 1, "key [Ctrl+][Alt+][Shift+]KEY"},
+    {Verb::kKey, kHeldUp, "key", 1, 1, "key [Ctrl+][Alt+][Shift+]KEY"},
     {Verb::kMake, kWithout, "make", 0, 1, "make [ok|fail]"},
-    {Verb::kMark, kBeside, "mark", 0, 0, "mark"},
+    {Verb::kMark, kHeldUp, "mark", 0, 0, "mark"},
     {Verb::kMaximize, kBeside, "maximize", 0, 0, "maximize"},
     {Verb::kMemory, kBeside, "memory", 0, 0, "memory"},
     {Verb::kMessageOpen, kWithout, "message-open", 1, 1, "message-open N"},
@@ -61,13 +63,13 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kRightClickTitle, kWithout, "right-click-title", 1, 1, "right-click-title FILE"},
     {Verb::kSave, kWithout, "save", 0, 1, "save [FILE]"},
     {Verb::kSaveProject, kWithout, "save-project", 0, 0, "save-project"},
-    {Verb::kScreenshot, kBeside, "screenshot", 1, 1, "screenshot FILE.bmp"},
+    {Verb::kScreenshot, kHeldUp, "screenshot", 1, 1, "screenshot FILE.bmp"},
     {Verb::kSelect, kWithout, "select", 4, 4, "select LINE COL LINE COL"},
     {Verb::kSelectItem, kWithout, "select-item", 2, 2, "select-item ID INDEX"},
     {Verb::kSet, kWithout, "set", 2, 2, "set ID TEXT"},
     {Verb::kTick, kWithout, "tick", 1, 1, "tick N"},
     {Verb::kType, kWithout, "type", 1, 1, "type TEXT"},
-    {Verb::kWait, kBeside, "wait", 1, 3, "wait EVENT [KEY VALUE]"},
+    {Verb::kWait, kHeldUp, "wait", 1, 3, "wait EVENT [KEY VALUE]"},
 };
 static_assert(sizeof kVerbs / sizeof *kVerbs == kVerbCount);
 

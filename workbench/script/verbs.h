@@ -32,6 +32,7 @@ enum class Verb {
   kEndRepeat,
   kEndSession,
   kExpect,
+  kExpectButtons,
   kExpectNot,
   kExpectRegistry,
   kHandles,
@@ -70,7 +71,8 @@ inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWait) + 1;
 
 // Whether a step waits while a message box that nobody has answered is open.
 enum class Readiness {
-  kBesideBoxes,  // runs at any time
+  kBesideBoxes,  // does not wait
+  kHeldUp,       // nor for a call that holds up the thread, once that lasts
   kWithoutBox,   // waits for the box to go
 };
 

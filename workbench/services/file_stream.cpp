@@ -81,12 +81,17 @@ long STDMETHODCALLTYPE FileStream::Read(void* buffer, long count) {
     position_ += given;
     return given;
   }
+  if (disk_at_ != position_ &&
+      SetFilePointer(disk_.get(), position_, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER) {
+    return -1;
+  }
   DWORD given = 0;
-  if (SetFilePointer(disk_.get(), position_, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER ||
-      ReadFile(disk_.get(), buffer, static_cast<DWORD>(count), &given, nullptr) == 0) {
+  disk_at_ = -1;
+  if (ReadFile(disk_.get(), buffer, static_cast<DWORD>(count), &given, nullptr) == 0) {
     return -1;
   }
   position_ += static_cast<long>(given);
+  disk_at_ = position_;
   return static_cast<long>(given);
 }
 
@@ -96,6 +101,7 @@ void STDMETHODCALLTYPE FileStream::Close() {
   buffer_.clear();
   size_ = 0;
   position_ = 0;
+  disk_at_ = 0;
 }
 
 }  // namespace workbench

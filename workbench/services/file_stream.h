@@ -26,6 +26,7 @@ class FileStream final : public Transient<FileStream, IFileStream> {
   std::string name_;  // last asked for
   bool open_ = false;
   OwnedFile disk_;      // null while the bytes are an editor's
+  long disk_at_ = 0;    // where the file's own position stands, -1 when unknown
   std::string buffer_;  // the editor's text when it was opened
   long size_ = 0;       // bytes
   long position_ = 0;

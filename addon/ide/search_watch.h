@@ -1,0 +1,32 @@
+// What a person has of a search that lasts, although it holds the user-interface thread:
+// after a second the status line tells how far it is, uncovered windows are painted, and
+// Escape ends it. Nothing else that waits in the thread's queue is looked at: commands and
+// keys come after the search, but for that Escape, which is gone. User-interface thread
+// only; made when the search begins.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "addon/foundation/folders.h"
+
+namespace kesto {
+
+class SearchWatch : public WalkWatch {
+ public:
+  // The text names the search; how far it is stands behind it.
+  explicit SearchWatch(std::string text);
+  bool goOn(int directories, int files) override;
+  bool stopped() const { return stopped_; }
+
+ private:
+  std::string text_;
+  // Milliseconds of the system's clock.
+  DWORD begun_;
+  DWORD looked_;
+  DWORD told_;
+  bool stopped_ = false;
+};
+
+}  // namespace kesto

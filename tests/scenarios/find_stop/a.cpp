@@ -1,0 +1,5 @@
+int Frame::Size(void)
+{
+    Paint(1);
+    return Paint(2);
+}
