@@ -122,6 +122,10 @@ void startAddon(IIde* ide) {
 }
 
 void stopAddon() {
+  // While there is still a status line to tell of it.
+  if (documentationRun != nullptr) {
+    documentationRun->finish();
+  }
   if (recentFiles != nullptr) {
     recentFiles->save();
   }

@@ -123,6 +123,12 @@ void nodeChanged(ProjectNode node, const char* name) {
   }
 }
 
+void treeChanged() {
+  if (barMenu != nullptr) {
+    barMenu->rebuildSoon();
+  }
+}
+
 void actOnMakeStart() {
   if (generalBehaviours != nullptr) {
     generalBehaviours->makeStarted();
@@ -153,8 +159,9 @@ constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace
 
-constinit const ProjectOrder kProjectOrder = {
-    kAnnounced, kOpened, kSettled, kClosing, kClosingLoaded, kClosed, kGone, kSaved, nodeChanged};
+constinit const ProjectOrder kProjectOrder = {kAnnounced,     kOpened,    kSettled, kClosing,
+                                              kClosingLoaded, kClosed,    kGone,    kSaved,
+                                              nodeChanged,    treeChanged};
 constinit const MakeOrder kMakeOrder = {kMakeStarted, kMakeEnded};
 
 }  // namespace kesto

@@ -3,15 +3,12 @@
 //                           many pages it wrote
 //
 // Only the listing of directories and the paths are this system's.
-#include <sys/stat.h>
-
 #include <cstdio>
 #include <string>
 
 #include "addon/foundation/message_box.h"
-#include "addon/foundation/text_file.h"
 #include "addon/html/site_generation.h"
-#include "bench/posix_listing.h"
+#include "bench/posix_files.h"
 
 namespace kesto {
 
@@ -21,17 +18,6 @@ int showMessage(void* /*owner*/, const char* text, const char* /*caption*/, unsi
 }
 
 namespace {
-
-class NativeFiles : public SiteFiles {
- public:
-  bool read(const char* path, std::string& text) override {
-    return readTextFile(nativePath(path).c_str(), text);
-  }
-  void makeDirectory(const char* path) override { mkdir(nativePath(path).c_str(), 0777); }
-  bool write(const char* path, std::string_view text) override {
-    return writeTextFile(nativePath(path).c_str(), text);
-  }
-};
 
 class Counts : public SiteProgress {
  public:
@@ -43,7 +29,7 @@ class Counts : public SiteProgress {
 
 int generate(const char* tree, const char* filters) {
   PosixListing lister;
-  NativeFiles files;
+  PosixFiles files;
   Counts counts;
   if (!generateSite({tree, filters, "Bench"}, lister, files, counts)) {
     return 1;

@@ -3,7 +3,6 @@
 //
 // "plain" reads the bytes that the first run reads and writes those that it writes, and
 // deletes the files before as that run does; nothing is composed.
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -15,7 +14,7 @@
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/text_file.h"
 #include "addon/rcgen/generator_run.h"
-#include "bench/posix_listing.h"
+#include "bench/posix_files.h"
 #include "bench/turns.h"
 
 namespace kesto {
@@ -34,66 +33,62 @@ constexpr int kScriptsOfUnit = 10;
 constexpr int kDialogsOfScript = 6;
 constexpr int kRounds = 31;
 
-// What the generator did through it, besides doing it.
-class PosixFiles : public RcFiles {
+// What was done through it, besides doing it.
+class NotingFiles : public PosixFiles {
  public:
   std::vector<std::string> reads;
-  std::vector<std::string> removals;
-  std::map<std::string, std::string> writes;
+  std::map<std::string, std::string> writes;  // by the paths where they came to stand
 
-  void list(const char* directory, const char* mask, DirectoryEntries& entries) override {
-    listing_.list(directory, mask, entries);
-  }
-  std::optional<RcFileStatus> status(const char* path) override {
-    struct stat found = {};
-    if (stat(nativePath(path).c_str(), &found) != 0) {
-      return std::nullopt;
-    }
-    return RcFileStatus{found.st_mtim.tv_sec * 1000000000LL + found.st_mtim.tv_nsec,
-                        S_ISDIR(found.st_mode)};
-  }
   bool read(const char* path, std::string& text) override {
     if (noting_) {
       reads.emplace_back(nativePath(path));
     }
-    return readTextFile(nativePath(path).c_str(), text);
-  }
-  bool append(const char* path, std::string_view text) override {
-    if (noting_) {
-      writes[nativePath(path)] += text;
-    }
-    return appendTextFile(nativePath(path).c_str(), text);
+    return PosixFiles::read(path, text);
   }
   bool write(const char* path, std::string_view text) override {
     if (noting_) {
-      writes[nativePath(path)] = text;
+      growing_[path] = text;
     }
-    return writeTextFile(nativePath(path).c_str(), text);
+    return PosixFiles::write(path, text);
   }
-  void remove(const char* path) override {
+  bool append(const char* path, std::string_view text) override {
     if (noting_) {
-      removals.emplace_back(nativePath(path));
+      growing_[path] += text;
     }
-    unlink(nativePath(path).c_str());
+    return PosixFiles::append(path, text);
   }
-  void rename(const char* path, const char* new_path) override {
-    const std::string target = nativePath(new_path);
-    if (access(target.c_str(), F_OK) != 0) {
-      ::rename(nativePath(path).c_str(), target.c_str());
+  bool replace(const char* path, const char* new_path) override {
+    if (noting_) {
+      writes[nativePath(new_path)] = growing_[path];
     }
+    return PosixFiles::replace(path, new_path);
   }
 
   // Noting takes time of its own.
   void setNoting(bool noting) {
     noting_ = noting;
     reads.clear();
-    removals.clear();
     writes.clear();
   }
 
  private:
-  PosixListing listing_;
+  std::map<std::string, std::string> growing_;
   bool noting_ = false;
+};
+
+class NoNotices : public GeneratorNotices {
+ public:
+  void notice(const std::string& /*text*/) override {}
+};
+
+struct Host {
+  PosixListing lister;
+  NotingFiles files;
+  NoNotices notices;
+
+  void run(const std::string& directory, GeneratorSwitches switches, std::int32_t& build_number) {
+    runGenerator({lister, files, notices}, directory, switches, build_number);
+  }
 };
 
 std::string scriptText(int number) {
@@ -170,12 +165,12 @@ void removeAll(const std::map<std::string, std::string>& outputs) {
 
 // What a run with these switches costs, and what its reading and writing alone does.
 void compare(const char* name, const char* plain_name, const std::string& directory,
-             GeneratorSwitches switches, PosixFiles& files) {
+             GeneratorSwitches switches, Host& host) {
+  NotingFiles& files = host.files;
   std::int32_t build_number = 0;
   files.setNoting(true);
-  runGenerator(files, directory, switches, build_number);
+  host.run(directory, switches, build_number);
   const std::vector<std::string> reads = files.reads;
-  const std::vector<std::string> removals = files.removals;
   const std::map<std::string, std::string> writes = files.writes;
   files.setNoting(false);
   std::string text;
@@ -187,15 +182,12 @@ void compare(const char* name, const char* plain_name, const std::string& direct
   };
   Turns turns;
   turns.add(
-      name, [&] { runGenerator(files, directory, switches, build_number); }, prepare);
+      name, [&] { host.run(directory, switches, build_number); }, prepare);
   turns.add(
       plain_name,
       [&] {
         for (const std::string& path : reads) {
           readTextFile(path.c_str(), text);
-        }
-        for (const std::string& path : removals) {
-          unlink(path.c_str());
         }
         for (const auto& output : writes) {
           writeTextFile(output.first.c_str(), output.second);
@@ -208,12 +200,13 @@ void compare(const char* name, const char* plain_name, const std::string& direct
 int measure(const std::string& directory) {
   const Project project = makeProject(directory);
   printf("scripts %d\nscript-bytes %zu\n", project.scripts, project.bytes);
-  PosixFiles files;
+  Host host;
+  NotingFiles& files = host.files;
   std::int32_t build_number = 0;
   constexpr GeneratorSwitches kClasses = {true, false};
 
   files.setNoting(true);
-  runGenerator(files, directory, kClasses, build_number);
+  host.run(directory, kClasses, build_number);
   const std::map<std::string, std::string> outputs = files.writes;
   std::size_t bytes = 0;
   for (const auto& output : outputs) {
@@ -221,17 +214,17 @@ int measure(const std::string& directory) {
   }
   printf("outputs %zu\noutput-bytes %zu\n", outputs.size(), bytes);
   files.setNoting(true);
-  runGenerator(files, directory, kClasses, build_number);
+  host.run(directory, kClasses, build_number);
   printf("second-reads %zu\nsecond-writes %zu\n", files.reads.size(), files.writes.size());
   files.setNoting(false);
   Turns turns;
-  turns.add("second", [&] { runGenerator(files, directory, kClasses, build_number); });
+  turns.add("second", [&] { host.run(directory, kClasses, build_number); });
   turns.run(kRounds);
 
   removeAll(outputs);
-  compare("first", "plain", directory, kClasses, files);
+  compare("first", "plain", directory, kClasses, host);
   makeVersions(directory);
-  compare("stamp", "stamp-plain", directory, {false, true}, files);
+  compare("stamp", "stamp-plain", directory, {false, true}, host);
   printf("stamped %d\n", kUnits);
   return 0;
 }

@@ -1,5 +1,6 @@
 // Texts that come from outside: paths, titles, lists, numbers, text files, and the
 // options that a project keeps.
+#include <algorithm>
 #include <climits>
 #include <functional>
 #include <map>
@@ -50,17 +51,26 @@ void checkTitle(std::string_view title) {
   FUZZ_CHECK(title.starts_with(file) && fileWithoutLine(file) == file);
 }
 
+bool isBlank(std::string_view text) {
+  return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
 void checkList(std::string_view list) {
-  std::string entries;
   std::string_view rest = list;
   std::string_view entry;
+  std::size_t end = 0;  // of the entry before, its blanks and its ";" included
   while (nextListEntry(rest, entry)) {
     FUZZ_CHECK(!entry.empty() && entry.find(';') == std::string_view::npos);
-    entries += (entries.empty() ? "" : ";") + std::string(entry);
+    FUZZ_CHECK(entry.front() != ' ' && entry.back() != ' ');
+    const std::size_t start = static_cast<std::size_t>(entry.data() - list.data());
+    FUZZ_CHECK(start >= end);
+    FUZZ_CHECK(isBlank(list.substr(end, start - end)));
+    const std::size_t next = std::min(list.find(';', end), list.size());
+    FUZZ_CHECK(isBlank(list.substr(start + entry.size(), next - start - entry.size())));
+    end = std::min(next + 1, list.size());
   }
-  FUZZ_CHECK(list.starts_with(entries));
-  rest = list.substr(entries.size());
-  FUZZ_CHECK(rest.empty() || rest.front() == ';');
+  // What ended the list: nothing at all between two ";", or the end.
+  FUZZ_CHECK(isBlank(list.substr(end, list.find(';', end) - end)));
 }
 
 void checkNumber(const char* text) {

@@ -96,8 +96,9 @@ struct IEditorService : IUnknown {
   virtual IIdeString* STDMETHODCALLTYPE GetLine(int line) = 0;
   // Inserts at the cursor and leaves the cursor before the new text.
   virtual void STDMETHODCALLTYPE InsertText(IIdeString* text) = 0;
-  // Saves every modified buffer. Returns the number saved and, when it is not
-  // 0, their names separated by ", " in *names.
+  // Saves every modified buffer that can be saved without asking the user: none without
+  // a name, and none whose file another program changed. Returns the number saved and,
+  // when it is not 0, their names separated by ", " in *names.
   virtual int STDMETHODCALLTYPE SaveModified(IIdeString** names) = 0;
 };
 
@@ -256,7 +257,8 @@ struct IToolImplementor : IUnknown {
 struct IToolService : IUnknown {
   // The tool of that name, or 0.
   virtual ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) = 0;
-  // A ToolResult; a tool that is gone answers kToolNotHandled.
+  // A ToolResult; a tool that is gone answers kToolNotHandled. "EditText" opens one more
+  // view of a file that an editor shows already.
   virtual int STDMETHODCALLTYPE RunTool(ToolHandle tool, IIdeString* file) = 0;
   // Adds a tool to the Tool menu; the service keeps a reference of the
   // implementor until the tool is removed. Returns 0 when the name is taken.

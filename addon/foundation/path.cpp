@@ -59,6 +59,19 @@ void upperAscii(char* text) {
   }
 }
 
+void lowerAscii(char* text) {
+  for (; *text != '\0'; ++text) {
+    if (*text >= 'A' && *text <= 'Z') {
+      *text = static_cast<char>(*text - 'A' + 'a');
+    }
+  }
+}
+
+bool equalIgnoringCase(std::string_view left, std::string_view right) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [](char a, char b) { return upperAscii(a) == upperAscii(b); });
+}
+
 bool titleMatches(std::string_view title, std::string_view wanted_upper) {
   for (std::size_t at = 0; at + wanted_upper.size() <= title.size(); ++at) {
     const bool begins = at == 0 || title[at - 1] == '\\' || title[at - 1] == '/';
@@ -74,6 +87,8 @@ bool titleMatches(std::string_view title, std::string_view wanted_upper) {
 bool nextListEntry(std::string_view& rest, std::string_view& entry) {
   const std::size_t separator = rest.find(';');
   entry = rest.substr(0, separator);
+  entry.remove_prefix(std::min(entry.find_first_not_of(' '), entry.size()));
+  entry = entry.substr(0, entry.find_last_not_of(' ') + 1);
   rest =
       separator == std::string_view::npos ? rest.substr(rest.size()) : rest.substr(separator + 1);
   return !entry.empty();

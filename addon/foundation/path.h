@@ -39,13 +39,16 @@ constexpr char upperAscii(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 void upperAscii(char* text);
+void lowerAscii(char* text);  // A to Z only
+// Whether the texts are the same but for the case of a to z.
+bool equalIgnoringCase(std::string_view left, std::string_view right);
 
 // Whether the title, in upper case, holds wanted_upper at its start or after a "\"
 // or "/", and followed by the title's end or by ":".
 bool titleMatches(std::string_view title, std::string_view wanted_upper);
 
-// Takes the first entry off a ";" list; false at the list's end, which an empty
-// entry is as well.
+// Takes the first entry off a ";" list, without the blanks around it; false at the
+// list's end, which an empty entry is as well.
 bool nextListEntry(std::string_view& rest, std::string_view& entry);
 
 }  // namespace kesto

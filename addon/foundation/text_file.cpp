@@ -20,13 +20,13 @@ bool writeWith(const char* mode, const char* path, std::string_view text) {
   if (file == nullptr) {
     return false;
   }
-  const bool written = fwrite(text.data(), 1, text.size(), file) == text.size();
+  // Of what is written as it closes, a run-time library may hide that it was not.
+  const bool written =
+      fwrite(text.data(), 1, text.size(), file) == text.size() && fflush(file) == 0;
   return fclose(file) == 0 && written;
 }
 
-}  // namespace
-
-bool readTextFile(const char* path, std::string& text) {
+bool readBytes(const char* path, std::string& text) {
   text.clear();
   const File file(fopen(path, "rb"));
   // A directory that opens has no such end.
@@ -43,8 +43,47 @@ bool readTextFile(const char* path, std::string& text) {
     text.clear();
     return false;
   }
+  return true;
+}
+
+// The next character of the bytes as writeTextFile leaves it: whether it is that one.
+bool takeWritten(std::string_view& bytes, char c) {
+#ifdef _WIN32
+  if (c == '\n' && bytes.starts_with('\r')) {
+    bytes.remove_prefix(1);
+  } else if (c == '\n') {
+    return false;
+  }
+#endif
+  if (!bytes.starts_with(c)) {
+    return false;
+  }
+  bytes.remove_prefix(1);
+  return true;
+}
+
+}  // namespace
+
+bool readTextFile(const char* path, std::string& text) {
+  if (!readBytes(path, text)) {
+    return false;
+  }
   takeTextMode(text);
   return true;
+}
+
+bool holdsText(const char* path, std::string_view text) {
+  std::string bytes;
+  if (!readBytes(path, bytes)) {
+    return false;
+  }
+  std::string_view rest = bytes;
+  return std::all_of(text.begin(), text.end(), [&rest](char c) { return takeWritten(rest, c); }) &&
+         rest.empty();
+}
+
+bool isUtf16(std::string_view text) {
+  return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF");
 }
 
 void takeTextMode(std::string& bytes) {
@@ -80,7 +119,9 @@ bool TextLines::next(std::string_view& line) {
   const std::size_t end = reach.find('\n');
   const std::size_t size = end == std::string_view::npos ? reach.size() : end + 1;
   line = reach.substr(0, size);
-  line = line.substr(0, line.find('\0'));
+  if (holds_zeros_) {
+    line = line.substr(0, line.find('\0'));
+  }
   rest_.remove_prefix(size);
   return true;
 }

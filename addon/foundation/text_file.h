@@ -15,11 +15,15 @@ inline constexpr long kTextFileLimit = 256L * 1024 * 1024;
 // Replaces text by the file's. False, and text empty, when it cannot be opened, is a
 // directory or is longer than the limit.
 bool readTextFile(const char* path, std::string& text);
+// Whether the text begins with the mark of UTF-16, of either byte order.
+bool isUtf16(std::string_view text);
 // What a file of these bytes holds as text.
 void takeTextMode(std::string& bytes);
 // Creates or overwrites the file; line feeds become the system's line ends. False when
 // the file cannot be created or written whole.
 bool writeTextFile(const char* path, std::string_view text);
+// Whether the file is, byte for byte, what writeTextFile would leave.
+bool holdsText(const char* path, std::string_view text);
 // The same, but goes on after what the file holds.
 bool appendTextFile(const char* path, std::string_view text);
 
@@ -28,7 +32,8 @@ bool appendTextFile(const char* path, std::string_view text);
 // line. A zero byte hides what follows it in its piece. The text must outlive it.
 class TextLines {
  public:
-  TextLines(std::string_view text, std::size_t limit) : rest_(text), most_(limit - 1) {}
+  TextLines(std::string_view text, std::size_t limit)
+      : rest_(text), most_(limit - 1), holds_zeros_(text.find('\0') != std::string_view::npos) {}
 
   // The next piece with its line feed, if it has one; false at the text's end.
   bool next(std::string_view& line);
@@ -36,6 +41,7 @@ class TextLines {
  private:
   std::string_view rest_;
   std::size_t most_;
+  bool holds_zeros_;
 };
 
 // Codes below 32; letters beyond 127 are none.

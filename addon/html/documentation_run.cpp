@@ -5,9 +5,9 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/path.h"
-#include "addon/foundation/text_file.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/current_project.h"
@@ -28,13 +28,6 @@ constexpr std::size_t kProjectExtension = 4;
 // What ShellExecute yields for a failure at most.
 constexpr INT_PTR kShellFailure = 32;
 
-class DiskFiles : public SiteFiles {
- public:
-  bool read(const char* path, std::string& text) override { return readTextFile(path, text); }
-  void makeDirectory(const char* path) override { CreateDirectoryA(path, nullptr); }
-  bool write(const char* path, std::string_view text) override { return writeTextFile(path, text); }
-};
-
 std::string projectName() {
   std::string name(fileNamePart(projectFile()));
   name.resize(name.size() > kProjectExtension ? name.size() - kProjectExtension : 0);
@@ -44,19 +37,23 @@ std::string projectName() {
 }  // namespace
 
 DocumentationRun::~DocumentationRun() {
-  join();
+  finish();
 }
 
 // Windows of other threads may send to this one's meanwhile, a box of the generation among them.
-void DocumentationRun::join() {
+void DocumentationRun::finish() {
   if (thread_ == nullptr) {
     return;
   }
-  while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_SENDMESSAGE) ==
-         WAIT_OBJECT_0 + 1) {
+  DWORD woken = 0;
+  while ((woken = MsgWaitForMultipleObjects(1, &thread_, FALSE, kProgressPeriod, QS_SENDMESSAGE)) !=
+             WAIT_OBJECT_0 &&
+         woken != WAIT_FAILED) {
     MSG message;
     PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
+    showProgress();
   }
+  showProgress();
   CloseHandle(thread_);
   thread_ = nullptr;
 }
@@ -71,7 +68,7 @@ void DocumentationRun::generate() {
     showMessage(nullptr, "HTML generation in progress", "Warning", kMessageOk);
     return;
   }
-  join();
+  finish();
   request_ = {projectDirectory(), htmlSettings->filters(), projectName()};
   phase_ = Phase::kIdle;
   shown_.clear();
@@ -86,7 +83,7 @@ DWORD WINAPI DocumentationRun::work(void* run) {
   DocumentationRun& self = *static_cast<DocumentationRun*>(run);
   ++runningGenerations;
   DirectoryListing listing;
-  DiskFiles files;
+  FileSystemWin files;
   const bool whole = generateSite(self.request_, listing, files, self);
   self.phase_ = whole ? Phase::kDone : Phase::kStopped;
   --runningGenerations;
@@ -119,6 +116,7 @@ void DocumentationRun::post() {
 
 void DocumentationRun::showProgress() {
   const int done = done_;
+  const int refused = all_ - done;
   char text[100] = "";
   switch (phase_) {
     case Phase::kIdle:
@@ -130,7 +128,11 @@ void DocumentationRun::showProgress() {
       snprintf(text, sizeof text, "HTML generation: page %d of %d", done, all_.load());
       break;
     case Phase::kDone:
-      snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+      if (refused > 0) {
+        snprintf(text, sizeof text, "HTML generation: %d pages written, %d refused", done, refused);
+      } else {
+        snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+      }
       break;
     case Phase::kStopped:
       snprintf(text, sizeof text, "HTML generation stopped");

@@ -17,8 +17,6 @@ class DocumentationRun : private SiteProgress {
  public:
   // bar: the window that the progress is posted to, as kDocumentationMessage.
   explicit DocumentationRun(HWND bar) : bar_(bar) {}
-  // Waits for the generation that runs: a site left half written would have links that
-  // lead nowhere.
   ~DocumentationRun() override;
   DocumentationRun(const DocumentationRun&) = delete;
   DocumentationRun& operator=(const DocumentationRun&) = delete;
@@ -26,6 +24,9 @@ class DocumentationRun : private SiteProgress {
   // Starts a generation. One that runs is told of in a box, and nothing starts; nothing
   // happens without a project.
   void generate();
+  // Waits for the generation that runs, and goes on putting on the status line how far it
+  // is: a site left half written would have links that lead nowhere.
+  void finish();
   // Opens the site in the user's browser.
   void show();
   // Puts on the status line how far the generation is.
@@ -39,7 +40,6 @@ class DocumentationRun : private SiteProgress {
   void writing(int pages, int all) override;
   void tell(Phase phase, int done, int all);
   void post();
-  void join();
 
   HWND bar_;
   HANDLE thread_ = nullptr;

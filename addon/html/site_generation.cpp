@@ -16,7 +16,7 @@ constexpr const char* kCompanionExtension = ".txt";
 // documentation that is kept out of the source.
 class ModelBuilder : public FileVisitor {
  public:
-  ModelBuilder(htProjet& projet, SiteFiles& files, SiteProgress& progress)
+  ModelBuilder(htProjet& projet, FileSystem& files, SiteProgress& progress)
       : projet_(projet), files_(files), progress_(progress) {}
 
   bool visit(const char* path) override {
@@ -42,13 +42,13 @@ class ModelBuilder : public FileVisitor {
   }
 
   htProjet& projet_;
-  SiteFiles& files_;
+  FileSystem& files_;
   SiteProgress& progress_;
   std::string text_;
   bool failed_ = false;
 };
 
-bool buildModel(htProjet& projet, DirectoryLister& lister, SiteFiles& files,
+bool buildModel(htProjet& projet, DirectoryLister& lister, FileSystem& files,
                 SiteProgress& progress) {
   Folders folders(lister);
   ModelBuilder builder(projet, files, progress);
@@ -77,7 +77,7 @@ std::string siteStartPage(std::string_view directory, std::string_view project_n
   return path;
 }
 
-bool generateSite(const SiteRequest& request, DirectoryLister& lister, SiteFiles& files,
+bool generateSite(const SiteRequest& request, DirectoryLister& lister, FileSystem& files,
                   SiteProgress& progress) {
   htProjet projet(request.directory, request.filters, request.project_name);
   return buildModel(projet, lister, files, progress) &&

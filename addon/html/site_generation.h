@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "addon/foundation/directory_walk.h"
+#include "addon/foundation/file_system.h"
 
 namespace kesto {
 
@@ -16,22 +17,11 @@ struct SiteRequest {
   std::string project_name;  // without directory and extension
 };
 
-// Text files: line ends are line feeds on this side.
-class SiteFiles {
- public:
-  virtual ~SiteFiles() = default;
-  // Replaces text by the file's; false when it cannot be opened.
-  virtual bool read(const char* path, std::string& text) = 0;
-  // Leaves one that is there as it is. Where none can be made, no page can be written.
-  virtual void makeDirectory(const char* path) = 0;
-  // Creates or overwrites; false when the file cannot be written.
-  virtual bool write(const char* path, std::string_view text) = 0;
-};
-
 class SiteProgress {
  public:
   virtual ~SiteProgress() = default;
   virtual void reading(int files_read) = 0;
+  // After each page, also one that was left out.
   virtual void writing(int pages_written, int pages) = 0;
 };
 
@@ -40,10 +30,10 @@ std::string siteDirectory(std::string_view directory);
 // The full path of the page that shows the site.
 std::string siteStartPage(std::string_view directory, std::string_view project_name);
 
-// Reads the sources and writes every page. Files that cannot be read and pages that
-// cannot be written are left out; false only after a failed internal check, which was
-// shown and at which the generation stopped.
-bool generateSite(const SiteRequest& request, DirectoryLister& lister, SiteFiles& files,
+// Reads the sources and writes every page, each of which is there as it was or whole at
+// any time. Files that cannot be read and pages that cannot be written are left out; false only
+// after a failed internal check, which was shown and at which the generation stopped.
+bool generateSite(const SiteRequest& request, DirectoryLister& lister, FileSystem& files,
                   SiteProgress& progress);
 
 }  // namespace kesto

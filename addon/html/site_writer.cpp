@@ -2,12 +2,19 @@
 
 #include <utility>
 
+#include "addon/foundation/safe_write.h"
+
 namespace kesto {
 
 namespace {
 
 constexpr int kPagesOfProject = 5;
 constexpr int kPagesOfFile = 2;
+
+// Pages grow in a directory of their own: where there are thousands of them, one more
+// name takes the system long to look for.
+constexpr const char* kGrowing = "\\.kesto-new";
+constexpr const char* kGrowingPage = "\\page";
 
 // Names come out of comments: one that leads to another directory, or into a stream of
 // a file, is no page.
@@ -17,18 +24,27 @@ bool isFileName(std::string_view name) {
 
 }  // namespace
 
-SiteWriter::SiteWriter(const htProjet& projet, std::string directory, SiteFiles& files,
+SiteWriter::SiteWriter(const htProjet& projet, std::string directory, FileSystem& files,
                        SiteProgress& progress)
     : projet_(projet),
       pages_(projet),
       directory_(std::move(directory)),
+      growing_(directory_ + kGrowing),
+      growing_page_(growing_ + kGrowingPage),
       files_(files),
       progress_(progress),
       all_(kPagesOfProject + kPagesOfFile * projet.files.count() + projet.classes.count() +
            projet.functions.count() + projet.macros.count()) {}
 
 bool SiteWriter::write() {
-  files_.makeDirectory(directory_.c_str());
+  fresh_ = files_.makeDirectory(directory_.c_str());
+  files_.makeDirectory(growing_.c_str());
+  const bool whole = writePages();
+  files_.removeDirectory(growing_.c_str());
+  return whole;
+}
+
+bool SiteWriter::writePages() {
   for (const auto page : {&SitePages::frameset, &SitePages::title, &SitePages::projectContents,
                           &SitePages::fileList, &SitePages::projectPresentation}) {
     (pages_.*page)(page_);
@@ -61,9 +77,11 @@ void SiteWriter::writePage() {
   if (isFileName(page_.name)) {
     path_ = directory_;
     append(path_, {"\\", page_.name, kPageExtension});
-    files_.write(path_.c_str(), page_.text);
+    const bool same = !fresh_ && files_.holds(path_.c_str(), page_.text);
+    if (same || putText(files_, growing_page_.c_str(), path_.c_str(), page_.text)) {
+      ++written_;
+    }
   }
-  ++written_;
   progress_.writing(written_, all_);
 }
 

@@ -1,5 +1,6 @@
 #include "addon/ide/header_recorder.h"
 
+#include "addon/foundation/full_path.h"
 #include "addon/ide/open_file.h"
 
 namespace kesto {
@@ -11,7 +12,8 @@ bool openAndRecord(const char* path) {
     return false;
   }
   if (headerRecorder != nullptr) {
-    headerRecorder->headerUsed(path, nullptr);
+    // The editor that shows it now is no reason not to record it.
+    headerRecorder->headerUsed(path, findEditorOf(fullPath(path)));
   }
   return true;
 }

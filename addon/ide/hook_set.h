@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include "addon/foundation/path.h"
+
 namespace kesto {
 
 // Commands that the hooks post.
@@ -54,9 +56,10 @@ class HookHost {
 // The editor that the last title-bar command concerns.
 struct EditorTarget {
   HWND window = nullptr;
-  char title[256] = "";       // its file, without view number and modified mark
-  char documented[512] = "";  // title of the last right click, for the documentation
-  POINTS click = {};          // where its popup belongs, in screen coordinates
+  char title[256] = "";            // its title as far as the hooks read it
+  char file[kPathLimit + 1] = "";  // the file of its whole title, without the IDE's marks
+  char documented[512] = "";       // title of the last right click, for the documentation
+  POINTS click = {};               // where its popup belongs, in screen coordinates
 };
 
 class HookSet {

@@ -1,7 +1,9 @@
 #include "addon/ide/open_file.h"
 
 #include <string>
+#include <string_view>
 
+#include "addon/foundation/full_path.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/tool_runs.h"
@@ -14,11 +16,9 @@ constexpr int kTitleSize = 512;
 
 bool openInOtherView = false;
 
-}  // namespace
-
-HWND findEditorTitled(const char* path, HWND other_than) {
-  std::string wanted(path);
-  upperAscii(wanted.data());
+// The first editor window, from the top one down, that the test takes by its title.
+template <class Test>
+HWND findEditor(HWND other_than, const Test& takes) {
   const HWND client = findMdiClient();
   HWND window = client != nullptr ? GetWindow(client, GW_CHILD) : nullptr;
   for (; window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
@@ -27,12 +27,24 @@ HWND findEditorTitled(const char* path, HWND other_than) {
     }
     char title[kTitleSize] = "";
     GetWindowTextA(window, title, sizeof title);
-    upperAscii(title);
-    if (wanted == title) {
+    if (takes(std::string_view(title))) {
       return window;
     }
   }
   return nullptr;
+}
+
+}  // namespace
+
+HWND findEditorTitled(const std::string& path, HWND other_than) {
+  return findEditor(other_than,
+                    [&](std::string_view title) { return equalIgnoringCase(title, path); });
+}
+
+HWND findEditorOf(const std::string& path) {
+  return findEditor(nullptr, [&](std::string_view title) {
+    return equalIgnoringCase(fileOfTitle(title, title.size()), path);
+  });
 }
 
 void raiseEditor(HWND editor) {
@@ -50,14 +62,15 @@ bool wantsOtherView() {
 }
 
 bool openFile(const char* path) {
+  const std::string file = fullPath(path);
   if (!wantsOtherView()) {
-    if (const HWND editor = findEditorTitled(path, nullptr)) {
+    if (const HWND editor = findEditorOf(file)) {
       raiseEditor(editor);
       SetActiveWindow(editor);
       return true;
     }
   }
-  return runTool("EditText", path);
+  return runTool("EditText", file.c_str());
 }
 
 }  // namespace kesto

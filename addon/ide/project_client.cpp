@@ -101,6 +101,12 @@ void STDMETHODCALLTYPE ProjectClientImpl::NodeChanged(ProjectNode node) {
   }
 }
 
+void ProjectClientImpl::treeChanged() {
+  if (isProjectOpen() && projectOrder != nullptr && projectOrder->tree_changed != nullptr) {
+    projectOrder->tree_changed();
+  }
+}
+
 void STDMETHODCALLTYPE ProjectClient2Impl::ProjectSaving() {
   saveProjectOptions();
 }

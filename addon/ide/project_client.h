@@ -32,7 +32,9 @@ struct ProjectOrder {
   ProjectSteps closed;          // last, loaded or not; the open flag is still set
   ProjectSteps gone;            // after the open flag was cleared
   ProjectSteps saved;           // the project takes the options in
-  void (*node_changed)(ProjectNode node, const char* name);  // while a project is open
+  // While a project is open:
+  void (*node_changed)(ProjectNode node, const char* name);
+  void (*tree_changed)();  // a node came, or is about to go
 };
 
 // Filled in from above before the clients are registered; null: nothing but the
@@ -48,13 +50,15 @@ class ProjectClientImpl : public IUnknownImp<IProjectClient> {
 
   void STDMETHODCALLTYPE ProjectOpened(IProject* project) override;
   void STDMETHODCALLTYPE ProjectClosed() override;
-  void STDMETHODCALLTYPE NodeAdded(ProjectNode) override {}
-  void STDMETHODCALLTYPE NodeRemoved(ProjectNode) override {}
+  void STDMETHODCALLTYPE NodeAdded(ProjectNode) override { treeChanged(); }
+  void STDMETHODCALLTYPE NodeRemoved(ProjectNode) override { treeChanged(); }
   void STDMETHODCALLTYPE NodeOptionsChanged(ProjectNode) override {}
   void STDMETHODCALLTYPE NodeChanged(ProjectNode node) override;
   void STDMETHODCALLTYPE TargetChanged(ProjectNode) override {}
 
  private:
+  static void treeChanged();
+
   ComPtr<IProject> project_;  // opened last
   IProjectService* service_;  // outlives the client's registration
 };

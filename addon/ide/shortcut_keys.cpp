@@ -1,5 +1,8 @@
 // The keyboard hook's part of the hook set: shortcuts and key capture.
+#include <string>
+
 #include "addon/foundation/key_code.h"
+#include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/hook_set.h"
 #include "ideapi/ide_identifiers.h"
@@ -96,6 +99,8 @@ bool HookSet::onSearchKey(unsigned code) {
     const int length = GetWindowTextA(editor, title, sizeof title);
     target_.window = editor;
     lstrcpynA(target_.title, title, sizeof target_.title);
+    lstrcpynA(target_.file, std::string(fileOfTitle(title, sizeof title)).c_str(),
+              sizeof target_.file);
     if (length == 0) {
       return false;
     }

@@ -10,9 +10,8 @@
 namespace kesto {
 namespace {
 
-// With their terminators.
-constexpr int kClickedTitleSize = kTitleLimit + 1;
-constexpr int kDocumentedTitleSize = 511;
+// With its terminator.
+constexpr int kTitleSize = 511;
 
 constexpr int kButtonCommands[] = {kCommandFunctions, kCommandIncludes, kCommandQuickFind};
 
@@ -46,7 +45,7 @@ bool HookSet::onTitleClick(UINT message, const MOUSEHOOKSTRUCT& mouse) {
   }
   if ((message == WM_NCRBUTTONDOWN || message == WM_NCRBUTTONDBLCLK) &&
       isEnabledEditor(mouse.hwnd)) {
-    char title[kDocumentedTitleSize] = "";
+    char title[kTitleSize] = "";
     GetWindowTextA(mouse.hwnd, title, sizeof title);
     copyText(target_.documented, documentationTitle(title));
     takeClick(mouse.hwnd, point, kCommandTitleMenu);
@@ -56,10 +55,12 @@ bool HookSet::onTitleClick(UINT message, const MOUSEHOOKSTRUCT& mouse) {
 }
 
 void HookSet::takeClick(HWND editor, POINT point, int command) {
-  char title[kClickedTitleSize] = "";
+  char title[kTitleSize] = "";
   GetWindowTextA(editor, title, sizeof title);
   target_.window = editor;
   copyText(target_.title, fileOfTitle(title));
+  // A path may be longer than what is looked at of a clicked title.
+  copyText(target_.file, fileOfTitle(title, sizeof title));
   SetWindowPos(editor, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
   target_.click.x = static_cast<SHORT>(point.x);
   target_.click.y = static_cast<SHORT>(point.y);

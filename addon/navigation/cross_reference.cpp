@@ -25,12 +25,21 @@ std::string currentTime() {
   return text;
 }
 
-std::string frameTitle() {
+std::string titleOf(HWND window) {
   char title[kTextSize] = "";
-  if (const HWND frame = findFrame()) {
-    GetWindowTextA(frame, title, sizeof title);
+  if (window != nullptr) {
+    GetWindowTextA(window, title, sizeof title);
   }
   return title;
+}
+
+HWND maximisedDocument() {
+  const HWND client = findMdiClient();
+  BOOL maximised = FALSE;
+  const LRESULT active = client != nullptr ? SendMessageA(client, WM_MDIGETACTIVE, 0,
+                                                          reinterpret_cast<LPARAM>(&maximised))
+                                           : 0;
+  return maximised != FALSE ? reinterpret_cast<HWND>(active) : nullptr;
 }
 
 }  // namespace
@@ -52,7 +61,8 @@ bool CrossReferenceMessages::open() {
 void CrossReferenceMessages::write(const char* name, const Tableau<QuickResu>& references,
                                    bool whole) {
   const std::string text =
-      crossReferenceHeader(frameTitle(), name, currentDate(), currentTime(), references.count());
+      crossReferenceHeader(titleOf(findFrame()), titleOf(maximisedDocument()), name, currentDate(),
+                           currentTime(), references.count());
   if (!open()) {
     return;
   }

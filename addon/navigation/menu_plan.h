@@ -1,8 +1,8 @@
 // What a title-bar menu shall hold, before it is a menu: the shell turns a plan
-// into popups item by item. Texts belong to the list that the plan was made from
-// and live as long as its entries.
+// into popups item by item.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "addon/foundation/string.h"
@@ -17,16 +17,18 @@ inline constexpr int kFirstFunctionId = 1000;
 inline constexpr int kLastFunctionId = 9999;
 
 struct MenuPlanItem {
-  const char* text = "";
+  std::string text;
   int id = 0;  // 0 for a submenu
   bool column_break = false;
+  bool enabled = true;
   std::vector<MenuPlanItem> submenu;
 };
 
 using MenuPlan = std::vector<MenuPlanItem>;
 
-// Both plans leave out the entries whose identifiers would be those of other
-// commands: the list may be longer than the menu.
+// In both plans the entries whose identifiers would be those of other commands can be
+// seen and not chosen; of these, no more than a menu stays quick with, and then their number.
+inline constexpr int kMostDisabledItems = 1000;
 
 // column_size: items in a column; below 1 there is one endless column.
 MenuPlan planFunctionsMenu(const Tableau<Fnc>& functions, int column_size);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/ide/bar_messages.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/find_window.h"
@@ -57,13 +59,8 @@ HWND targetEditor() {
   return hookSet != nullptr ? hookSet->target().window : nullptr;
 }
 
-// A click left the file there, a shortcut the editor's title as it is.
-std::string targetFile() {
-  if (hookSet == nullptr) {
-    return {};
-  }
-  const std::string_view title = hookSet->target().title;
-  return std::string(fileOfTitle(title, title.size()));
+const char* targetFile() {
+  return hookSet != nullptr ? hookSet->target().file : "";
 }
 
 }  // namespace
@@ -111,12 +108,18 @@ std::vector<SearchStep> QuickFind::plan(Search search) const {
   String source_path;
   String include_path;
   if (open) {
-    const ProjectNode node = nodeOfFile(targetFile().c_str());
+    const ProjectNode node = nodeOfFile(targetFile());
     getOptionText(node, kOptionSourcePath, source_path);
     getOptionText(node, kOptionIncludePath, include_path);
   }
-  return planSearch(search, {directory, open, source_path.view(), include_path.view(),
-                             function_mask_.view(), include_mask_.view()});
+  std::vector<SearchStep> steps =
+      planSearch(search, {directory, open, source_path.view(), include_path.view(),
+                          function_mask_.view(), include_mask_.view()});
+  for (SearchStep& step : steps) {
+    // What is found below it is compared with the titles of editors.
+    step.directory = fullPath(joinPath(step.directory, "").view());
+  }
+  return steps;
 }
 
 bool QuickFind::findDefinition(Search search, const std::string& name) {
@@ -196,7 +199,7 @@ void QuickFind::showMethodResults(HWND bar) {
     // Ids beyond the range of the results belong to other commands: those are only shown.
     const UINT state = i < kResultCommands ? MF_ENABLED : MF_GRAYED;
     AppendMenuA(popup, MF_STRING | state, static_cast<UINT_PTR>(kCommandFirstResult + i),
-                method_results_.at(i)->text());
+                menuText(method_results_.at(i)->text().view()).c_str());
   }
   if (shown == 0) {
     DestroyMenu(popup);

@@ -3,6 +3,8 @@
 #include <string>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/editor_operations.h"
@@ -37,7 +39,7 @@ void appendSearch(HMENU popup, Search search, const char* text) {
   std::string item(text);
   if (quickFind != nullptr && quickFind->key(search) != 0) {
     item += '\t';
-    item += quickFind->keyText(search).view();
+    item += menuText(quickFind->keyText(search).view());
   }
   AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
 }
@@ -58,11 +60,11 @@ bool ready() {
 }  // namespace
 
 bool showFunctionsPopup(HWND bar) {
-  return ready() && showAtClick(bar, editorNavigation->scanFunctions(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanFunctions(hookSet->target().file));
 }
 
 bool showIncludesPopup(HWND bar) {
-  return ready() && showAtClick(bar, editorNavigation->scanIncludes(hookSet->target().title));
+  return ready() && showAtClick(bar, editorNavigation->scanIncludes(hookSet->target().file));
 }
 
 bool showQuickFindPopup(HWND bar) {
@@ -91,7 +93,7 @@ bool chooseFunction(int index) {
   activateFrame();
   if (ready()) {
     if (const Fnc* function = editorNavigation->functionAt(index)) {
-      goToLine(hookSet->target().title, function->line());
+      goToLine(hookSet->target().file, function->line());
     }
   }
   return true;
@@ -111,7 +113,7 @@ bool chooseInclude(int index) {
   DirectoryListing listing;
   Folders folders(listing, &watch);
   const String path =
-      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().title).view());
+      includeSearchPath(projectDirectory(), includePathOf(hookSet->target().file).view());
   String found;
   if (!findInclude(folders, listing, path.view(), name, found)) {
     if (watch.stopped()) {
@@ -122,15 +124,17 @@ bool chooseInclude(int index) {
     showStatus((std::string("Cannot locate ") + name).c_str());
     return true;
   }
-  showStatus(found.text());
-  openAndRecord(found.text());
+  const std::string file = fullPath(found.view());
+  showStatus(file.c_str());
+  openAndRecord(file.c_str());
   return true;
 }
 
 bool editDocumentation() {
   activateFrame();
   if (hookSet != nullptr) {
-    openFile((std::string(hookSet->target().documented) + ".txt").c_str());
+    // Each view of a file leads to the file's one documentation.
+    openFile((std::string(fileWithoutLine(hookSet->target().documented)) + ".txt").c_str());
   }
   return true;
 }

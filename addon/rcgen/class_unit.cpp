@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "addon/foundation/path.h"
+#include "addon/foundation/safe_write.h"
+#include "addon/foundation/text_file.h"
 #include "addon/rcgen/dialog_emitter.h"
 #include "addon/rcgen/rc_reader.h"
 #include "addon/rcgen/text_format.h"
@@ -24,8 +26,8 @@ String outputPath(const ClassUnit& unit, const char* extension) {
   return joinPath(unit.directory.view(), name.view());
 }
 
-Time modified(RcFiles& files, const char* path) {
-  const std::optional<RcFileStatus> status = files.status(path);
+Time modified(FileSystem& files, const char* path) {
+  const std::optional<FileStatus> status = files.status(path);
   return status ? Time(status->modified) : Time();
 }
 
@@ -39,89 +41,84 @@ std::vector<String> scriptsOf(Folders& folders, const String& directory) {
   return paths;
 }
 
-bool unitOutOfDate(RcFiles& files, const std::vector<String>& scripts, const String& header,
-                   const String& implementation) {
-  const Time header_time = modified(files, header);
-  const Time implementation_time = modified(files, implementation);
-  std::vector<Time> script_times;
-  script_times.reserve(scripts.size());
-  for (const String& script : scripts) {
-    script_times.push_back(modified(files, script));
+std::vector<Time> timesOf(FileSystem& files, const std::vector<String>& paths) {
+  std::vector<Time> times;
+  times.reserve(paths.size());
+  for (const String& path : paths) {
+    times.push_back(modified(files, path));
   }
-  return isOutOfDate(header_time, implementation_time, script_times);
+  return times;
 }
 
-// The two files while they are made. A short script can ask for classes beyond any
-// memory, so that they are written piece by piece.
+// The new texts of the two files. A short script can ask for classes beyond any memory,
+// so that they are written piece by piece.
 class UnitOutput : private DialogDrain {
  public:
-  UnitOutput(RcFiles& files, const ClassUnit& unit)
-      : files_(files),
-        header_{outputPath(unit, ".h"), {}},
-        implementation_{outputPath(unit, ".cpp"), {}} {}
+  UnitOutput(const GeneratorHost& host, const String& header, const String& implementation)
+      : host_(host),
+        header_(host.files, header.view()),
+        implementation_(host.files, implementation.view()) {}
 
-  void write(const std::vector<String>& scripts, std::string_view name) {
-    appendFormat(header_.text,
+  void compose(const std::vector<String>& scripts, std::string_view name) {
+    appendFormat(header_text_,
                  "// Generated file : do not edit by hand\n#ifndef _rc%s_h_\n#define _rc%s_h_\n",
                  name, name);
-    appendFormat(implementation_.text,
+    appendFormat(implementation_text_,
                  "// Generated file : do not edit by hand\n#include \"kesto.h\"\n"
                  "#include \"rc%s.h\"\n",
                  name);
     readScripts(scripts);
     if (name.empty()) {
-      implementation_.text += "\nRCRCMAIN\n\n";
+      implementation_text_ += "\nRCRCMAIN\n\n";
     }
-    header_.text += "\n#endif\n";
+    header_text_ += "\n#endif\n";
     flush();
   }
 
- private:
-  struct Output {
-    String path;
-    std::string text;
-    bool created = false;
-  };
+  bool put(bool header_last) {
+    return header_last ? putBoth(implementation_, header_) : putBoth(header_, implementation_);
+  }
 
+ private:
   void readScripts(const std::vector<String>& scripts) {
     const std::unique_ptr<RcReader> reader(new (std::nothrow) RcReader);
     if (reader == nullptr) {
       return;
     }
-    DialogEmitter emitter(header_.text, implementation_.text, this);
+    DialogEmitter emitter(header_text_, implementation_text_, this);
     std::string script;
     for (const String& path : scripts) {
-      if (files_.read(path, script)) {
+      if (!host_.files.read(path, script)) {
+        continue;
+      }
+      if (isUtf16(script)) {
+        host_.notices.notice(std::string(path.view()) + " is UTF-16: no classes are made of it");
+      } else {
         reader->read(script, emitter);
       }
     }
   }
 
   void dialogWritten() override {
-    if (header_.text.size() + implementation_.text.size() > kPiece) {
+    if (header_text_.size() + implementation_text_.size() > kPiece) {
       flush();
     }
   }
 
   void flush() {
-    for (Output* output : {&header_, &implementation_}) {
-      if (!begun_) {
-        files_.remove(output->path);
-        output->created = files_.write(output->path, output->text);
-      } else if (output->created) {
-        files_.append(output->path, output->text);
-      }
-      output->text.clear();
-    }
-    begun_ = true;
+    header_.write(header_text_);
+    header_text_.clear();
+    implementation_.write(implementation_text_);
+    implementation_text_.clear();
   }
 
   static constexpr std::size_t kPiece = 1024UL * 1024;
 
-  RcFiles& files_;
-  Output header_;
-  Output implementation_;
-  bool begun_ = false;
+  const GeneratorHost& host_;
+  SafeFile header_;
+  SafeFile implementation_;
+  std::string header_text_;
+  std::string implementation_text_;
 };
 
 }  // namespace
@@ -135,17 +132,25 @@ bool isOutOfDate(Time header, Time implementation, std::span<const Time> scripts
                      [older](Time script) { return !script || *script > older; });
 }
 
-void updateClassUnit(RcFiles& files, Folders& folders, const ClassUnit& unit) {
+void updateClassUnit(const GeneratorHost& host, Folders& folders, const ClassUnit& unit) {
   if (!folders.enter(unit.directory)) {
     return;
   }
   const String header = outputPath(unit, ".h");
   const String implementation = outputPath(unit, ".cpp");
+  const Time header_time = modified(host.files, header);
+  const Time implementation_time = modified(host.files, implementation);
   const std::vector<String> scripts = scriptsOf(folders, unit.directory);
-  if (!unitOutOfDate(files, scripts, header, implementation)) {
+  if (!isOutOfDate(header_time, implementation_time, timesOf(host.files, scripts))) {
     return;
   }
-  UnitOutput(files, unit).write(scripts, unit.name.view());
+  UnitOutput output(host, header, implementation);
+  output.compose(scripts, unit.name.view());
+  // As long as the missing or older one stays, so does what makes the unit out of date.
+  if (!output.put(header_time < implementation_time)) {
+    host.notices.notice("The classes in " + std::string(unit.directory.view()) +
+                        " could not be written");
+  }
 }
 
 }  // namespace kesto

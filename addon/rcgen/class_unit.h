@@ -10,7 +10,7 @@
 
 #include "addon/foundation/folders.h"
 #include "addon/foundation/string.h"
-#include "addon/rcgen/rc_files.h"
+#include "addon/rcgen/generator_host.h"
 
 namespace kesto {
 
@@ -24,8 +24,9 @@ struct ClassUnit {
 bool isOutOfDate(std::optional<std::int64_t> header, std::optional<std::int64_t> implementation,
                  std::span<const std::optional<std::int64_t>> scripts);
 
-// Writes both files anew when the unit is out of date; the folders list its directory.
-// Nothing is told of what fails; a script that cannot be read is left out.
-void updateClassUnit(RcFiles& files, Folders& folders, const ClassUnit& unit);
+// Writes both files anew when the unit is out of date, the folders listing its directory;
+// where that fails both stay as they were, and the unit out of date. A script that cannot
+// be read is left out.
+void updateClassUnit(const GeneratorHost& host, Folders& folders, const ClassUnit& unit);
 
 }  // namespace kesto

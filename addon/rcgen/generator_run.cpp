@@ -8,28 +8,29 @@ namespace kesto {
 
 namespace {
 
-void updateClassUnits(RcFiles& files, Folders& folders, const String& project_directory) {
+void updateClassUnits(const GeneratorHost& host, Folders& folders,
+                      const String& project_directory) {
   if (!folders.enter(project_directory)) {
     return;
   }
   for (const std::string_view name : folders.directories(project_directory)) {
-    updateClassUnit(files, folders, {joinPath(project_directory.view(), name), String(name)});
+    updateClassUnit(host, folders, {joinPath(project_directory.view(), name), String(name)});
   }
-  updateClassUnit(files, folders, {project_directory, String()});
+  updateClassUnit(host, folders, {project_directory, String()});
 }
 
 }  // namespace
 
-void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
-                  std::int32_t& build_number, WalkWatch* watch) {
+void runGenerator(const GeneratorHost& host, std::string_view project_directory,
+                  GeneratorSwitches switches, std::int32_t& build_number, WalkWatch* watch) {
   const String directory(project_directory);
-  Folders folders(files, watch);
+  Folders folders(host.lister, watch);
   if (switches.dialog_classes) {
-    updateClassUnits(files, folders, directory);
+    updateClassUnits(host, folders, directory);
   }
   if (switches.version_stamping) {
     build_number = nextNumber(build_number);
-    stampVersions(files, folders, directory, build_number);
+    stampVersions(host, folders, directory, build_number);
   }
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "addon/foundation/folders.h"
-#include "addon/rcgen/rc_files.h"
+#include "addon/rcgen/generator_host.h"
 
 namespace kesto {
 
@@ -18,7 +18,8 @@ struct GeneratorSwitches {
 // project directory itself, then stamps the version files of the whole tree, each as far
 // as it is switched on. build_number rises by one, and further where a file asks for it. What
 // the watch ends leaves the units and files that were not come to as they are.
-void runGenerator(RcFiles& files, std::string_view project_directory, GeneratorSwitches switches,
-                  std::int32_t& build_number, WalkWatch* watch = nullptr);
+void runGenerator(const GeneratorHost& host, std::string_view project_directory,
+                  GeneratorSwitches switches, std::int32_t& build_number,
+                  WalkWatch* watch = nullptr);
 
 }  // namespace kesto

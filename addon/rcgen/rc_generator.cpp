@@ -1,16 +1,36 @@
 #include "addon/rcgen/rc_generator.h"
 
 #include <string>
+#include <vector>
 
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/rcgen/generator_run.h"
 #include "addon/rcgen/project_options.h"
-#include "addon/rcgen/rc_files_win.h"
 
 namespace kesto {
 
 RcGenerator* rcGenerator = nullptr;
+
+namespace {
+
+// Told when the run is over, which tells of itself meanwhile.
+class StatusNotices : public GeneratorNotices {
+ public:
+  void notice(const std::string& text) override { texts_.push_back(text); }
+  void show() const {
+    for (const std::string& text : texts_) {
+      showStatus(text.c_str());
+    }
+  }
+
+ private:
+  std::vector<std::string> texts_;
+};
+
+}  // namespace
 
 RcGenerator::RcGenerator() {
   rcgenProjectOptions = RcgenProjectOptions();
@@ -18,11 +38,14 @@ RcGenerator::RcGenerator() {
 
 void RcGenerator::run(std::string_view project_directory) {
   constexpr char kText[] = "Looking for resource scripts ...";
-  RcFilesWin files;
+  DirectoryListing lister;
+  FileSystemWin files;
+  StatusNotices notices;
   SearchWatch watch(kText);
   const GeneratorSwitches switches = {rcgenProjectOptions.dialog_classes.value != 0,
                                       rcgenProjectOptions.version_stamping.value != 0};
-  runGenerator(files, project_directory, switches, build_number_, &watch);
+  runGenerator({lister, files, notices}, project_directory, switches, build_number_, &watch);
+  notices.show();
   if (watch.stopped()) {
     showStatus((std::string(kText) + " stopped").c_str());
   }

@@ -30,24 +30,36 @@ bool isNoName(std::string_view identifier) {
   return identifier.empty() || static_cast<unsigned char>(identifier.front()) <= '9';
 }
 
+// The lines of a script without their ends, one at a time: a list of them can be longer
+// than the script.
+class ScriptLines {
+ public:
+  explicit ScriptLines(std::string_view script) : lines_(script, kLineBuffer) {}
+
+  bool next(std::string_view& line) {
+    const bool more = lines_.next(line);
+    line = withoutLineEnd(line);
+    return more;
+  }
+
+ private:
+  TextLines lines_;
+};
+
 }  // namespace
 
 void RcReader::read(std::string_view script, DialogEmitter& emitter) {
-  lines_.clear();
-  TextLines lines(script, kLineBuffer);
-  for (std::string_view line; lines.next(line);) {
-    lines_.push_back(withoutLineEnd(line));
-  }
-  readDefines();
-  readMenus();
+  readDefines(script);
+  readMenus(script);
   emitter.menuMacros(menu_items_.entries());
-  readDialogs(emitter);
+  readDialogs(script, emitter);
 }
 
-void RcReader::readDefines() {
+void RcReader::readDefines(std::string_view script) {
   defines_.clear();
   defines_by_name_.clear();
-  for (const std::string_view line : lines_) {
+  ScriptLines lines(script);
+  for (std::string_view line; lines.next(line);) {
     if (!line.starts_with(kDefine)) {
       continue;
     }
@@ -67,11 +79,12 @@ const RcDefine* RcReader::findDefine(std::string_view name) const {
   return found != defines_by_name_.end() ? found->second : nullptr;
 }
 
-void RcReader::readMenus() {
+void RcReader::readMenus(std::string_view script) {
   menu_items_.clear();
   bool inside = false;
   std::string_view menu;
-  for (const std::string_view line : lines_) {
+  ScriptLines lines(script);
+  for (std::string_view line; lines.next(line);) {
     if (!inside) {
       inside = holdsAfterBlank(line, "MENU");
       if (inside) {
@@ -97,9 +110,10 @@ void RcReader::readMenuItem(std::string_view line, std::string_view menu) {
   }
 }
 
-void RcReader::readDialogs(DialogEmitter& emitter) {
+void RcReader::readDialogs(std::string_view script, DialogEmitter& emitter) {
   bool inside = false;
-  for (const std::string_view line : lines_) {
+  ScriptLines lines(script);
+  for (std::string_view line; lines.next(line);) {
     if (!inside) {
       inside = openDialog(line, emitter);
     } else if (!readDialogLine(line)) {

@@ -6,7 +6,6 @@
 
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 #include "addon/rcgen/dialog_emitter.h"
 #include "addon/rcgen/rc_tables.h"
@@ -19,9 +18,9 @@ class RcReader {
   void read(std::string_view script, DialogEmitter& emitter);
 
  private:
-  void readDefines();
-  void readMenus();
-  void readDialogs(DialogEmitter& emitter);
+  void readDefines(std::string_view script);
+  void readMenus(std::string_view script);
+  void readDialogs(std::string_view script, DialogEmitter& emitter);
   void readMenuItem(std::string_view line, std::string_view menu);
   void readControl(std::string_view line);
   // False: a line of the dialog that ends it.
@@ -31,7 +30,6 @@ class RcReader {
   // The first of that name; null when there is none.
   const RcDefine* findDefine(std::string_view name) const;
 
-  std::vector<std::string_view> lines_;  // of the script, without their ends
   RcTable<RcDefine> defines_;
   std::unordered_map<std::string_view, const RcDefine*> defines_by_name_;  // the first of each
   RcTable<RcMenuItem> menu_items_;

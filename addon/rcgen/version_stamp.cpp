@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "addon/foundation/path.h"
+#include "addon/foundation/safe_write.h"
 #include "addon/foundation/text_file.h"
 
 namespace kesto {
@@ -84,10 +85,24 @@ void stampStatement(std::string& stamped, std::string_view numbers, Version& ver
   appendNumbers(stamped, version, ", ");
 }
 
+bool isStatement(std::string_view line) {
+  return line.size() > kStatement.size() && line.starts_with(kStatement);
+}
+
+bool holdsStatement(std::string_view text) {
+  TextLines lines(text, kLineBuffer);
+  for (std::string_view line; lines.next(line);) {
+    if (isStatement(withoutLineEnd(line))) {
+      return true;
+    }
+  }
+  return false;
+}
+
 class Stamping {
  public:
-  Stamping(RcFiles& files, Folders& folders, std::int32_t& build_number)
-      : files_(files), folders_(folders), build_number_(build_number) {}
+  Stamping(const GeneratorHost& host, Folders& folders, std::int32_t& build_number)
+      : host_(host), files_(host.files), folders_(folders), build_number_(build_number) {}
 
   // Each level adds two characters at least, so that kPathLimit bounds the depth.
   void tree(const String& directory) {
@@ -106,22 +121,80 @@ class Stamping {
   void stamp(const String& directory) {
     const String file = joinPath(directory.view(), "VERSION.RC");
     const String backup = joinPath(directory.view(), "VERSION.BAK");
-    const std::optional<RcFileStatus> status = files_.status(file);
-    if (!status || status->is_directory) {
+    if (!isThere(file, backup)) {
       return;
     }
-    files_.rename(file, backup);
+    const bool first = !files_.status(backup);
     std::string text;
-    if (files_.read(backup, text)) {
-      std::int32_t build_number = build_number_;
-      const std::string stamped = stampVersion(text, build_number);
-      if (files_.write(file, stamped)) {
-        build_number_ = build_number;
-      }
+    std::string first_text;
+    if (!readStampable(file, text) || (!first && !readStampable(backup, first_text))) {
+      return;
+    }
+    std::int32_t build_number = build_number_;
+    SafeFile stamped(files_, file.view());
+    stamped.write(stampVersion(first ? text : first_text, build_number));
+    const bool put = stamped.finish() &&
+                     (first ? putFirst(stamped, file, backup)
+                            : keepReplaced(directory, file, text, first_text) && stamped.put());
+    if (put) {
+      build_number_ = build_number;
     }
   }
 
-  RcFiles& files_;
+  // A process that was ended while it put a new text may have left the old one aside.
+  bool isThere(const String& file, const String& backup) {
+    std::optional<FileStatus> status = files_.status(file);
+    if (!status && files_.status(newTextPath(file.view())) &&
+        (files_.rename(oldTextPath(file.view()), file) || files_.rename(backup, file))) {
+      status = files_.status(file);
+    }
+    return status && !status->is_directory;
+  }
+
+  bool readStampable(const String& file, std::string& text) {
+    if (!files_.read(file, text)) {
+      return false;
+    }
+    if (isUtf16(text)) {
+      host_.notices.notice(std::string(file.view()) + " is UTF-16: the version is not stamped");
+      return false;
+    }
+    return true;
+  }
+
+  bool putFirst(SafeFile& stamped, const String& file, const String& backup) {
+    if (!files_.rename(file, backup)) {
+      return false;
+    }
+    if (!stamped.put()) {
+      files_.rename(backup, file);
+      return false;
+    }
+    return true;
+  }
+
+  // A backup from elsewhere: what it replaces is nowhere else.
+  bool keepReplaced(const String& directory, const String& file, std::string_view text,
+                    std::string_view first_text) {
+    if (!holdsStatement(text) || holdsStatement(first_text)) {
+      return true;
+    }
+    const String old = joinPath(directory.view(), "VERSION.OLD");
+    const bool kept_before = files_.status(old).has_value();
+    const String copy = newTextPath(old.view());
+    if (!kept_before &&
+        !(files_.copy(file, copy) && files_.flush(copy) && files_.rename(copy, old))) {
+      files_.remove(copy);
+      return false;
+    }
+    host_.notices.notice(
+        std::string(file.view()) + " is made of a VERSION.BAK without a FILEVERSION line; " +
+        (kept_before ? "VERSION.OLD keeps an earlier text" : "VERSION.OLD keeps what it held"));
+    return true;
+  }
+
+  const GeneratorHost& host_;
+  FileSystem& files_;
   Folders& folders_;
   std::int32_t& build_number_;
 };
@@ -139,7 +212,7 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number) {
   TextLines lines(text, kLineBuffer);
   for (std::string_view line; lines.next(line);) {
     line = withoutLineEnd(line);
-    if (line.size() > kStatement.size() && line.starts_with(kStatement)) {
+    if (isStatement(line)) {
       stampStatement(stamped, line.substr(kNumbers), version, build_number);
     } else if (line.size() > kValue.size() && line.starts_with(kValue)) {
       stamped += kValue;
@@ -153,9 +226,9 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number) {
   return stamped;
 }
 
-void stampVersions(RcFiles& files, Folders& folders, const String& directory,
+void stampVersions(const GeneratorHost& host, Folders& folders, const String& directory,
                    std::int32_t& build_number) {
-  Stamping(files, folders, build_number).tree(directory);
+  Stamping(host, folders, build_number).tree(directory);
 }
 
 }  // namespace kesto

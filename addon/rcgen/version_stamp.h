@@ -8,7 +8,7 @@
 
 #include "addon/foundation/folders.h"
 #include "addon/foundation/string.h"
-#include "addon/rcgen/rc_files.h"
+#include "addon/rcgen/generator_host.h"
 
 namespace kesto {
 
@@ -22,8 +22,9 @@ std::string stampVersion(std::string_view text, std::int32_t& build_number);
 
 // Stamps the version file of each directory of the tree, those below a directory before
 // its own. The first text of each stays beside it as VERSION.BAK, from which every later
-// one is made. Nothing is told of what fails.
-void stampVersions(RcFiles& files, Folders& folders, const String& directory,
+// one is made. A text that goes lost to a VERSION.BAK without a version is kept once, as
+// VERSION.OLD. What is UTF-16 is left alone. Nothing is told of what fails.
+void stampVersions(const GeneratorHost& host, Folders& folders, const String& directory,
                    std::int32_t& build_number);
 
 }  // namespace kesto

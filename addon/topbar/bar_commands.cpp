@@ -1,8 +1,11 @@
 #include "addon/topbar/bar_commands.h"
 
+#include "addon/foundation/directory_listing.h"
+#include "addon/foundation/full_path.h"
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/header_recorder.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/project_nodes.h"
 #include "addon/ide/status_line.h"
@@ -10,6 +13,7 @@
 #include "addon/ide/tool_table.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/recent_files.h"
+#include "ideapi/ide_identifiers.h"
 
 namespace kesto {
 namespace {
@@ -37,7 +41,25 @@ std::string extensionOf(std::string_view path) {
   return dot != std::string_view::npos ? std::string(name.substr(dot)) : std::string();
 }
 
-void runToolOfNode(unsigned node) {
+void runToolOfFile(const std::string& kind, const std::string& file) {
+  if (toolTable == nullptr) {
+    return;
+  }
+  String window_class;
+  const char* tool = toolTable->findTool(kind.c_str(), &window_class);
+  if (window_class == ideapi::kEditorClass) {
+    openAndRecord(file.c_str());
+  } else {
+    runTool(tool, file.c_str());
+  }
+}
+
+// A header's own editor that is still there, or its file.
+bool canOpen(const std::string& header) {
+  return findEditorOf(header) != nullptr || DirectoryListing().isFile(header.c_str());
+}
+
+void openNode(unsigned node) {
   std::string file;
   std::string kind;
   {
@@ -45,12 +67,7 @@ void runToolOfNode(unsigned node) {
     file = nodes.name(node);
     kind = nodes.type(node);
   }
-  if (kind.empty()) {
-    kind = extensionOf(file);
-  }
-  if (toolTable != nullptr) {
-    runTool(toolTable->findTool(kind.c_str(), nullptr), file.c_str());
-  }
+  runToolOfFile(kind.empty() ? extensionOf(file) : kind, file);
 }
 
 // Nothing of the IDE is held while it asks, and only what was asked about is removed.
@@ -107,17 +124,29 @@ void openRecentHeader(int position) {
   }
   // A copy: opening moves the entries.
   const std::string path = recentHeaderPath(position);
-  openFile(path.c_str());
-  if (recentFiles != nullptr) {
-    recentFiles->headerUsed(path.c_str(), nullptr);
+  const std::string file = fullPath(path);
+  if (!canOpen(file)) {
+    recentFiles->forgetHeader(path);
+    showStatus(("Cannot locate " + path).c_str());
+    return;
   }
+  openFile(file.c_str());
+  if (recentFiles == nullptr) {
+    return;
+  }
+  if (file != path) {
+    // Written another way by an older list: it is listed once, as it is now.
+    recentFiles->headers().remove(path);
+  }
+  recentFiles->headerUsed(file.c_str(), findEditorOf(file));
 }
 
 void runExecutable(int position) {
   const unsigned node = barMenu != nullptr ? barMenu->tool(position) : 0;
   if (isUsable(node)) {
     showStatus("Running");
-    runToolOfNode(node);
+    // Its type is that one in some case of letters.
+    runToolOfFile(".exe", ProjectNodes().name(node));
   }
 }
 
@@ -133,7 +162,7 @@ void chooseProjectFile(int position) {
     } else if (ctrl) {
       askToRemove(node, projectFileName(position));
     } else {
-      runToolOfNode(node);
+      openNode(node);
     }
   }
   activateFrame();

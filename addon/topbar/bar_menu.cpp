@@ -1,5 +1,6 @@
 #include "addon/topbar/bar_menu.h"
 
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/path.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/find_window.h"
@@ -43,8 +44,9 @@ std::string describedName(const ProjectNodes& nodes, unsigned node) {
   return text;
 }
 
-// Gives the item another text when its own differs; whether it did.
-bool changeText(HMENU menu, UINT item, bool by_position, const std::string& text) {
+// Gives the item the text when it shows another; whether it did.
+bool changeText(HMENU menu, UINT item, bool by_position, const std::string& shown) {
+  const std::string text = menuText(shown);
   char former[kItemTextSize] = "";
   MENUITEMINFOA info = {};
   info.cbSize = sizeof info;
@@ -77,11 +79,18 @@ void BarMenu::menuOpened(bool open) {
   open_ = open;
   if (!open && rebuild_due_) {
     // What was chosen comes as a message of its own and means the present menus.
-    PostMessageA(bar_, WM_COMMAND, kCommandRebuildMenu, 0);
+    rebuildSoon();
+  }
+}
+
+void BarMenu::rebuildSoon() {
+  if (!rebuild_posted_) {
+    rebuild_posted_ = PostMessageA(bar_, WM_COMMAND, kCommandRebuildMenu, 0) != FALSE;
   }
 }
 
 void BarMenu::rebuild() {
+  rebuild_posted_ = false;
   rebuild_due_ = open_;
   if (open_) {
     return;
@@ -122,12 +131,13 @@ HMENU BarMenu::build(int popup) {
   menus_[static_cast<size_t>(popup)] = menu;
   for (const BarItem& item : plan_.popups[static_cast<size_t>(popup)].items) {
     const UINT flags = MF_STRING | (item.column_break ? MF_MENUBARBREAK : 0U);
+    const std::string text = menuText(item.text);
     if (item.kind == BarItem::Kind::kSeparator) {
       AppendMenuA(menu, MF_SEPARATOR, 0, nullptr);
     } else if (item.kind == BarItem::Kind::kCommand) {
-      AppendMenuA(menu, flags, static_cast<UINT_PTR>(item.id), item.text.c_str());
+      AppendMenuA(menu, flags, static_cast<UINT_PTR>(item.id), text.c_str());
     } else if (const HMENU submenu = build(item.popup)) {
-      AppendMenuA(menu, flags | MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), item.text.c_str());
+      AppendMenuA(menu, flags | MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), text.c_str());
     }
   }
   return menu;
@@ -139,6 +149,12 @@ HMENU BarMenu::menuAt(int popup) const {
 
 void BarMenu::nodeChanged(unsigned node, const char* name) {
   const std::string title(fileNamePart(name));
+  for (size_t n = 0; n < plan_.tools.size(); ++n) {
+    if (plan_.tools[n] == node) {
+      changeText(menuAt(BarMenuPlan::kMain), static_cast<UINT>(kFirstToolId) + n, false,
+                 toolText(title));
+    }
+  }
   for (size_t n = 0; n < plan_.files.size(); ++n) {
     const PlacedNode& file = plan_.files[n];
     if (file.node == node) {

@@ -30,6 +30,8 @@ class BarMenu {
 
   // While one of the bar's menus is open they stay; the rebuild follows its closing.
   void rebuild();
+  // By a command to the bar, one for all that ask before it comes.
+  void rebuildSoon();
   // One of the bar's menus was opened or closed by the user.
   void menuOpened(bool open);
   // The node has a new name: its item or popup takes it.
@@ -53,7 +55,8 @@ class BarMenu {
   BarMenuPlan plan_;
   std::vector<HMENU> menus_;  // of the plan's popups, null where none was created
   bool open_ = false;
-  bool rebuild_due_ = false;
+  bool rebuild_due_ = false;     // when the open menu has closed
+  bool rebuild_posted_ = false;  // and not come yet
 };
 
 extern BarMenu* barMenu;

@@ -60,6 +60,10 @@ void appendFeatureMenus(BarMenuPlan& plan, const BarMenuContent& content) {
 
 }  // namespace
 
+std::string toolText(std::string_view file_name) {
+  return "run " + std::string(file_name);
+}
+
 BarMenuPlan planBarMenu(const BarMenuContent& content) {
   BarMenuPlan plan;
   plan.popups.emplace_back();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "addon/ide/node_tree.h"
@@ -62,6 +63,9 @@ struct BarMenuContent {
   bool groupware_active = false;
   bool html_active = false;
 };
+
+// The text of a tool's item, from its file's name.
+std::string toolText(std::string_view file_name);
 
 BarMenuPlan planBarMenu(const BarMenuContent& content);
 

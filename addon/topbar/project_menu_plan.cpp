@@ -9,6 +9,13 @@ namespace {
 
 constexpr char kExecutableType[] = ".exe";
 
+// Types are compared as the IDE does, without regard to case.
+std::string typeOf(const NodeTree& tree, unsigned node) {
+  std::string type = tree.type(node);
+  lowerAscii(type.data());
+  return type;
+}
+
 bool isSkipped(const std::string& name) {
   return name.starts_with('#');
 }
@@ -40,7 +47,7 @@ class Builder {
     const int id = kFirstToolId + static_cast<int>(plan_.tools.size());
     if (id <= kLastToolId) {
       popup(BarMenuPlan::kMain)
-          .items.push_back({BarItem::Kind::kCommand, "run " + titleOf(name), id, 0, false});
+          .items.push_back({BarItem::Kind::kCommand, toolText(titleOf(name)), id, 0, false});
       plan_.tools.push_back(node);
     }
   }
@@ -114,7 +121,7 @@ class HierarchicalWalk {
     if (isSkipped(name)) {
       return;
     }
-    const std::string type = tree_.type(node);
+    const std::string type = typeOf(tree_, node);
     if (type == kExecutableType) {
       builder_.addTool(node, name);
     }
@@ -167,7 +174,7 @@ void planLinearMenus(const NodeTree& tree, int column_size, BarMenuPlan& plan) {
     if (isSkipped(name)) {
       continue;
     }
-    const std::string type = tree.type(node);
+    const std::string type = typeOf(tree, node);
     if (isContainerType(type)) {
       const int popup = builder.createPopup();
       builder.addBarTarget(node, name, popup);

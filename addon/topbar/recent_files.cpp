@@ -1,5 +1,7 @@
 #include "addon/topbar/recent_files.h"
 
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/menu_text.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/open_file.h"
 #include "addon/ide/status_line.h"
@@ -74,9 +76,9 @@ void RecentFiles::save() const {
 }
 
 int RecentFiles::headerUsed(const char* path, HWND new_editor) {
-  const std::string file(headerPath(path));
+  const std::string file = fullPath(headerPath(path));
   if (!wantsOtherView()) {
-    if (const HWND editor = findEditorTitled(file.c_str(), new_editor)) {
+    if (const HWND editor = findEditorTitled(file, new_editor)) {
       raiseEditor(editor);
       return 0;
     }
@@ -86,6 +88,11 @@ int RecentFiles::headerUsed(const char* path, HWND new_editor) {
     refreshHeaderMenu();
   }
   return 1;
+}
+
+void RecentFiles::forgetHeader(const std::string& path) {
+  headers_.remove(path);
+  refreshHeaderMenu();
 }
 
 void RecentFiles::refreshHeaderMenu() const {
@@ -113,7 +120,8 @@ void RecentFiles::refreshHeaderMenu() const {
     DeleteMenu(submenu, 0, MF_BYPOSITION);
   }
   for (int i = 0; i < headers_.count(); ++i) {
-    AppendMenuA(submenu, MF_STRING, static_cast<UINT_PTR>(kFirstHeaderId + i), headers_.at(i));
+    AppendMenuA(submenu, MF_STRING, static_cast<UINT_PTR>(kFirstHeaderId + i),
+                menuText(headers_.at(i)).c_str());
   }
   DrawMenuBar(bar_);
 }

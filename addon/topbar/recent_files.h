@@ -2,6 +2,8 @@
 // One object, created and destroyed by the lifecycle; user-interface thread only.
 #pragma once
 
+#include <string>
+
 #include "addon/ide/header_recorder.h"
 #include "addon/topbar/recent_list.h"
 
@@ -21,6 +23,8 @@ class RecentFiles : public HeaderRecorder {
   RecentList& headers() { return headers_; }
 
   int headerUsed(const char* path, HWND new_editor) override;
+  // Takes a header that is gone out of the list.
+  void forgetHeader(const std::string& path);
 
  private:
   void refreshHeaderMenu() const;

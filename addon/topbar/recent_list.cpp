@@ -11,11 +11,6 @@ std::string_view cutToSlot(std::string_view path) {
   return path.substr(0, kRecentPathLength);
 }
 
-bool equalIgnoringCase(std::string_view left, std::string_view right) {
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [](char a, char b) { return upperAscii(a) == upperAscii(b); });
-}
-
 }  // namespace
 
 const char* RecentList::at(int position) const {
@@ -44,20 +39,25 @@ void RecentList::assign(const std::vector<std::string>& paths) {
   }
 }
 
+std::vector<std::string>::iterator RecentList::find(std::string_view path) {
+  return std::find_if(paths_.begin(), paths_.end(), [&](const std::string& entry) {
+    return equalIgnoringCase(entry, cutToSlot(path));
+  });
+}
+
 void RecentList::remove(std::string_view path) {
-  std::erase(paths_, cutToSlot(path));
+  std::erase_if(
+      paths_, [&](const std::string& entry) { return equalIgnoringCase(entry, cutToSlot(path)); });
 }
 
 void RecentList::addNew(std::string_view path) {
-  if (std::find(paths_.begin(), paths_.end(), cutToSlot(path)) == paths_.end()) {
+  if (find(path) == paths_.end()) {
     putFirst(path);
   }
 }
 
 void RecentList::use(std::string_view path) {
-  const auto listed = std::find_if(paths_.begin(), paths_.end(), [&](const std::string& entry) {
-    return equalIgnoringCase(entry, cutToSlot(path));
-  });
+  const auto listed = find(path);
   if (listed != paths_.end()) {
     paths_.erase(listed);
   }

@@ -27,14 +27,15 @@ class RecentList {
 
   // Replaces the entries, up to the room for them.
   void assign(const std::vector<std::string>& paths);
-  // Takes the path out, compared exactly.
+  // Paths are compared as the system does, without regard to case.
   void remove(std::string_view path);
-  // Puts the path first, unless it is there already (compared exactly).
+  // Puts the path first; one that is listed already keeps its place.
   void addNew(std::string_view path);
-  // Puts the path first; one that is there in any case of letters makes way for it.
+  // Puts the path first; one that is listed already makes way for it.
   void use(std::string_view path);
 
  private:
+  std::vector<std::string>::iterator find(std::string_view path);
   void putFirst(std::string_view path);
 
   int slots_;

@@ -1,6 +1,9 @@
 // The bar's menus and their commands, with a project in the played IDE.
 #include "addon/topbar/bar_commands.h"
 
+#include <algorithm>
+
+#include "addon/ide/header_recorder.h"
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
@@ -107,9 +110,51 @@ TEST_CASE("items run the tools of what they name") {
     CHECK(session.ide.tools.runs == (row.run != nullptr ? Texts{row.run} : Texts{}));
     CHECK(session.ide.status_line.texts == (row.status != nullptr ? Texts{row.status} : Texts{}));
   }
+  // An editor that shows the file comes forward instead.
+  const HWND editor = session.windows.editor("C:\\P\\A.CPP:2 *");
+  session.windows.editor("C:\\p\\other.cpp");
+  session.ide.tools.runs.clear();
+  session.command(10000);
+  CHECK(session.ide.tools.runs.empty());
+  CHECK(GetWindow(session.windows.client, GW_CHILD) == editor);
+  DestroyWindow(editor);
   session.ide.tools.result = kToolErrors;
   session.command(10000);
   CHECK(session.lastStatus() == "Tool: Errors");
+}
+
+TEST_CASE("a header is listed once, first when it was chosen, until it is gone") {
+  Project session;
+  kesto::RecentList& headers = kesto::recentFiles->headers();
+  for (const char* path : {"C:\\p\\gone.h", "C:\\p\\a.h", "C:/p/./c.h"}) {
+    headers.use(path);
+  }
+  const auto listed = [&] {
+    Texts paths;
+    for (int i = 0; i < headers.count(); ++i) {
+      paths.emplace_back(headers.at(i));
+    }
+    return paths;
+  };
+  session.windows.editor("C:\\p\\a.h");
+  session.windows.editor("C:\\p\\c.h:2 *");
+  session.command(401);
+  CHECK(listed() == Texts{"C:\\p\\a.h", "C:/p/./c.h", "C:\\p\\gone.h"});
+  session.command(401);
+  CHECK(listed() == Texts{"C:\\p\\c.h", "C:\\p\\a.h", "C:\\p\\gone.h"});
+  CHECK(kesto::openAndRecord("C:\\p\\inc/../A.h"));
+  CHECK(session.ide.tools.runs.empty());
+  CHECK(listed() == Texts{"C:\\p\\A.h", "C:\\p\\c.h", "C:\\p\\gone.h"});
+  session.command(402);
+  CHECK(listed() == Texts{"C:\\p\\A.h", "C:\\p\\c.h"});
+  CHECK(session.lastStatus() == "Cannot locate C:\\p\\gone.h");
+  CHECK(session.ide.tools.runs.empty());
+  const HMENU submenu = GetSubMenu(GetSubMenu(GetMenu(session.windows.bar), 0), 2);
+  CHECK(BarSession::texts(submenu) == listed());
+  // The Shift key asks for another view.
+  const Held shift({VK_SHIFT});
+  session.command(401);
+  CHECK(session.ide.tools.runs == Texts{"EditText C:\\p\\c.h"});
 }
 
 TEST_CASE("keys held make other commands of a project file") {
@@ -179,6 +224,44 @@ TEST_CASE("an open project view stands in for the project's menus") {
   }
 }
 
+TEST_CASE("nodes come into the bar and leave it, however many at a time") {
+  Project session;
+  session.windows.drain();
+  const auto rebuilds = [&] {
+    const std::vector<int> ids = session.windows.commands();
+    return std::count(ids.begin(), ids.end(), 103);
+  };
+  IProjectClient& client = *session.ide.project.clients.at(0);
+  session.ide.project.nodes.push_back({0, "C:\\p\\TOOL.EXE", ".EXE", ""});
+  session.ide.project.nodes.push_back({5, "C:\\p\\tool.cpp", ".CPP", ""});
+  client.NodeAdded(5);
+  client.NodeAdded(6);
+  session.ide.project.nodes[1].removed = true;
+  client.NodeRemoved(2);
+  CHECK(rebuilds() == 1);
+  session.command(103);
+  CHECK(session.barTexts() == Texts{"Kesto", "prog.exe", "TOOL.EXE"});
+  CHECK(BarSession::texts(GetSubMenu(GetMenu(session.windows.bar), 1)) == Texts{"b.rc", "c.cpp"});
+  session.ide.tools.runs.clear();
+  session.command(301);
+  CHECK(session.ide.tools.runs == Texts{"RunExecutable C:\\p\\TOOL.EXE"});
+
+  // Those of an open menu wait for its end.
+  kesto::barMenu->menuOpened(true);
+  client.NodeRemoved(3);
+  CHECK(rebuilds() == 1);
+  session.command(103);
+  client.NodeRemoved(4);
+  CHECK(rebuilds() == 1);
+  session.command(103);
+  kesto::barMenu->menuOpened(false);
+  CHECK(rebuilds() == 1);
+  session.command(103);
+  session.ide.project.close();
+  client.NodeAdded(5);
+  CHECK(rebuilds() == 0);
+}
+
 TEST_CASE("a renamed node takes its item along") {
   Project session;
   session.ide.project.nodes.push_back({1, "C:\\p\\part.lib", ".lib", ""});
@@ -190,12 +273,13 @@ TEST_CASE("a renamed node takes its item along") {
     session.ide.project.nodes[node - 1].name = name;
     session.ide.project.clients.at(0)->NodeChanged(node);
   };
-  rename(3, "C:\\p\\new.rc");
+  rename(3, "C:\\p\\R&D.rc");
   rename(5, "C:\\p\\core.lib");
   rename(1, "C:\\p\\other.exe");
   CHECK(session.barTexts() == Texts{"Kesto", "other.exe"});
+  CHECK(session.mainTexts().at(0) == "run other.exe");
   const HMENU files = GetSubMenu(GetMenu(session.windows.bar), 1);
-  CHECK(BarSession::texts(files) == Texts{"a.cpp", "new.rc", "c.cpp", "core.lib"});
+  CHECK(BarSession::texts(files) == Texts{"a.cpp", "R&&D.rc", "c.cpp", "core.lib"});
   CHECK(GetMenuItemID(files, 1) == 10001);
   session.ide.project.close();
   CHECK(session.barTexts() == Texts{"Kesto"});

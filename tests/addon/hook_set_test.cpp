@@ -137,6 +137,7 @@ TEST_CASE("clicks on an editor's title become commands and never reach the IDE")
     CHECK(GetWindow(hooked.windows.client, GW_CHILD) == editor);
     CHECK(hooked.hooks.target().window == editor);
     CHECK(std::string(hooked.hooks.target().title) == "C:\\SRC\\A.CPP");
+    CHECK(std::string(hooked.hooks.target().file) == "C:\\SRC\\A.CPP");
     CHECK(hooked.hooks.target().click.x == 11);
     CHECK(hooked.hooks.target().click.y == 22);
   }

@@ -112,6 +112,8 @@ TEST_CASE("an empty entry ends a list") {
   } cases[] = {
       {"*.cpp;*.cc;*.c", {"*.cpp", "*.cc", "*.c"}},
       {"a;;b", {"a"}},
+      {" *.cpp ; *.h;*.c ", {"*.cpp", "*.h", "*.c"}},
+      {"a; ;b", {"a"}},
       {"a;", {"a"}},
       {";a", {}},
       {"", {}},

@@ -1,4 +1,4 @@
-// A file system played by a test: sources by path, and what was read and written, in order.
+// A file system played by a test: sources by path, and what was read and put, in order.
 #pragma once
 
 #include <string>
@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "addon/html/site_generation.h"
+#include "tests/foundation/played_disk.h"
 
 namespace kesto {
 
-class PlayedSite : public DirectoryLister, public SiteFiles, public SiteProgress {
+class PlayedSite : public PlayedDisk, public DirectoryLister, public SiteProgress {
  public:
   std::vector<std::pair<std::string, std::string>> sources;  // path and text, in listing order
-  std::string unwritable;                                    // the part of a path that fails
   std::string reads;                                         // each path and a line feed
   std::string pages;                                         // "==== PATH" and text of each
   std::string names;                                         // of the pages
@@ -45,24 +45,20 @@ class PlayedSite : public DirectoryLister, public SiteFiles, public SiteProgress
     }
     return false;
   }
-  void makeDirectory(const char* path) override { made = path; }
-  bool write(const char* path, std::string_view text) override {
-    if (!unwritable.empty() && std::string_view(path).find(unwritable) != std::string_view::npos) {
-      return false;
-    }
-    (((pages += "==== ") += path) += '\n') += text;
-    (names += std::string_view(path).substr(made.size() + 1)) += '\n';
-    return true;
-  }
   void reading(int files_read) override { (progress += 'r') += std::to_string(files_read); }
   void writing(int written, int all) override {
     last_written = written;
     last_all = all;
   }
 
-  std::string made;
   int last_written = 0;
   int last_all = 0;
+
+ protected:
+  void placed(const std::string& path) override {
+    (((pages += "==== ") += path) += '\n') += files[path].text;
+    (names += path.substr(path.rfind('\\') + 1)) += '\n';
+  }
 };
 
 }  // namespace kesto

@@ -1,6 +1,8 @@
 // Whole generations. The cases of data/ are pairs: NAME.tree holds the sources, NAME.site
 // the pages in their order, each after a line "==== PATH".
+#include <set>
 #include <string>
+#include <utility>
 
 #include "addon/html/ht_projet.h"
 #include "addon/html/site_pages.h"
@@ -46,7 +48,7 @@ TEST_CASE("the site of each tree, byte for byte and in order") {
     PlayedSite site;
     addTree(site, tests::contents(path));
     CHECK(generate(site));
-    CHECK(site.made == "C:\\P\\kHTML");
+    CHECK(site.directories == std::set<std::string>{"C:\\P\\kHTML"});
     tests::checkFile(path.replace_extension(".site"), site.pages);
   }
   CHECK(cases == 2);
@@ -77,7 +79,7 @@ TEST_CASE("files are read pattern by pattern, each after the text beside it") {
 
 TEST_CASE("a page that cannot be written is left out, and none leaves the directory") {
   PlayedSite site;
-  site.unwritable = "Title";
+  site.locked = "Title";
   site.sources.emplace_back("C:\\P\\a.h",
                             "/** \\..\\..\\evil::f\n*/\n/** a/b::f\n*/\n/** s:t::f\n*/\n"
                             "/** odd *::f\n*/\n/** ::Good\n*/\n");
@@ -86,7 +88,52 @@ TEST_CASE("a page that cannot be written is left out, and none leaves the direct
         "Documentation D\xE9mo.html\nD\xE9mo Contents.html\nD\xE9mo FileList.html\n"
         "D\xE9mo Presentation.html\na.h Contents.html\na.h Presentation.html\n"
         "Class Good.html\nClass odd *.html\n");
-  CHECK(site.last_written == 12);
+  CHECK(site.last_written == 8);
+  CHECK(site.last_all == 12);
+}
+
+TEST_CASE("a page is as it was until it is whole") {
+  const auto project = [](PlayedSite& site) {
+    site.sources.emplace_back("C:\\P\\a.h", "/** ::Good\n*/\n");
+    site.directories.insert("C:\\P\\kHTML");
+    site.put("C:\\P\\kHTML\\Class Good.html", "old");
+    site.put("C:\\P\\kHTML\\a.h Contents.html", "old");
+  };
+  PlayedSite whole;
+  project(whole);
+  CHECK(generate(whole));
+  CHECK(whole.last_written == 8);
+  const int steps = std::exchange(whole.changes, 0);
+  CHECK(steps == 16);
+  whole.names.clear();
+  const auto pages = whole.texts();
+  // Nothing has changed: nothing is written.
+  CHECK(generate(whole));
+  CHECK(whole.changes == 0);
+  CHECK(whole.last_written == 8);
+  CHECK(whole.names.empty());
+
+  for (int failing = 1; failing <= steps; ++failing) {
+    for (const bool ends : {false, true}) {
+      PlayedSite site;
+      project(site);
+      site.failing = failing;
+      site.ends = ends;
+      CHECK(generate(site));
+      int written = 0;
+      for (const auto& [path, text] : site.texts()) {
+        const bool whole_page = pages.count(path) != 0 && text == pages.at(path);
+        const bool grows = ends && path == "C:\\P\\kHTML\\.kesto-new\\page";
+        CHECK((whole_page || grows || text == "old"));
+        written += whole_page ? 1 : 0;
+      }
+      CHECK(site.last_written == written);
+      site.failing = 0;
+      CHECK(generate(site));
+      CHECK(site.texts() == pages);
+      CHECK(site.directories == whole.directories);
+    }
+  }
 }
 
 TEST_CASE("a class without documentation says so unless its methods speak for it") {

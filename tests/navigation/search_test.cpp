@@ -196,7 +196,8 @@ TEST_CASE("what fits a mask") {
       }
     }
   }
-  for (const char* mask : {"", "a?", "*.", "a..*", "*.c ", "a<", "a>", "a\"", "s\\*.c", "C:*", "\xe9*"}) {
+  for (const char* mask :
+       {"", "a?", "*.", "a..*", "*.c ", "a<", "a>", "a\"", "s\\*.c", "C:*", "\xe9*"}) {
     CAPTURE(mask);
     CHECK_FALSE(FileMask(mask).plain());
   }
@@ -249,19 +250,25 @@ TEST_CASE("who looks on ends all walks of a search") {
 TEST_CASE("the header of the references") {
   const struct {
     const char* title;
+    const char* maximised;
     int found;
     const char* expected;
   } cases[] = {
-      {"Borland C++ - demo", 3,
+      {"Borland C++ - demo", "", 3,
        "demo : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 3 founds"},
-      {"Borland C++ -   demo - [a.cpp]", 1,
+      {"Borland C++ -   demo - [a.cpp]", "", 1,
        "demo - [a.cpp] : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
-      {"Borland C++", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
-      {"Borland C++ -  ", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
+      {"Borland C++ - a - [b] - [C:\\d - [e].cpp:2 *]", "C:\\d - [e].cpp:2 *", 1,
+       "a - [b] : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
+      {"Borland C++ - demo - [C:\\long", "C:\\longer.cpp", 1,
+       "demo : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 1 found"},
+      {"Borland C++", "", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
+      {"Borland C++ -  ", "", 2, " : cross reference \"Paint\"  (1/2/97 , 3:04:05 PM) : 2 founds"},
   };
   for (const auto& c : cases) {
     CAPTURE(std::string(c.title));
-    CHECK(crossReferenceHeader(c.title, "Paint", "1/2/97", "3:04:05 PM", c.found) == c.expected);
+    CHECK(crossReferenceHeader(c.title, c.maximised, "Paint", "1/2/97", "3:04:05 PM", c.found) ==
+          c.expected);
   }
 }
 

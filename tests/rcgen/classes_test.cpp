@@ -52,7 +52,7 @@ TEST_CASE("each unit's files are those written out for it") {
     files.scripts["P"] = {path.filename().string()};
     files.put("P\\" + unit + ".rc", tests::contents(path));
     Folders folders(files);
-    updateClassUnit(files, folders, {"P", String(unit.c_str())});
+    updateClassUnit(files.host(), folders, {"P", String(unit.c_str())});
     for (const char* extension : {".h", ".cpp"}) {
       const std::string name = "rc" + unit + extension;
       tests::checkFile(path.parent_path() / name, files.files["P\\" + name].text);

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "addon/foundation/path.h"
@@ -26,13 +28,17 @@ constexpr GeneratorSwitches kVersions = {false, true};
 
 std::string ran(PlayedFiles& files, GeneratorSwitches switches, std::int32_t& build_number) {
   files.takeDone();
-  runGenerator(files, "P", switches, build_number);
+  runGenerator(files.host(), "P", switches, build_number);
   return files.takeDone();
 }
 
+std::string stamped(const std::string& directory) {
+  const std::string file = directory + "VERSION.RC\n";
+  return "read " + file + "rename " + file + "put " + file;
+}
+
 std::string written(const std::string& stem) {
-  return "remove " + stem + ".h\nwrite " + stem + ".h\nremove " + stem + ".cpp\nwrite " + stem +
-         ".cpp\n";
+  return "put " + stem + ".h\nput " + stem + ".cpp\n";
 }
 
 }  // namespace
@@ -69,7 +75,9 @@ TEST_CASE("classes longer than their scripts are written in pieces") {
   files.put("P\\a.rc", script);
   std::int32_t build_number = 0;
   const std::string done = ran(files, kClasses, build_number);
-  CHECK(done.find(written("P\\rc") + "append P\\rc.h\nappend P\\rc.cpp\n") != std::string::npos);
+  const std::string piece = "append P\\.rc.h.kesto-new\nappend P\\.rc.cpp.kesto-new\n";
+  CHECK(done.starts_with("list P\nread P\\a.rc\n" + piece));
+  CHECK(done.ends_with(piece + written("P\\rc")));
   const std::string& header = files.files["P\\rc.h"].text;
   const std::string& implementation = files.files["P\\rc.cpp"].text;
   CHECK(count(header, "class rcD : public Dialog\n") == 60);
@@ -80,16 +88,17 @@ TEST_CASE("classes longer than their scripts are written in pieces") {
   // What could not be created is not gone on with.
   files.files.clear();
   files.put("P\\a.rc", script);
-  files.locked = true;
-  CHECK(ran(files, kClasses, build_number).find("append") == std::string::npos);
+  files.locked = "P\\.rc";
+  CHECK(ran(files, kClasses, build_number) == "list P\nread P\\a.rc\n");
+  CHECK(files.notices == "The classes in P could not be written\n");
 }
 
 TEST_CASE("units are made in order, each when something of its own changed") {
   PlayedFiles files;
   std::int32_t build_number = 0;
-  files.directories["P"] = {".", "..", "src", "res"};
+  files.subdirectories["P"] = {".", "..", "src", "res"};
   files.links["P"] = {"link"};
-  files.directories["P\\src"] = {"deeper"};
+  files.subdirectories["P\\src"] = {"deeper"};
   files.scripts["P"] = {"a.rc", ".b.rc"};
   files.scripts["P\\res"] = {"c.rc", "d.rc"};
   files.put("P\\a.rc", "A DIALOG 1\n}\n");
@@ -171,18 +180,16 @@ TEST_CASE("lines and numbers of a version resource") {
 TEST_CASE("the version files of a tree") {
   PlayedFiles files;
   std::int32_t build_number = 0;
-  files.directories["P"] = {".", "..", "a", "b"};
-  files.directories["P\\a"] = {".", "..", "c"};
+  files.subdirectories["P"] = {".", "..", "a", "b"};
+  files.subdirectories["P\\a"] = {".", "..", "c"};
   files.links["P\\a"] = {"link"};
   files.put("P\\VERSION.RC", "FILEVERSION 1,0,0,41\n");
   files.put("P\\a\\VERSION.RC", "FILEVERSION 1,0,0,2\n");
   files.put("P\\a\\c\\VERSION.RC", "FILEVERSION 1,0,0,5\n");
 
-  CHECK(ran(files, kVersions, build_number) ==
-        "list P\nlist P\\a\nlist P\\a\\c\nrename P\\a\\c\\VERSION.RC\nread P\\a\\c\\VERSION.BAK\n"
-        "write P\\a\\c\\VERSION.RC\nrename P\\a\\VERSION.RC\nread P\\a\\VERSION.BAK\n"
-        "write P\\a\\VERSION.RC\nlist P\\b\nrename P\\VERSION.RC\nread P\\VERSION.BAK\n"
-        "write P\\VERSION.RC\n");
+  CHECK(ran(files, kVersions, build_number) == "list P\nlist P\\a\nlist P\\a\\c\n" +
+                                                   stamped("P\\a\\c\\") + stamped("P\\a\\") +
+                                                   "list P\\b\n" + stamped("P\\"));
   CHECK(files.files["P\\a\\c\\VERSION.RC"].text == "FILEVERSION 1, 0, 0, 6\n");
   CHECK(files.files["P\\a\\VERSION.RC"].text == "FILEVERSION 1, 0, 0, 6\n");
   CHECK(files.files["P\\VERSION.RC"].text == "FILEVERSION 1, 0, 0, 42\n");
@@ -196,14 +203,14 @@ TEST_CASE("the version files of a tree") {
   CHECK(files.files["P\\VERSION.BAK"].text == "FILEVERSION 1,0,0,41\n");
 
   // A file that cannot be written has no say.
-  files.locked = true;
+  files.locked = "VERSION.RC";
   files.put("P\\a\\c\\VERSION.BAK", "FILEVERSION 1,0,0,1000\n");
   ran(files, kVersions, build_number);
   CHECK(build_number == 44);
 
   // Neither has a directory of that name.
-  files.locked = false;
-  files.directories["P\\a\\c\\VERSION.RC"] = {};
+  files.locked.clear();
+  files.directories.insert("P\\a\\c\\VERSION.RC");
   CHECK(ran(files, kVersions, build_number).find("c\\VERSION.BAK") == std::string::npos);
   CHECK(build_number == 45);
 
@@ -212,8 +219,165 @@ TEST_CASE("the version files of a tree") {
     bool goOn(int directories, int /*files*/) override { return directories < 3; }
   } watch;
   files.takeDone();
-  runGenerator(files, "P", kVersions, build_number, &watch);
+  runGenerator(files.host(), "P", kVersions, build_number, &watch);
   CHECK(files.takeDone() == "list P\nlist P\\a\n");
+}
+
+TEST_CASE("what is UTF-16 is left alone") {
+  PlayedFiles files;
+  std::int32_t build_number = 0;
+  const std::string wide("\xFF\xFE#\0d\0", 6);
+  const std::string narrow = "FILEVERSION 1,0,0,5\n";
+  files.scripts["P"] = {"a.rc", "b.rc"};
+  files.put("P\\a.rc", wide);
+  files.put("P\\b.rc", "B DIALOG 1\n}\n");
+  files.subdirectories["P"] = {"s"};
+  files.put("P\\VERSION.RC", "\xFE\xFF");
+  files.put("P\\s\\VERSION.RC", narrow);
+  files.put("P\\s\\VERSION.BAK", wide);
+  ran(files, {true, true}, build_number);
+  CHECK(count(files.files["P\\rc.h"].text, "class ") == 1);
+  CHECK(files.files["P\\a.rc"].text == wide);
+  CHECK(files.files["P\\VERSION.RC"].text == "\xFE\xFF");
+  CHECK(files.files["P\\s\\VERSION.RC"].text == narrow);
+  CHECK(files.files.count("P\\VERSION.BAK") == 0);
+  CHECK(build_number == 1);
+  CHECK(files.notices ==
+        "P\\a.rc is UTF-16: no classes are made of it\n"
+        "P\\s\\VERSION.BAK is UTF-16: the version is not stamped\n"
+        "P\\VERSION.RC is UTF-16: the version is not stamped\n");
+}
+
+TEST_CASE("a text that a backup from elsewhere replaces is kept once") {
+  PlayedFiles files;
+  std::int32_t build_number = 0;
+  const auto made = [&](const char* text, const char* backup) {
+    files.put("P\\VERSION.RC", text);
+    files.put("P\\VERSION.BAK", backup);
+    files.notices.clear();
+    ran(files, kVersions, build_number);
+    return files.files["P\\VERSION.RC"].text;
+  };
+  // Nothing of a version goes lost.
+  CHECK(made("other\n", "") == "");
+  CHECK(made("FILEVERSION 1,0,0,5\n", "FILEVERSION \n") == "FILEVERSION 1, 0, 0, 3\n");
+  CHECK(files.files.count("P\\VERSION.OLD") == 0);
+  CHECK(files.notices.empty());
+
+  CHECK(made("mine\nFILEVERSION 1,0,0,5\n", "FILEVERSION\n") == "FILEVERSION\n");
+  CHECK(files.files["P\\VERSION.OLD"].text == "mine\nFILEVERSION 1,0,0,5\n");
+  CHECK(files.notices ==
+        "P\\VERSION.RC is made of a VERSION.BAK without a FILEVERSION line; "
+        "VERSION.OLD keeps what it held\n");
+  CHECK(made("later\nFILEVERSION 1,0,0,5\n", "theirs") == "theirs\n");
+  CHECK(files.files["P\\VERSION.OLD"].text == "mine\nFILEVERSION 1,0,0,5\n");
+  CHECK(files.notices ==
+        "P\\VERSION.RC is made of a VERSION.BAK without a FILEVERSION line; "
+        "VERSION.OLD keeps an earlier text\n");
+}
+
+namespace {
+
+using Texts = std::map<std::string, std::string>;
+
+// A project before a make: its files in the order of their times.
+PlayedFiles project(const std::vector<std::pair<std::string, std::string>>& before) {
+  PlayedFiles files;
+  files.scripts["P"] = {"a.rc"};
+  for (const auto& [name, text] : before) {
+    ++files.now;
+    files.put("P\\" + name, text);
+  }
+  ++files.now;
+  return files;
+}
+
+void make(PlayedFiles& files, GeneratorSwitches switches) {
+  std::int32_t build_number = 0;
+  runGenerator(files.host(), "P", switches, build_number);
+}
+
+Texts withoutBeside(Texts texts) {
+  std::erase_if(texts, [](const auto& file) {
+    return file.first.starts_with("P\\.") &&
+           (file.first.ends_with(".kesto-new") || file.first.ends_with(".kesto-old"));
+  });
+  return texts;
+}
+
+// Whether each file has its old text or its new one. A version may be on its way from one
+// to the other, with the old one in its backup.
+bool isWhole(const Texts& before, const Texts& after, const Texts& texts) {
+  const auto holds = [](const Texts& all, const std::string& path, const std::string& text) {
+    return all.count(path) != 0 && all.at(path) == text;
+  };
+  const bool known = std::all_of(texts.begin(), texts.end(), [&](const auto& file) {
+    return holds(before, file.first, file.second) || holds(after, file.first, file.second);
+  });
+  return known && std::all_of(before.begin(), before.end(), [&](const auto& file) {
+           return texts.count(file.first) != 0 || holds(texts, "P\\VERSION.BAK", file.second);
+         });
+}
+
+}  // namespace
+
+TEST_CASE("a step that fails leaves every file as it was, and an ended process a whole one") {
+  const std::string script = "A DIALOG 1\n}\n";
+  const std::string version = "FILEVERSION 1,2,0,41\n";
+  const std::vector<std::pair<std::string, std::string>> projects[] = {
+      {{"rc.h", "H"}, {"rc.cpp", "C"}, {"a.rc", script}},
+      {{"rc.cpp", "C"}, {"rc.h", "H"}, {"a.rc", script}},
+      {{"rc.h", "H"}, {"a.rc", script}, {"rc.cpp", "C"}},
+      {{"rc.cpp", "C"}, {"a.rc", script}, {"rc.h", "H"}},
+      {{"a.rc", script}, {"rc.h", "H"}},
+      {{"a.rc", script}, {"rc.cpp", "C"}},
+      {{"a.rc", script}},
+      {{"VERSION.RC", version}},
+      {{"VERSION.BAK", version}, {"VERSION.RC", "other"}},
+      {{"VERSION.BAK", "theirs"}, {"VERSION.RC", version}},
+  };
+  for (const auto& row : projects) {
+    PlayedFiles files = project(row);
+    const Texts before = files.texts();
+    const bool classes = before.count("P\\a.rc") != 0;
+    const GeneratorSwitches switches = classes ? kClasses : kVersions;
+    const PlayedFiles start = files;
+    make(files, switches);
+    const Texts after = files.texts();
+    CHECK((classes ? after.at("P\\rc.h") != "H" && after.at("P\\rc.cpp") != "C"
+                   : after.at("P\\VERSION.RC") != before.at("P\\VERSION.RC")));
+    const int steps = files.changes;
+    CHECK(steps >= 3);
+    for (int failing = 1; failing <= steps; ++failing) {
+      CAPTURE(row.front().first);
+      CAPTURE(failing);
+      files = start;
+      files.failing = failing;
+      make(files, switches);
+      Texts texts = files.texts();
+      if (before.count("P\\VERSION.OLD") == 0 && texts != after) {
+        texts.erase("P\\VERSION.OLD");  // of the text that is in its place still
+      }
+      CHECK((texts == before || texts == after));
+
+      files = start;
+      files.failing = failing;
+      files.ends = true;
+      make(files, switches);
+      CHECK(isWhole(before, after, withoutBeside(files.texts())));
+      // The next make finishes it; what is still beside goes with the next that has work.
+      files.failing = 0;
+      make(files, switches);
+      CHECK(withoutBeside(files.texts()) == after);
+      if (classes) {
+        ++files.now;
+        files.put("P\\a.rc", script);
+        ++files.now;
+        make(files, switches);
+      }
+      CHECK(files.texts() == after);
+    }
+  }
 }
 
 TEST_CASE("directories without end") {

@@ -108,15 +108,15 @@ TEST_CASE("the bar without a project") {
 TEST_CASE("both constructions of one project") {
   const Outline tree({{0, "C:\\p\\prog.exe", ".exe"},
                       {1, "C:\\p\\main.cpp", ".cpp"},
-                      {1, "C:\\p\\core.lib", ".lib"},
+                      {1, "C:\\p\\core.lib", ".Lib"},
                       {2, "C:\\p\\core.cpp", ".cpp"},
-                      {2, "C:\\p\\core.obj", ".obj"},
+                      {2, "C:\\p\\core.obj", ".OBJ"},
                       {1, "C:\\p\\prog.rc", ".rc"},
                       {1, "#hidden", "Folder"},
                       {2, "C:\\p\\inside.cpp", ".cpp"},
                       {0, "docs", "Folder"},
                       {1, "empty", "Folder"},
-                      {0, "C:\\p\\tool.exe", ".exe"},
+                      {0, "C:\\p\\tool.exe", ".EXE"},
                       {0, "C:\\p\\old.lib", ".lib"},
                       {0, "C:\\p\\plug.dll", ".dll"},
                       {0, "C:\\p\\readme.txt", ".txt"}});

@@ -34,7 +34,7 @@ TEST_CASE("operations on a list of recent files") {
   } rows[] = {
       {"a new one comes first", {"a", "b"}, 4, kAddNew, "c", {"c", "a", "b"}},
       {"a listed one keeps its place", {"a", "b"}, 4, kAddNew, "b", {"a", "b"}},
-      {"new in another case", {"a", "b"}, 4, kAddNew, "B", {"B", "a", "b"}},
+      {"listed in another case", {"a", "b"}, 4, kAddNew, "B", {"a", "b"}},
       {"full: the last one goes", {"a", "b"}, 2, kAddNew, "c", {"c", "a"}},
       {"full and listed: none goes", {"a", "b"}, 2, kAddNew, "b", {"a", "b"}},
       {"no room at all", {}, 0, kAddNew, "c", {}},
@@ -50,7 +50,7 @@ TEST_CASE("operations on a list of recent files") {
       {"used for the first time, full", {"a", "b"}, 2, kUse, "c", {"c", "a"}},
       {"used, and first already", {"a", "b"}, 4, kUse, "a", {"a", "b"}},
       {"removed", {"a", "b", "c"}, 4, kRemove, "b", {"a", "c"}},
-      {"removed in another case: no", {"a", "b"}, 4, kRemove, "B", {"a", "b"}},
+      {"removed in another case", {"a", "b"}, 4, kRemove, "B", {"a"}},
       {"a lower maximum cuts", {"a", "b", "c"}, 4, kMaximum, "1", {"a"}},
       {"more than there is room for", {"a", "b", "c"}, 2, kRemove, "x", {"a", "b"}},
       {"a higher one does not", {"a", "b", "c"}, 3, kMaximum, "4", {"a", "b", "c"}},

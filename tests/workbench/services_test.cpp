@@ -334,6 +334,16 @@ TEST_CASE("tools") {
   file->SetText(folder.file("whatever.ide").c_str());
   CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
   CHECK(program.application.findEditor(folder.file("inc\\b.h")) == nullptr);
+
+  // The text editor's second run is a second view; within the program it is brought forward.
+  name->SetText("EditText");
+  file->SetText(folder.file("a.cpp").c_str());
+  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  EditorWindow* view = program.application.editFile("a.cpp", 0);
+  char title[300] = {};
+  GetWindowTextA(view->window(), title, sizeof title);
+  CHECK(title == folder.file("a.cpp") + ":2");
   file->Release();
   name->Release();
   tools->Release();

@@ -79,16 +79,40 @@ TEST_CASE("a line of C++ is split into kinds that cover it") {
   }
 }
 
-TEST_CASE("a comment opened above colours the lines below until it is closed") {
+TEST_CASE("lines keep their colours up to date through any edit") {
+  struct Follower final : DocumentListener {
+    Highlighter highlighter;
+    void documentChanged(const DocumentChange& change) override {
+      highlighter.documentChanged(change);
+    }
+    void documentStateChanged() override {}
+  } follower;
   Document document;
+  document.addListener(&follower);
   document.load("a\nb\nc\n");
-  Highlighter highlighter;
-  CHECK(highlighter.runs(document, 2)[0].kind == TextKind::kPlain);
+  CHECK(follower.highlighter.runs(document, 2)[0].kind == TextKind::kPlain);
   document.insert({0, 0}, "/*");
-  highlighter.invalidate(0);
-  CHECK(highlighter.runs(document, 2)[0].kind == TextKind::kComment);
+  // Only lines that were coloured before can turn.
+  CHECK(follower.highlighter.makeSure(document, 3) == 3);
+  CHECK(follower.highlighter.runs(document, 2)[0].kind == TextKind::kComment);
   document.insert({1, 0}, "*/");
-  highlighter.invalidate(1);
-  CHECK(highlighter.runs(document, 1)[0].kind == TextKind::kComment);
-  CHECK(highlighter.runs(document, 2)[0].kind == TextKind::kPlain);
+  CHECK(follower.highlighter.runs(document, 1)[0].kind == TextKind::kComment);
+  CHECK(follower.highlighter.runs(document, 2)[0].kind == TextKind::kPlain);
+  unsigned int seed = 1;
+  const auto below = [&seed](int bound) {
+    seed = seed * 1103515245u + 12345u;
+    return static_cast<int>((seed >> 8) % static_cast<unsigned int>(bound));
+  };
+  const std::string_view pieces[] = {"/*", "*/", "x\n", "\n*/\n\n", "a\n/*\nb", "// \n"};
+  for (int i = 0; i < 3000; ++i) {
+    const Place at = {below(document.lineCount()), below(4)};
+    if (below(3) == 0) {
+      document.erase(at, {at.line + below(4), below(4)});
+    } else {
+      document.insert(at, pieces[below(6)]);
+    }
+    const int line = below(document.lineCount());
+    const bool inside = Highlighter().beginsInComment(document, line);
+    REQUIRE(follower.highlighter.beginsInComment(document, line) == inside);
+  }
 }

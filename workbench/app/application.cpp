@@ -55,6 +55,7 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
   editors_.setChangeListener([this] { showEditorState(); });
+  editors_.setStatusListener([this](const std::string& text) { setStatus(text); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
   return true;
@@ -206,7 +207,7 @@ void Application::setStatus(const std::string& text) {
 void Application::showEditorState() {
   EditorChild* child = editors_.active();
   if (child == nullptr) {
-    frame_.statusBar().setFields("", "", "");
+    frame_.statusBar().setFields("", "", "", "");
     return;
   }
   int line = 0;
@@ -215,8 +216,10 @@ void Application::showEditorState() {
   std::string position = std::to_string(line);
   position += ':';
   position += std::to_string(column);
-  frame_.statusBar().setFields(position, child->modified() ? "Modified" : "",
-                               child->textView().insertMode() ? "Insert" : "Overwrite");
+  frame_.statusBar().setFields(
+      position, child->modified() ? "Modified" : "",
+      child->textView().insertMode() ? "Insert" : "Overwrite",
+      child->openFile().document.encoding() == Encoding::kUtf8 ? "UTF-8" : "ANSI");
 }
 
 }  // namespace workbench

@@ -9,6 +9,7 @@
 #include "workbench/app/settings_store.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/mdi_layout.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/path_text.h"
 
@@ -44,6 +45,8 @@ bool Application::commandEnabled(int id) {
     case CM_WINDOW_ARRANGE:
     case CM_WINDOW_NEXT:
       return SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0) != 0;
+    case CM_FILE_RELOAD:
+      return child != nullptr && !child->openFile().untitled;
     case CM_EDIT_UNDO:
       return child != nullptr && child->openFile().document.canUndo();
     case CM_EDIT_REDO:
@@ -113,6 +116,12 @@ bool Application::fileCommand(int id, EditorChild* child) {
     case CM_FILE_SAVE_ALL:
       saveAll();
       return true;
+    case CM_FILE_RELOAD:
+      if (child != nullptr) {
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        editors_.reload(*file);
+      }
+      return true;
     case CM_FILE_CLOSE:
       if (const LRESULT active = SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0)) {
         SendMessageA(reinterpret_cast<HWND>(active), WM_CLOSE, 0, 0);
@@ -163,7 +172,7 @@ void Application::editCommand(int id, EditorChild* child) {
       text.selectAll();
       break;
     case CM_EDIT_FIND: {
-      const std::string selected = text.selection();
+      const std::string selected = child->selection();
       if (!selected.empty() && selected.size() < 256 &&
           selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
         find_.text = selected;
@@ -195,7 +204,8 @@ void Application::findNext(bool backward) {
   if (child == nullptr) {
     return;
   }
-  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
+  if (!child->textView().findText(fromAnsi(find_.text, child->openFile().document.encoding()),
+                                  find_.match_case, backward)) {
     setStatus("\"" + find_.text + "\" was not found");
     MessageBeep(MB_ICONWARNING);
   }
@@ -216,10 +226,10 @@ bool Application::windowCommand(int id, EditorChild* child) {
   HWND client = frame_.mdiClient();
   switch (id) {
     case CM_WINDOW_CASCADE:
-      SendMessageA(client, WM_MDICASCADE, 0, 0);
+      cascadeChildren(client);
       return true;
     case CM_WINDOW_TILE:
-      SendMessageA(client, WM_MDITILE, MDITILE_HORIZONTAL, 0);
+      tileChildren(client);
       return true;
     case CM_WINDOW_ARRANGE:
       SendMessageA(client, WM_MDIICONARRANGE, 0, 0);

@@ -62,6 +62,19 @@ LRESULT CALLBACK StatusBar::windowProc(HWND window, UINT message, WPARAM w, LPAR
   return DefWindowProcA(window, message, w, l);
 }
 
+RECT StatusBar::fieldArea(int field) const {
+  RECT area = {};
+  GetClientRect(window_, &area);
+  InflateRect(&area, -2, -2);
+  for (int right = kFields - 1; right > field; --right) {
+    area.right = std::max(area.left, area.right - kFieldWidth) - kGap;
+  }
+  if (field > 0) {
+    area.left = std::max(area.left, area.right - kFieldWidth);
+  }
+  return area;
+}
+
 void StatusBar::paint() {
   PAINTSTRUCT info = {};
   HDC screen = BeginPaint(window_, &info);
@@ -73,45 +86,49 @@ void StatusBar::paint() {
   const HGDIOBJ old_bitmap = SelectObject(dc.get(), bitmap.get());
   const HGDIOBJ old_font = SelectObject(
       dc.get(), font_ ? static_cast<HGDIOBJ>(font_.get()) : GetStockObject(ANSI_VAR_FONT));
-  FillRect(dc.get(), &area, GetSysColorBrush(COLOR_BTNFACE));
+  FillRect(dc.get(), &info.rcPaint, GetSysColorBrush(COLOR_BTNFACE));
   SetBkMode(dc.get(), TRANSPARENT);
   SetTextColor(dc.get(), GetSysColor(COLOR_BTNTEXT));
-  RECT field = area;
-  InflateRect(&field, -2, -2);
-  const std::string* const fields[] = {&mode_, &state_, &position_};
-  for (const std::string* text : fields) {
-    RECT box = field;
-    box.left = std::max(field.left, field.right - kFieldWidth);
-    drawField(dc.get(), box, *text);
-    field.right = box.left - kGap;
+  for (int field = 0; field < kFields; ++field) {
+    const RECT box = fieldArea(field);
+    RECT shared = {};
+    if (IntersectRect(&shared, &box, &info.rcPaint) != 0) {
+      drawField(dc.get(), box, texts_[field]);
+    }
   }
-  drawField(dc.get(), field, text_);
-  BitBlt(screen, 0, 0, area.right, area.bottom, dc.get(), 0, 0, SRCCOPY);
+  const RECT& part = info.rcPaint;
+  BitBlt(screen, part.left, part.top, part.right - part.left, part.bottom - part.top, dc.get(),
+         part.left, part.top, SRCCOPY);
   SelectObject(dc.get(), old_font);
   SelectObject(dc.get(), old_bitmap);
   EndPaint(window_, &info);
 }
 
-void StatusBar::setText(const std::string& text) {
-  text_ = text;
+bool StatusBar::change(int field, const std::string& text) {
+  if (texts_[field] == text) {
+    return false;
+  }
+  texts_[field] = text;
   if (window_ != nullptr) {
-    InvalidateRect(window_, nullptr, FALSE);
+    const RECT box = fieldArea(field);
+    InvalidateRect(window_, &box, FALSE);
+  }
+  return true;
+}
+
+void StatusBar::setText(const std::string& text) {
+  if (change(0, text) && window_ != nullptr) {
     // A long operation may tell its progress without coming back to the loop.
     UpdateWindow(window_);
   }
 }
 
 void StatusBar::setFields(const std::string& position, const std::string& state,
-                          const std::string& mode) {
-  if (position == position_ && state == state_ && mode == mode_) {
-    return;
-  }
-  position_ = position;
-  state_ = state;
-  mode_ = mode;
-  if (window_ != nullptr) {
-    InvalidateRect(window_, nullptr, FALSE);
-  }
+                          const std::string& mode, const std::string& encoding) {
+  change(1, position);
+  change(2, state);
+  change(3, mode);
+  change(4, encoding);
 }
 
 }  // namespace workbench

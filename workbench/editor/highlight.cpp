@@ -130,24 +130,60 @@ bool highlightLine(std::string_view line, bool in_comment, std::vector<TextRun>*
   return LineSplitter(line, runs).split(in_comment);
 }
 
-void Highlighter::invalidate(int line) {
-  const std::size_t known = static_cast<std::size_t>(line) + 1;
-  if (begins_in_comment_.size() > known) {
-    begins_in_comment_.resize(known);
+void Highlighter::documentChanged(const DocumentChange& change) {
+  const int known = static_cast<int>(begins_in_comment_.size());
+  const int from = change.from.line + 1;
+  if (known <= from) {
+    return;
   }
+  const int old_end = std::min(known, change.old_end.line + 1);
+  const int new_end = change.new_end.line + 1;
+  const auto begin = begins_in_comment_.begin();
+  if (old_end == known) {
+    begins_in_comment_.resize(static_cast<std::size_t>(from));
+  } else if (new_end < old_end) {
+    begins_in_comment_.erase(begin + new_end, begin + old_end);
+  } else {
+    begins_in_comment_.insert(begin + old_end, static_cast<std::size_t>(new_end - old_end), 0);
+  }
+  if (follows_from_ > old_end) {
+    follows_from_ += new_end - old_end;
+  }
+  follows_from_ = std::max(follows_from_, new_end);
+  sure_ = std::min(sure_, from);
+}
+
+int Highlighter::makeSure(const Document& document, int line) {
+  int turned = 0;
+  while (sure_ <= line) {
+    const std::size_t next = static_cast<std::size_t>(sure_);
+    const std::uint8_t inside =
+        highlightLine(document.line(sure_ - 1), begins_in_comment_[next - 1] != 0, nullptr) ? 1 : 0;
+    if (next == begins_in_comment_.size()) {
+      begins_in_comment_.push_back(inside);
+    } else if (begins_in_comment_[next] != inside) {
+      begins_in_comment_[next] = inside;
+      turned = sure_ + 1;
+      follows_from_ = std::max(follows_from_, turned);
+    } else if (sure_ >= follows_from_) {
+      sure_ = static_cast<int>(begins_in_comment_.size()) - 1;
+    }
+    ++sure_;
+  }
+  if (sure_ == static_cast<int>(begins_in_comment_.size())) {
+    follows_from_ = 0;
+  }
+  return turned;
+}
+
+bool Highlighter::beginsInComment(const Document& document, int line) {
+  makeSure(document, line);
+  return begins_in_comment_[static_cast<std::size_t>(line)] != 0;
 }
 
 std::vector<TextRun> Highlighter::runs(const Document& document, int line) {
-  if (begins_in_comment_.empty()) {
-    begins_in_comment_.push_back(false);
-  }
-  while (begins_in_comment_.size() <= static_cast<std::size_t>(line)) {
-    const int last = static_cast<int>(begins_in_comment_.size()) - 1;
-    begins_in_comment_.push_back(
-        highlightLine(document.line(last), begins_in_comment_.back(), nullptr));
-  }
   std::vector<TextRun> result;
-  highlightLine(document.line(line), begins_in_comment_[static_cast<std::size_t>(line)], &result);
+  highlightLine(document.line(line), beginsInComment(document, line), &result);
   return result;
 }
 

@@ -30,15 +30,23 @@ struct TextRun {
 // lines, the result whether the next one does. Runs may be null.
 bool highlightLine(std::string_view line, bool in_comment, std::vector<TextRun>* runs);
 
-// Remembers for each line whether it begins inside a comment.
+// Remembers for each line whether it begins inside a comment. After a change lines are
+// looked at anew only up to the first that begins as it did before.
 class Highlighter {
  public:
-  // The lines from this one on have changed.
-  void invalidate(int line);
+  void documentChanged(const DocumentChange& change);
+  // Makes sure of the beginnings of all lines up to this one. Returns the line after the
+  // last whose beginning has turned since it was last made sure of; 0 for none.
+  int makeSure(const Document& document, int line);
+  bool beginsInComment(const Document& document, int line);
   std::vector<TextRun> runs(const Document& document, int line);
 
  private:
-  std::vector<bool> begins_in_comment_;
+  // Bytes, not bits: lines come and go in the middle.
+  std::vector<std::uint8_t> begins_in_comment_ = {0};
+  int sure_ = 1;  // so many are right
+  // Of those that are not sure, the ones from here on follow from each other.
+  int follows_from_ = 0;
 };
 
 }  // namespace workbench

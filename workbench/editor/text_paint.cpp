@@ -28,121 +28,146 @@ COLORREF colourOf(TextKind kind) {
 }
 
 // Control characters have no picture of their own.
-char shown(char c) {
-  return static_cast<unsigned char>(c) < 32 || c == 127 ? '\xB7' : c;
+unsigned shown(unsigned code) {
+  return code < 32 || code == 127 ? 0xB7U : code;
 }
 
-// Collects cells of one look and draws them in one call.
-class RunPainter {
+// Paints the cells of a row from left to right, those of one look in one call, and
+// leaves no pixel of the row out.
+class RowPainter {
  public:
-  RunPainter(HDC dc, const RECT& area, int cell_width)
-      : dc_(dc), area_(area), cell_width_(cell_width) {}
-  ~RunPainter() { flush(); }
-  RunPainter(const RunPainter&) = delete;
-  RunPainter& operator=(const RunPainter&) = delete;
+  // Cell 0 begins `margin` pixels into the row.
+  RowPainter(HDC dc, const RECT& row, int margin, int cell_width)
+      : dc_(dc), row_(row), margin_(margin), cell_width_(cell_width) {}
+  ~RowPainter() {
+    if (paper_ != window_paper_) {
+      flush(edgeOf(end_));
+      paper_ = window_paper_;
+    }
+    flush(row_.right);
+  }
+  RowPainter(const RowPainter&) = delete;
+  RowPainter& operator=(const RowPainter&) = delete;
 
-  void put(int cell, char c, COLORREF ink, COLORREF paper) {
-    if (count_ == kMost || ink != ink_ || paper != paper_ || cell != cell_ + count_) {
-      flush();
-      cell_ = cell;
-      ink_ = ink;
+  void put(int cell, unsigned code, COLORREF ink, COLORREF paper) {
+    // A blank has no ink.
+    const bool inks = code != ' ';
+    if (count_ + 2 > kMost || paper != paper_ || (inks && inked_ && ink != ink_)) {
+      flush(edgeOf(cell));
       paper_ = paper;
     }
-    text_[count_] = c;
-    steps_[count_] = cell_width_;
-    ++count_;
+    if (inks) {
+      ink_ = ink;
+      inked_ = true;
+    }
+    if (code >= 0x10000) {
+      add(0xD7C0 + (code >> 10), 0);
+      code = 0xDC00 + (code & 0x3FF);
+    }
+    add(code, cell_width_);
+    ++cells_;
+    end_ = cell + 1;
   }
 
  private:
   static constexpr int kMost = 256;
 
-  void flush() {
-    if (count_ == 0) {
-      return;
+  void add(unsigned unit, int step) {
+    text_[count_] = static_cast<wchar_t>(unit);
+    steps_[count_] = step;
+    ++count_;
+  }
+
+  LONG edgeOf(int cell) const { return row_.left + margin_ + cell * cell_width_; }
+
+  void flush(LONG right) {
+    const RECT box = {done_, row_.top, right, row_.bottom};
+    if (box.left < box.right) {
+      SetTextColor(dc_, ink_);
+      SetBkColor(dc_, paper_);
+      ExtTextOutW(dc_, edgeOf(end_ - cells_), box.top, ETO_OPAQUE | ETO_CLIPPED, &box, text_,
+                  static_cast<UINT>(count_), steps_);
+      done_ = right;
     }
-    RECT box = area_;
-    box.left = area_.left + cell_ * cell_width_;
-    box.right = box.left + count_ * cell_width_;
-    SetTextColor(dc_, ink_);
-    SetBkColor(dc_, paper_);
-    ExtTextOutA(dc_, box.left, box.top, ETO_OPAQUE, &box, text_, static_cast<UINT>(count_), steps_);
-    count_ = 0;
+    count_ = cells_ = 0;
+    inked_ = false;
   }
 
   HDC dc_;
-  RECT area_;
+  RECT row_;
+  int margin_;
   int cell_width_;
-  int cell_ = 0;
-  int count_ = 0;
+  COLORREF window_paper_ = GetSysColor(COLOR_WINDOW);
   COLORREF ink_ = 0;
-  COLORREF paper_ = 0;
-  char text_[kMost];
+  bool inked_ = false;  // of those collected one has ink
+  COLORREF paper_ = window_paper_;
+  LONG done_ = row_.left;
+  int count_ = 0;  // units of text
+  int cells_ = 0;
+  int end_ = 0;  // the cell after those collected
+  wchar_t text_[kMost];
   INT steps_[kMost];
 };
 
 }  // namespace
 
-int TextWindow::marginWidth() const {
+int TextWindow::marginWidth(int lines) const {
   if (!settings_.line_numbers) {
     return 4;
   }
   int digits = 3;
-  for (int n = document_.lineCount(); n >= 1000; n /= 10) {
+  for (int n = lines; n >= 1000; n /= 10) {
     ++digits;
   }
   return (digits + 2) * cell_width_;
 }
 
 void TextWindow::paint() {
-  PAINTSTRUCT paint_info = {};
-  HDC screen = BeginPaint(window_, &paint_info);
+  repaintSelection();
+  PAINTSTRUCT info = {};
+  HDC dc = BeginPaint(window_, &info);
   RECT area = {};
   GetClientRect(window_, &area);
-  const OwnedDc dc(CreateCompatibleDC(screen));
-  const OwnedBitmap bitmap(CreateCompatibleBitmap(screen, std::max(1L, area.right), line_height_));
-  if (dc && bitmap) {
-    const HGDIOBJ old_bitmap = SelectObject(dc.get(), bitmap.get());
-    const HGDIOBJ old_font = SelectObject(dc.get(), font_.get());
-    const RECT row = {0, 0, area.right, line_height_};
-    int line = top_ + static_cast<int>(paint_info.rcPaint.top) / line_height_;
-    for (int y = (line - top_) * line_height_; y < paint_info.rcPaint.bottom; y += line_height_) {
-      paintLine(dc.get(), line++, row);
-      BitBlt(screen, 0, y, area.right, line_height_, dc.get(), 0, 0, SRCCOPY);
+  const HGDIOBJ old_font = SelectObject(dc, font_.get());
+  const int first = static_cast<int>(info.rcPaint.top) / line_height_;
+  for (int row = first; row * line_height_ < info.rcPaint.bottom; ++row) {
+    const RECT box = {0, row * line_height_, area.right, (row + 1) * line_height_};
+    // What is to be painted may have gaps.
+    if (RectVisible(dc, &box) != 0) {
+      paintLine(dc, top_ + row, box);
     }
-    SelectObject(dc.get(), old_font);
-    SelectObject(dc.get(), old_bitmap);
   }
-  EndPaint(window_, &paint_info);
+  SelectObject(dc, old_font);
+  EndPaint(window_, &info);
 }
 
-void TextWindow::paintLine(HDC dc, int line, const RECT& area) {
-  FillRect(dc, &area, GetSysColorBrush(COLOR_WINDOW));
+void TextWindow::paintLine(HDC dc, int line, const RECT& row) {
+  RECT text = row;
+  if (settings_.line_numbers) {
+    text.left = marginWidth() - cell_width_ / 2;
+    paintMargin(dc, line, {row.left, row.top, text.left, row.bottom});
+  }
+  paintText(dc, line, text);
+}
+
+void TextWindow::paintMargin(HDC dc, int line, const RECT& margin) const {
+  char number[16];
+  int length = 0;
   if (line < document_.lineCount()) {
-    paintText(dc, line, area);
+    length = std::snprintf(number, sizeof number, "%d", line + 1);
   }
-  paintMargin(dc, line, area);
+  SetTextColor(dc, kMarginColour);
+  SetBkColor(dc, GetSysColor(COLOR_BTNFACE));
+  ExtTextOutA(dc, margin.right - cell_width_ / 2 - length * cell_width_, margin.top,
+              ETO_OPAQUE | ETO_CLIPPED, &margin, number, static_cast<UINT>(length), nullptr);
 }
 
-void TextWindow::paintMargin(HDC dc, int line, const RECT& area) {
-  RECT margin = area;
-  margin.right = marginWidth();
-  if (!settings_.line_numbers) {
-    FillRect(dc, &margin, GetSysColorBrush(COLOR_WINDOW));
+void TextWindow::paintText(HDC dc, int line, const RECT& row) {
+  const int margin = marginWidth() - static_cast<int>(row.left);
+  RowPainter painter(dc, row, margin, cell_width_);
+  if (line >= document_.lineCount()) {
     return;
   }
-  margin.right -= cell_width_ / 2;
-  FillRect(dc, &margin, GetSysColorBrush(COLOR_BTNFACE));
-  if (line < document_.lineCount()) {
-    char number[16];
-    std::snprintf(number, sizeof number, "%d", line + 1);
-    margin.right -= cell_width_ / 2;
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, kMarginColour);
-    DrawTextA(dc, number, -1, &margin, DT_RIGHT | DT_SINGLELINE | DT_NOPREFIX);
-  }
-}
-
-void TextWindow::paintText(HDC dc, int line, const RECT& area) {
   const std::string& text = document_.line(line);
   const int length = static_cast<int>(text.size());
   const Place first = std::min(anchor_, caret_);
@@ -151,17 +176,16 @@ void TextWindow::paintText(HDC dc, int line, const RECT& area) {
   if (settings_.colours) {
     runs = highlighter_.runs(document_, line);
   }
-  RECT box = area;
-  box.left = marginWidth();
-  RunPainter painter(dc, box, cell_width_);
-  const int end_cell = left_ + (box.right - box.left) / cell_width_ + 1;
+  const int end_cell = left_ + (static_cast<int>(row.right) - marginWidth()) / cell_width_ + 1;
   const COLORREF paper = GetSysColor(COLOR_WINDOW);
+  const COLORREF selected_paper = GetSysColor(COLOR_HIGHLIGHT);
+  const COLORREF selected_ink = GetSysColor(COLOR_HIGHLIGHTTEXT);
   std::size_t run = 0;
   int cell = 0;
   // One byte more than the line: a selected line end shows as a selected blank.
-  for (int i = 0; i <= length && cell < end_cell; ++i) {
+  for (int i = 0, size = 1; i <= length && cell < end_cell; i += size) {
     const bool at_end = i == length;
-    const char c = at_end ? ' ' : text[static_cast<std::size_t>(i)];
+    const unsigned c = at_end ? ' ' : characterAt(text, i, document_.encoding(), &size);
     const int next =
         !at_end && c == '\t' ? (cell / settings_.tab_width + 1) * settings_.tab_width : cell + 1;
     const Place here = {line, i};
@@ -171,10 +195,9 @@ void TextWindow::paintText(HDC dc, int line, const RECT& area) {
         ++run;
       }
       const TextKind kind = run < runs.size() ? runs[run].kind : TextKind::kPlain;
-      const COLORREF ink = selected ? GetSysColor(COLOR_HIGHLIGHTTEXT) : colourOf(kind);
+      const COLORREF ink = selected ? selected_ink : colourOf(kind);
       for (int at = std::max(cell, left_); at < next && at < end_cell; ++at) {
-        painter.put(at - left_, c == '\t' ? ' ' : shown(c), ink,
-                    selected ? GetSysColor(COLOR_HIGHLIGHT) : paper);
+        painter.put(at - left_, c == '\t' ? ' ' : shown(c), ink, selected ? selected_paper : paper);
       }
     }
     cell = next;

@@ -48,10 +48,12 @@ class TextWindow final : public DocumentListener {
   void select(Place from, Place to);
   bool hasSelection() const { return !(anchor_ == caret_); }
   std::string selection() const;
+  int topLine() const { return top_; }
+  void setTopLine(int line) { scrollTo(line, left_); }
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
 
-  // Replaces the selection as typing does.
+  // Texts are in the document's encoding. Replaces the selection as typing does.
   void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
   // Inserts at the caret, leaving it before the new text; the selection is given up.
   void insertBefore(std::string_view text);
@@ -80,7 +82,12 @@ class TextWindow final : public DocumentListener {
   bool keyDown(WPARAM key);
   bool controlKey(WPARAM key, bool shift);
   bool motionKey(WPARAM key, bool shift, bool control);
-  void character(char c);
+  // A unit of UTF-16.
+  void character(wchar_t unit);
+  // In the document's encoding; false when it has no place for a character.
+  bool encode(const std::wstring& wide, std::string* text);
+  bool putSelection();
+  Place wholeCharacter(Place place) const;
   void breakLine();
   void eraseBack(bool word);
   void eraseForward(bool word);
@@ -91,22 +98,34 @@ class TextWindow final : public DocumentListener {
   void eraseSelection();
   // text_paint.cpp
   void paint();
-  void paintLine(HDC dc, int line, const RECT& area);
-  void paintText(HDC dc, int line, const RECT& area);
-  void paintMargin(HDC dc, int line, const RECT& area);
-  int marginWidth() const;
-
-  void makeFont();
+  void paintLine(HDC dc, int line, const RECT& row);
+  void paintText(HDC dc, int line, const RECT& row);
+  void paintMargin(HDC dc, int line, const RECT& row) const;
+  int marginWidth() const { return marginWidth(document_.lineCount()); }
+  int marginWidth(int lines) const;
+  // text_repaint.cpp: what of the window does not show the text as it is.
+  bool paints() const { return window_ != nullptr && painting_held_ == 0; }
+  void repaint();
+  void repaintLines(int first, int last);
+  void repaintSelection();
+  void repaintChange(const DocumentChange& change);
+  void moveRows(int first, int rows);
+  void moveView(int rows, int cells);
+  // text_scroll.cpp
   void updateScrollBars();
+  void setScrollBar(int bar, int last, int page, int position);
   void scroll(int bar, WPARAM w);
   void scrollTo(int top, int left);
   void wheel(int delta);
   void revealCaret();
+  int visibleLines() const;
+  int visibleCells() const;
+
+  void makeFont();
+  void makeCaret();
   void placeCaret();
   void afterMove();
   Place placeAt(int x, int y) const;
-  int visibleLines() const;
-  int visibleCells() const;
   void trackWidth(int first, int last);
 
   Document& document_;
@@ -119,11 +138,16 @@ class TextWindow final : public DocumentListener {
   Highlighter highlighter_;
   Place caret_;
   Place anchor_;
+  // The selection as the window shows it where nothing is to be painted anew.
+  Place shown_from_;
+  Place shown_to_;
   int wanted_cell_ = -1;  // of vertical moves; -1 takes the caret's
   int top_ = 0;           // first line shown
   int left_ = 0;          // first cell shown
   int widest_ = 0;        // cells; an edit only ever widens it
   int wheel_rest_ = 0;
+  wchar_t first_half_ = 0;   // of a character that comes as two units
+  SCROLLINFO bars_[2] = {};  // as last set, by SB_HORZ and SB_VERT
   int painting_held_ = 0;
   bool insert_mode_ = true;
   bool dragging_ = false;

@@ -255,6 +255,7 @@ ScriptDriver::ScriptDriver(Workbench& workbench) : state_(new State(workbench)) 
   State* state = state_.get();
   workbench.events().setListener([state](const Event& event) {
     state->history.add(event);
+    Watchdog::instance().alive();
     if (event.name() == "status") {
       state->tryStepsHeldUp();
     }

@@ -74,6 +74,20 @@ StepResult clickEditor(StepTry& step, HWND editor, POINT screen, MouseButton but
   return click(step, screen, button);
 }
 
+// The side that an argument names, the stored one without it. False with the step failed.
+bool sideOf(StepTry& step, size_t index, TitleSide* side) {
+  *side = storedTitleSide();
+  if (step.argCount() <= index) {
+    return true;
+  }
+  if (step.arg(index) != "left" && step.arg(index) != "right") {
+    step.fail("a side is left or right");
+    return false;
+  }
+  *side = step.arg(index) == "left" ? TitleSide::kLeft : TitleSide::kRight;
+  return true;
+}
+
 }  // namespace
 
 StepResult stepKey(StepTry& step) {
@@ -88,15 +102,9 @@ StepResult stepKey(StepTry& step) {
 
 StepResult stepClickTitle(StepTry& step) {
   long button = 0;
-  if (!step.number(1, 0, 2, &button)) {
+  TitleSide side = TitleSide::kLeft;
+  if (!step.number(1, 0, 2, &button) || !sideOf(step, 2, &side)) {
     return StepResult::kFailed;
-  }
-  TitleSide side = storedTitleSide();
-  if (step.argCount() == 3) {
-    if (step.arg(2) != "left" && step.arg(2) != "right") {
-      return step.fail("a side is left or right");
-    }
-    side = step.arg(2) == "left" ? TitleSide::kLeft : TitleSide::kRight;
   }
   HWND editor = editorToClick(step, step.arg(0));
   if (editor == nullptr) {
@@ -121,6 +129,24 @@ StepResult stepDoubleClickTitle(StepTry& step) {
     clickMouse(place, MouseButton::kLeft);
   }
   return result;
+}
+
+StepResult stepExpectButtons(StepTry& step) {
+  TitleSide side = TitleSide::kLeft;
+  if (!sideOf(step, 1, &side)) {
+    return StepResult::kFailed;
+  }
+  // It is not brought forward, which would paint its caption.
+  EditorWindow* editor = step.stage.editing.findEditor(step.stage.paths.resolve(step.arg(0)));
+  if (editor == nullptr) {
+    return step.fail("no editor shows " + step.arg(0));
+  }
+  HWND bar = step.stage.window.addonBar();
+  auto* addon =
+      bar != nullptr ? reinterpret_cast<HINSTANCE>(GetWindowLongA(bar, GWL_HINSTANCE)) : nullptr;
+  return addon != nullptr && titleButtonsShow(editor->window(), addon, side)
+             ? StepResult::kDone
+             : step.again("the caption of " + step.arg(0) + " does not show the buttons", 5000);
 }
 
 StepResult stepRightClickTitle(StepTry& step) {

@@ -80,6 +80,8 @@ Step stepOf(Verb verb) {
       return stepEndSession;
     case Verb::kExpect:
       return stepExpect;
+    case Verb::kExpectButtons:
+      return stepExpectButtons;
     case Verb::kExpectNot:
       return stepExpectNot;
     case Verb::kExpectRegistry:

@@ -47,6 +47,7 @@ StepResult dumpMessages(StepTry& step);
 // input_steps.cpp: real keys and clicks
 StepResult stepKey(StepTry& step);
 StepResult stepClickTitle(StepTry& step);
+StepResult stepExpectButtons(StepTry& step);
 StepResult stepDoubleClickTitle(StepTry& step);
 StepResult stepRightClickTitle(StepTry& step);
 StepResult stepClickAt(StepTry& step);

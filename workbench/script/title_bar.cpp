@@ -16,6 +16,7 @@ constexpr int kHeight = 18;
 constexpr int kLeftMargin = 23;
 constexpr int kNewRightMargin = 58;
 constexpr int kOldRightMargin = 41;
+constexpr const char* kPictures[] = {"BMPFUNC95", "BMPINC95", "BMPQKFIND95"};
 
 // Windows 95 and Windows NT 4 brought the new captions.
 bool newLook() {
@@ -39,6 +40,36 @@ int titleWidth(HWND window) {
   return size.cx;
 }
 
+// The left edge of button 0, from the editor's left edge.
+int buttonsLeft(HWND editor, TitleSide side) {
+  RECT place{};
+  GetWindowRect(editor, &place);
+  bool is_new = newLook();
+  int width = static_cast<int>(place.right - place.left);
+  int x = width - (is_new ? kNewRightMargin : kOldRightMargin) - 3 * kWidth;
+  if (side == TitleSide::kRight) {
+    return x;
+  }
+  return is_new ? std::min(x, kLeftMargin + titleWidth(editor)) : kLeftMargin;
+}
+
+bool buttonShows(HDC caption, int left, HBITMAP picture) {
+  if (picture == nullptr) {
+    return false;
+  }
+  HDC memory = CreateCompatibleDC(caption);
+  HGDIOBJ before = SelectObject(memory, picture);
+  bool same = true;
+  for (int at = 0; same && at < kWidth * kHeight; ++at) {
+    int x = at % kWidth, y = at / kWidth;
+    COLORREF seen = GetPixel(caption, left + x, kTop + y);
+    same = seen != CLR_INVALID && seen == GetPixel(memory, x, y);
+  }
+  SelectObject(memory, before);
+  DeleteDC(memory);
+  return same;
+}
+
 }  // namespace
 
 TitleSide storedTitleSide() {
@@ -50,13 +81,22 @@ TitleSide storedTitleSide() {
 POINT titleButtonCenter(HWND editor, int button, TitleSide side) {
   RECT place{};
   GetWindowRect(editor, &place);
-  bool is_new = newLook();
-  LONG x = place.right - (is_new ? kNewRightMargin : kOldRightMargin) - 3 * kWidth;
-  if (side == TitleSide::kLeft) {
-    LONG left = place.left + kLeftMargin;
-    x = is_new ? std::min(x, left + titleWidth(editor)) : left;
-  }
+  LONG x = place.left + buttonsLeft(editor, side);
   return {x + button * kWidth + kWidth / 2, place.top + kTop + kHeight / 2};
+}
+
+bool titleButtonsShow(HWND editor, HINSTANCE addon, TitleSide side) {
+  int left = buttonsLeft(editor, side);
+  HDC caption = GetWindowDC(editor);
+  bool show = true;
+  for (const char* name : kPictures) {
+    HBITMAP picture = LoadBitmapA(addon, name);
+    show = show && buttonShows(caption, left, picture);
+    DeleteObject(picture);
+    left += kWidth;
+  }
+  ReleaseDC(editor, caption);
+  return show;
 }
 
 }  // namespace workbench

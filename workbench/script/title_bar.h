@@ -12,5 +12,8 @@ enum class TitleSide { kLeft, kRight };
 TitleSide storedTitleSide();
 // The middle of button 0, 1 or 2, in screen coordinates.
 POINT titleButtonCenter(HWND editor, int button, TitleSide side);
+// Whether the editor's caption shows the pictures of the three buttons, which are in
+// the add-on's module. What covers the caption hides them.
+bool titleButtonsShow(HWND editor, HINSTANCE addon, TitleSide side);
 
 }  // namespace workbench

@@ -31,6 +31,7 @@ enum class Verb {
   kEdit,
   kEndSession,
   kExpect,
+  kExpectButtons,
   kExpectNot,
   kExpectRegistry,
   kHandles,

@@ -38,6 +38,10 @@ void Watchdog::progress(int line) {
   last_ = GetTickCount();
 }
 
+void Watchdog::alive() {
+  last_ = GetTickCount();
+}
+
 void Watchdog::ending(int exit_code) {
   exit_code_ = exit_code;
   last_ = GetTickCount();

@@ -17,6 +17,8 @@ class Watchdog {
   void start();
   // The script gets on; this line comes next.
   void progress(int line);
+  // Something goes on, such as an add-on that tells what its own end is waiting for.
+  void alive();
   // The script has ended: the process must be gone soon, with this exit code.
   void ending(int exit_code);
 

@@ -6,6 +6,7 @@
 
 #include "workbench/editor/editor_set.h"
 #include "workbench/events/event_log.h"
+#include "workbench/main_window.h"
 #include "workbench/paths.h"
 #include "workbench/services/ide_string.h"
 
@@ -100,18 +101,23 @@ IIdeString* STDMETHODCALLTYPE EditorService::GetLine(int line) {
   if (child == nullptr || line < 1 || line > child->openFile().document.lineCount()) {
     return nullptr;
   }
-  return handOut(context_.live, child->openFile().document.line(line - 1));
+  const Document& document = child->openFile().document;
+  return handOut(context_.live, toAnsi(document.line(line - 1), document.encoding()));
 }
 
 void STDMETHODCALLTYPE EditorService::InsertText(IIdeString* text) {
   if (EditorChild* child = current()) {
-    child->textView().insertBefore(textOf(text));
+    child->textView().insertBefore(fromAnsi(textOf(text), child->openFile().document.encoding()));
   }
 }
 
 int STDMETHODCALLTYPE EditorService::SaveModified(IIdeString** names) {
   std::vector<std::string> saved;
-  context_.editors.saveAll(&saved);
+  std::string failure;
+  context_.editors.saveQuietly(&saved, &failure);
+  if (!failure.empty()) {
+    context_.window.setStatus(failure);
+  }
   if (names != nullptr) {
     *names = nullptr;
     std::string list;

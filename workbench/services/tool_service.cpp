@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "workbench/editing.h"
+#include "workbench/editor/editor_set.h"
 #include "workbench/events/event_log.h"
 #include "workbench/main_window.h"
 #include "workbench/paths.h"
@@ -41,7 +42,19 @@ ToolHandle STDMETHODCALLTYPE ToolService::FindTool(IIdeString* name) {
 }
 
 int STDMETHODCALLTYPE ToolService::RunTool(ToolHandle handle, IIdeString* file) {
-  return runTool(find(handle), file);
+  const Tool* tool = find(handle);
+  if (tool != nullptr && tool->name == kEditTool) {
+    addView(textOf(file));
+  }
+  return runTool(tool, file);
+}
+
+// Who asks from outside has looked for an editor already; the project's own window has not.
+void ToolService::addView(const std::string& file) {
+  EditorChild* shown = file.empty() ? nullptr : context_.editors.find(context_.paths.resolve(file));
+  if (shown != nullptr) {
+    context_.editors.newView(*shown);
+  }
 }
 
 int ToolService::run(const std::string& name, const std::string& file) {

@@ -45,6 +45,7 @@ class ToolService final : public Service<IToolService> {
   const Tool* find(const std::string& name) const;
   const Tool* find(ToolHandle handle) const;
   int runOwn(const std::string& name, const std::string& file);
+  void addView(const std::string& file);
   int runTool(const Tool* tool, IIdeString* file);
   int view(const std::string& file);
   bool openWithSystem(const std::string& file);

@@ -3,3 +3,4 @@
 #include "both.h" // see <angle.h>
 #include ""
 // #include "beside.h"
+#include "second/../beside.h"
