@@ -160,6 +160,20 @@ bool Application::openMessage(int position) {
   return showPlace(message);
 }
 
+void Application::showOtherMessage(bool next) {
+  bool wrapped = false;
+  const Message* found = message_window_.step(next, &wrapped);
+  if (found == nullptr) {
+    setStatus("No message tells of a place");
+    return;
+  }
+  // Opening may change the list.
+  const Message message = *found;
+  showPlace(message);
+  const char* word = next ? "The first message again: " : "The last message again: ";
+  setStatus((wrapped ? word : "") + message.text);
+}
+
 bool Application::showPlace(const Message& message) {
   EditorWindow* editor = message.file.empty() ? nullptr : editFile(message.file, message.line);
   if (editor != nullptr && message.line > 0 && message.column > 1) {

@@ -85,6 +85,7 @@ class Application final : public Workbench,
   bool projectCommandEnabled(int id) override { return commandEnabled(id); }
 
   void makeStarted(const std::string& command) override;
+  void makeGoesOn(int seconds) override;
   void makeEnded(int result) override;
 
   void frameCommand(int id) override;
@@ -124,6 +125,8 @@ class Application final : public Workbench,
   void showEditorState();
   void messagesChanged(const MessageGroupInfo& group, const Message* added);
   bool showPlace(const Message& message);
+  // The next or the former message that has a place, of the group shown.
+  void showOtherMessage(bool next);
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
@@ -138,6 +141,8 @@ class Application final : public Workbench,
   void removeSelected();
   void editSelected();
   void editBuild();
+  // The project's, as people call it.
+  std::string projectName();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
   void runTool(ToolHandle tool);

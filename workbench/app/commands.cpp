@@ -57,6 +57,8 @@ bool Application::commandEnabled(int id) {
       return child != nullptr && child->textView().hasSelection();
     case CM_PROJECT_MAKE:
       return hasProject() && !make_.running();
+    case CM_PROJECT_STOP_MAKE:
+      return make_.running();
     case CM_PROJECT_OPEN_FILE:
     case CM_PROJECT_CLOSE:
     case CM_PROJECT_SAVE:
@@ -238,6 +240,16 @@ bool Application::windowCommand(int id, EditorChild* child) {
     case CM_WINDOW_CLOSE_ALL:
       editors_.closeAll();
       return true;
+    case CM_EDIT_NEXT_MESSAGE:
+      // In the project's window the key is that of a node's properties.
+      if (project_window_.active()) {
+        return nodeCommand(CM_NODE_PROPERTIES);
+      }
+      showOtherMessage(true);
+      return true;
+    case CM_EDIT_FORMER_MESSAGE:
+      showOtherMessage(false);
+      return true;
     case CM_WINDOW_NEW_VIEW:
       if (child != nullptr) {
         announce(editors_.newView(*child));
@@ -261,6 +273,9 @@ bool Application::projectCommand(int id) {
       return true;
     case CM_PROJECT_MAKE:
       startMake();
+      return true;
+    case CM_PROJECT_STOP_MAKE:
+      make_.cancel();
       return true;
     case CM_PROJECT_SAVE:
       if (saveProject()) {

@@ -213,12 +213,16 @@ void Application::unloadProject() {
   events_.emit(Event("project").text("action", "closed").text("file", file));
 }
 
+std::string Application::projectName() {
+  const std::string_view name = fileName(project_.file());
+  return std::string(name.substr(0, name.size() - extensionOf(name).size()));
+}
+
 void Application::showTitle() {
   std::string title = kFrameTitle;
   if (project_.loaded()) {
     title += " - ";
-    const std::string_view name = fileName(project_.file());
-    title += name.substr(0, name.size() - extensionOf(name).size());
+    title += projectName();
   }
   if (frame_.window() != nullptr) {
     frame_.setTitle(title);
