@@ -21,6 +21,11 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   // what belongs to it follows below.
   void storeChanged(const MessageGroupInfo& group, const Message* added);
   void showGroup(unsigned int group);
+  // Selects the next or former message that names a file, and returns it; null without one.
+  // wrapped: it was sought from the other end on.
+  const Message* step(bool next, bool* wrapped);
+  // From here on the next message is the next that comes.
+  void beginAfterLast();
 
   unsigned int shownGroup() const { return shown_; }
   // -1 for none.
@@ -52,6 +57,7 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   unsigned int shown_ = MessageStore::kBuildGroup;
   unsigned int header_ = 0;   // the message to select next, 0 for none
   bool other_group_ = false;  // since the list was last filled
+  int row_ = -1;              // where the steps are, while the window is closed
   bool update_posted_ = false;
 };
 

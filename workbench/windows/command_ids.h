@@ -11,6 +11,7 @@
 #define CM_FILE_CLOSE 13107
 #define CM_FILE_EXIT 13108
 #define CM_FILE_NEW_PROJECT 13109
+#define CM_FILE_RELOAD 13110
 
 /* The files and projects used last, from the latest on. */
 #define CM_FIRST_RECENT 13121
@@ -27,7 +28,9 @@
 #define CM_EDIT_FIND_NEXT 13159
 #define CM_EDIT_FIND_PREVIOUS 13160
 #define CM_EDIT_GO_TO_LINE 13161
-#define CM_EDIT_REPLACE 13162
+#define CM_EDIT_NEXT_MESSAGE 13162
+#define CM_EDIT_FORMER_MESSAGE 13163
+#define CM_EDIT_REPLACE 13164
 
 /* The IDE is known by these two as well. */
 #define CM_WINDOW_PROJECT 13251
@@ -37,6 +40,7 @@
 #define CM_PROJECT_CLOSE 13302
 #define CM_PROJECT_SAVE 13303
 #define CM_PROJECT_MAKE 13304
+#define CM_PROJECT_STOP_MAKE 13305
 
 #define CM_NODE_OPEN 13351
 #define CM_NODE_ADD_FILES 13352
