@@ -299,8 +299,7 @@ void make(PlayedFiles& files, GeneratorSwitches switches) {
 
 Texts withoutBeside(Texts texts) {
   std::erase_if(texts, [](const auto& file) {
-    return file.first.starts_with("P\\.") &&
-           (file.first.ends_with(".kesto-new") || file.first.ends_with(".kesto-old"));
+    return file.first.starts_with("P\\.") && file.first.find(".kesto-") != std::string::npos;
   });
   return texts;
 }
