@@ -29,6 +29,9 @@ class MemoryStore final : public FileStore {
     return FileFault::kNone;
   }
   FileFault write(const std::string& path, const std::string& bytes) override {
+    if (path.size() > 259) {
+      return FileFault::kOther;
+    }
     // A full disk leaves a part of the file behind.
     const bool whole = works();
     files[path] = bytes.substr(0, whole ? bytes.size() : 2);
@@ -38,7 +41,7 @@ class MemoryStore final : public FileStore {
     return replaces ? rename(from, to) : FileFault::kNotOffered;
   }
   FileFault move(const std::string& from, const std::string& to) override {
-    return files.count(to) != 0 ? FileFault::kDenied : rename(from, to);
+    return files.count(to) != 0 || to.size() > 259 ? FileFault::kDenied : rename(from, to);
   }
   void remove(const std::string& path) override {
     if (works()) {
@@ -125,5 +128,13 @@ TEST_CASE("saving spares files that happen to have the temporary's names") {
     CHECK(saveFile(store, "a.cpp", "text") == FileFault::kNone);
     CHECK(store.files ==
           Files{{"a.cpp", "text"}, {"a.cpp.~0", "someone's"}, {"a.cpp.~1.old", "someone's"}});
+
+    // As long as paths can be, with a long name and with a short one.
+    for (const std::size_t folder : {100, 247}) {
+      const std::string path = std::string(folder, 'd') + "/" + std::string(258 - folder, 'n');
+      store.files = {{path, "old"}};
+      CHECK(saveFile(store, path, "text") == FileFault::kNone);
+      CHECK(store.files == Files{{path, "text"}});
+    }
   }
 }

@@ -1,5 +1,7 @@
 #include "workbench/editor/file_store.h"
 
+#include <algorithm>
+
 namespace workbench {
 namespace {
 
@@ -23,6 +25,15 @@ FileFault replaceInSteps(FileStore& store, const std::string& from, const std::s
   return store.move(aside, to) == FileFault::kNone ? fault : FileFault::kLeftAside;
 }
 
+// What begins the names of files beside the path: the path, cut where they would be too
+// long for the system, but not in its folders.
+std::string besidePath(const std::string& path) {
+  constexpr std::size_t kLongestPath = 259;
+  constexpr std::size_t kLongestEnding = sizeof ".~99.old" - 1;
+  const std::size_t name = path.find_last_of("\\/") + 1;
+  return path.substr(0, std::max(name, std::min(path.size(), kLongestPath - kLongestEnding)));
+}
+
 }  // namespace
 
 FileFault saveFile(FileStore& store, const std::string& path, const std::string& bytes) {
@@ -30,10 +41,11 @@ FileFault saveFile(FileStore& store, const std::string& path, const std::string&
   if (stamp.exists && stamp.read_only) {
     return FileFault::kReadOnly;
   }
+  const std::string beside = besidePath(path);
   std::string temporary;
   std::string aside;
   for (int i = 0; i < 100; ++i) {
-    temporary = path + ".~" + std::to_string(i);
+    temporary = beside + ".~" + std::to_string(i);
     aside = temporary + ".old";
     if (!store.stamp(temporary).exists && !store.stamp(aside).exists) {
       break;

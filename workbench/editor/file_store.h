@@ -56,7 +56,8 @@ inline constexpr std::int64_t kMostLines = 4000000;
 // failure the path holds what it held, and no temporary file stays as long as one
 // can be removed; kLeftAside comes only where the system cannot replace a file in
 // one step and also fails to take the first of two back. A program that ends in
-// the middle leaves a temporary file, "NAME.~0" or a higher number.
+// the middle leaves a temporary file, "NAME.~0" or a higher number, with NAME cut where
+// the path would be too long.
 FileFault saveFile(FileStore& store, const std::string& path, const std::string& bytes);
 
 // A sentence for the user, with the path.
