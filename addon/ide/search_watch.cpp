@@ -1,5 +1,6 @@
 #include "addon/ide/search_watch.h"
 
+#include "addon/ide/access.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/status_line.h"
 
@@ -65,7 +66,8 @@ bool SearchWatch::goOn(int directories, int files) {
     showStatus((text_ + ' ' + shown + counted(directories, "folder") + ", Esc stops").c_str());
   }
   paintWindows();
-  return true;
+  stopped_ = !acquireIde();
+  return !stopped_;
 }
 
 }  // namespace kesto
