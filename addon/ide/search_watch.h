@@ -21,6 +21,9 @@ class SearchWatch : public WalkWatch {
   explicit SearchWatch(std::string text);
   bool goOn(int directories, int files) override;
   bool stopped() const { return stopped_; }
+  // To be called when all was searched: the text takes the place of how far it was, where
+  // that was told.
+  void finished(const char* text) const;
 
  private:
   std::string text_;
@@ -28,6 +31,7 @@ class SearchWatch : public WalkWatch {
   DWORD begun_;
   DWORD looked_;
   DWORD told_;
+  bool has_told_ = false;
   bool stopped_ = false;
 };
 

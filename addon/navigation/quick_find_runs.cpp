@@ -155,7 +155,9 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
   showStatus(text.c_str());
   SearchWatch watch(text);
   collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
-  if (watch.stopped() && quickFind == this) {
+  if (!watch.stopped()) {
+    watch.finished(text.c_str());
+  } else if (quickFind == this) {
     showStatus(stoppedText(text, hits.count()).c_str());
   }
   return !watch.stopped();

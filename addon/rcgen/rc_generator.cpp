@@ -52,6 +52,7 @@ void RcGenerator::run(std::string_view project_directory) {
     return;
   }
   build_number_ = build_number;
+  watch.finished(" ");
   notices.show();
   if (watch.stopped()) {
     showStatus((std::string(kText) + " stopped").c_str());

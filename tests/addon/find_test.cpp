@@ -2,6 +2,7 @@
 // tree on the disk, the message window.
 #include <windows.h>
 
+#include <algorithm>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -339,6 +340,29 @@ TEST_CASE("a search ends with the session, and uses nothing after it") {
   CHECK(session.ide.status_line.texts.size() == texts + 1);
   WaitForSingleObject(thread, INFINITE);
   CloseHandle(thread);
+}
+
+TEST_CASE("how far a search was is not told any more when it is over") {
+  BarSession session;
+  session.create();
+  session.ide.stream.disk = "int f()\n{\n  call();\n}\n";
+  // As long as a search may take that tells nothing.
+  session.ide.stream.opened = [] {
+    for (const DWORD begun = GetTickCount(); GetTickCount() - begun <= 1000;) {
+    }
+  };
+  const Folder folder;
+  session.openProject(folder.path() + "\\p.ide");
+  QuickFind searching(session.windows.bar);
+  quickFind = &searching;
+  CHECK(searching.crossReference("call"));
+  quickFind = nullptr;
+  const auto& texts = session.ide.status_line.texts;
+  const auto told =
+      std::find(texts.begin(), texts.end(), "Searching call ... 1 file in 1 folder, Esc stops");
+  REQUIRE(texts.end() - told > 2);
+  CHECK(texts.end()[-2] == "Searching call ...");
+  CHECK(texts.back() == "References found, see Message Window");
 }
 
 TEST_CASE("references go into a group of their own, each run below its header") {
