@@ -7,6 +7,7 @@
 
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
+#include "workbench/app/settings_store.h"
 #include "workbench/windows/clipboard.h"
 #include "workbench/windows/command_ids.h"
 
@@ -168,6 +169,58 @@ TEST_CASE("keys edit the text") {
   }
 }
 
+TEST_CASE(
+    "a hit stands a third down, and is marked until the caret leaves it or the text changes") {
+  Desk desk;
+  ShowWindow(desk.program.application.frame(), SW_SHOWNOACTIVATE);
+  SendMessageA(desk.program.application.mdiClient(), WM_MDIMAXIMIZE,
+               reinterpret_cast<WPARAM>(desk.editor->window()), 0);
+  std::string lines;
+  for (int i = 0; i < 300; ++i) {
+    lines += "line\n";
+  }
+  desk.setText(lines);
+  REQUIRE(desk.program.application.editFile("a.cpp", 120) == desk.editor);
+  const TextView view = desk.editor->view();
+  CHECK(view.rows > 6);
+  CHECK(view.top == 120 - view.rows / 3);
+  CHECK(view.marked == 120);
+  CHECK(desk.place() == "120:1");
+  desk.press(VK_RIGHT);
+  CHECK(desk.editor->view().marked == 120);
+  desk.press(VK_DOWN);
+  CHECK(desk.editor->view().marked == 0);
+  desk.editor->showHit(2, 3);
+  CHECK(desk.editor->view().top == 1);
+  CHECK(desk.editor->view().marked == 2);
+  desk.keys("y");
+  CHECK(desk.editor->view().marked == 0);
+}
+
+TEST_CASE("an editor opens beside the other windows, and maximized in front of a maximized one") {
+  Desk desk;
+  Application& application = desk.program.application;
+  ShowWindow(application.frame(), SW_SHOWNOACTIVATE);
+  application.frameCommand(CM_WINDOW_PROJECT);
+  application.frameCommand(CM_WINDOW_MESSAGES);
+  EditorWindow* editor = application.editFile("inc\\b.h", 0);
+  REQUIRE(editor != nullptr);
+  RECT place = {};
+  GetWindowRect(editor->window(), &place);
+  for (const char* pane : {ideapi::kProjectClass, ideapi::kMessageClass}) {
+    RECT other = {};
+    RECT common = {};
+    GetWindowRect(FindWindowExA(application.mdiClient(), nullptr, pane, nullptr), &other);
+    CHECK(IsRectEmpty(&other) == FALSE);
+    CHECK(IntersectRect(&common, &place, &other) == FALSE);
+  }
+  SendMessageA(application.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
+               0);
+  editor = application.editOrStart("new.txt");
+  REQUIRE(editor != nullptr);
+  CHECK(IsZoomed(editor->window()) != 0);
+}
+
 TEST_CASE("the clipboard's messages move the selection") {
   Desk desk;
   desk.setText("one\ntwo\nthree");
@@ -260,6 +313,31 @@ TEST_CASE("closing a modified text asks, and only yes writes") {
       CHECK(desk.onDisk() == (each.written ? "x" + kOnDisk : kOnDisk));
     }
   }
+}
+
+TEST_CASE("the files used last are kept, the latest first, but not by a script") {
+  Desk desk;
+  Application& application = desk.program.application;
+  const std::vector<std::string> before = loadRecent();
+  saveRecent({"one", "two", "three"});
+  REQUIRE(application.editFile("inc\\b.h", 0) != nullptr);
+  REQUIRE(application.editFile("a.cpp", 0) != nullptr);
+  CHECK(loadRecent() == std::vector<std::string>{"one", "two", "three"});
+  saveRecent({"four"});
+  CHECK(loadRecent() == std::vector<std::string>{"four"});
+  saveRecent(before);
+
+  // The second is the one before that which is shown.
+  application.frameCommand(CM_FIRST_RECENT + 1);
+  CHECK(application.activeEditor()->file() == desk.folder.file("inc\\b.h"));
+  HMENU menu = GetSubMenu(GetMenu(application.frame()), 0);
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 1, MF_BYCOMMAND) != static_cast<UINT>(-1));
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 2, MF_BYCOMMAND) == static_cast<UINT>(-1));
+  // One that has gone leaves the list.
+  DeleteFileA(desk.folder.file("a.cpp").c_str());
+  Answers answers({IDOK});
+  application.frameCommand(CM_FIRST_RECENT + 1);
+  CHECK(GetMenuState(menu, CM_FIRST_RECENT + 1, MF_BYCOMMAND) == static_cast<UINT>(-1));
 }
 
 TEST_CASE("the end of the session waits for the answer") {
