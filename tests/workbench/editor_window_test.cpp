@@ -1,105 +1,14 @@
-// Editors as hands use them: keys, the clipboard's messages, and the questions
-// asked before an edit would be lost.
+// Editors as hands use them: keys and the clipboard's messages.
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
-#include "doctest.h"
-#include "tests/workbench/program_fixture.h"
-#include "workbench/windows/command_ids.h"
+#include "tests/workbench/desk.h"
+#include "workbench/windows/clipboard.h"
 
 using namespace workbench;
 
 namespace {
-
-// Answers message boxes in order and keeps their texts.
-class Answers {
- public:
-  explicit Answers(std::vector<int> answers) : answers_(std::move(answers)) {
-    current_ = this;
-    hook_ = SetWindowsHookExA(WH_CBT, watch, nullptr, GetCurrentThreadId());
-  }
-  ~Answers() {
-    UnhookWindowsHookEx(hook_);
-    current_ = nullptr;
-    CHECK(texts.size() == answers_.size());
-  }
-  Answers(const Answers&) = delete;
-  Answers& operator=(const Answers&) = delete;
-
-  std::vector<std::string> texts;
-
- private:
-  static LRESULT CALLBACK watch(int code, WPARAM w, LPARAM l) {
-    HWND window = reinterpret_cast<HWND>(w);
-    HWND label = code == HCBT_ACTIVATE ? GetDlgItem(window, 0xFFFF) : nullptr;
-    if (label != nullptr) {
-      char text[600] = {};
-      GetWindowTextA(label, text, sizeof text);
-      current_->texts.push_back(text);
-      const std::size_t at = current_->texts.size() - 1;
-      EndDialog(window, at < current_->answers_.size() ? current_->answers_[at] : IDCANCEL);
-    }
-    return CallNextHookEx(nullptr, code, w, l);
-  }
-
-  static inline Answers* current_ = nullptr;
-  std::vector<int> answers_;
-  HHOOK hook_ = nullptr;
-};
-
-class Desk {
- public:
-  Desk() {
-    REQUIRE(program.application.openPath(folder.path()));
-    editor = program.application.editFile("a.cpp", 1);
-    REQUIRE(editor != nullptr);
-  }
-  void setText(const std::string& text) {
-    message(WM_SETFOCUS);
-    editor->select(1, 1, 9999, 9999);
-    editor->type(text);
-    editor->setCaret(1, 1);
-  }
-  LRESULT message(UINT id, WPARAM w = 0, LPARAM l = 0) {
-    return SendMessageA(editor->textWindow(), id, w, l);
-  }
-  void keys(const std::string& text) {
-    for (const char c : text) {
-      message(WM_CHAR, static_cast<unsigned char>(c));
-    }
-  }
-  void press(WPARAM key, bool shift = false, bool control = false) {
-    BYTE state[256] = {};
-    state[VK_SHIFT] = shift ? 0x80 : 0;
-    state[VK_CONTROL] = control ? 0x80 : 0;
-    SetKeyboardState(state);
-    message(WM_KEYDOWN, key);
-    state[VK_SHIFT] = state[VK_CONTROL] = 0;
-    SetKeyboardState(state);
-  }
-  std::string onDisk() {
-    std::string bytes;
-    DiskStore().read(folder.file("a.cpp"), kLargestText, &bytes);
-    return bytes;
-  }
-  std::string place() {
-    int line = 0;
-    int column = 0;
-    editor->caret(&line, &column);
-    std::string result = std::to_string(line);
-    result += ':';
-    result += std::to_string(column);
-    return result;
-  }
-  bool isOpen() { return program.application.findEditor("a.cpp") != nullptr; }
-  void closeEditor() { SendMessageA(editor->window(), WM_CLOSE, 0, 0); }
-
-  ScratchFolder folder;
-  Program program;
-  EditorWindow* editor = nullptr;
-};
 
 // A key, or text as it is typed.
 struct Stroke {
@@ -115,8 +24,6 @@ Stroke key(WPARAM code, bool shift = false, bool control = false) {
 Stroke typed(const char* text) {
   return {0, false, false, text};
 }
-
-const std::string kOnDisk = "first\r\nsecond word\r\nthird\r\n";
 
 }  // namespace
 
@@ -167,6 +74,58 @@ TEST_CASE("keys edit the text") {
   }
 }
 
+TEST_CASE(
+    "a hit stands a third down, and is marked until the caret leaves it or the text changes") {
+  Desk desk;
+  ShowWindow(desk.program.application.frame(), SW_SHOWNOACTIVATE);
+  SendMessageA(desk.program.application.mdiClient(), WM_MDIMAXIMIZE,
+               reinterpret_cast<WPARAM>(desk.editor->window()), 0);
+  std::string lines;
+  for (int i = 0; i < 300; ++i) {
+    lines += "line\n";
+  }
+  desk.setText(lines);
+  REQUIRE(desk.program.application.editFile("a.cpp", 120) == desk.editor);
+  const TextView view = desk.editor->view();
+  CHECK(view.rows > 6);
+  CHECK(view.top == 120 - view.rows / 3);
+  CHECK(view.marked == 120);
+  CHECK(desk.place() == "120:1");
+  desk.press(VK_RIGHT);
+  CHECK(desk.editor->view().marked == 120);
+  desk.press(VK_DOWN);
+  CHECK(desk.editor->view().marked == 0);
+  desk.editor->showHit(2, 3);
+  CHECK(desk.editor->view().top == 1);
+  CHECK(desk.editor->view().marked == 2);
+  desk.keys("y");
+  CHECK(desk.editor->view().marked == 0);
+}
+
+TEST_CASE("an editor opens beside the other windows, and maximized in front of a maximized one") {
+  Desk desk;
+  Application& application = desk.program.application;
+  ShowWindow(application.frame(), SW_SHOWNOACTIVATE);
+  application.frameCommand(CM_WINDOW_PROJECT);
+  application.frameCommand(CM_WINDOW_MESSAGES);
+  EditorWindow* editor = application.editFile("inc\\b.h", 0);
+  REQUIRE(editor != nullptr);
+  RECT place = {};
+  GetWindowRect(editor->window(), &place);
+  for (const char* pane : {ideapi::kProjectClass, ideapi::kMessageClass}) {
+    RECT other = {};
+    RECT common = {};
+    GetWindowRect(FindWindowExA(application.mdiClient(), nullptr, pane, nullptr), &other);
+    CHECK(IsRectEmpty(&other) == FALSE);
+    CHECK(IntersectRect(&common, &place, &other) == FALSE);
+  }
+  SendMessageA(application.mdiClient(), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(editor->window()),
+               0);
+  editor = application.editOrStart("new.txt");
+  REQUIRE(editor != nullptr);
+  CHECK(IsZoomed(editor->window()) != 0);
+}
+
 TEST_CASE("the clipboard's messages move the selection") {
   Desk desk;
   desk.setText("one\ntwo\nthree");
@@ -185,148 +144,53 @@ TEST_CASE("the clipboard's messages move the selection") {
   CHECK(desk.editor->text() == "onwo\r\nthreee\r\nt");
 }
 
-TEST_CASE("closing a modified text asks, and only yes writes") {
-  const struct {
-    int answer;
-    bool open_after;
-    bool written;
-  } cases[] = {{IDCANCEL, true, false}, {IDNO, false, false}, {IDYES, false, true}};
-  for (const auto& each : cases) {
-    for (const bool whole_project : {false, true}) {
-      CAPTURE(each.answer);
-      CAPTURE(whole_project);
-      Desk desk;
-      desk.keys("x");
-      Answers answers({each.answer});
-      if (whole_project) {
-        CHECK(desk.program.application.closeProject() != each.open_after);
-      } else {
-        desk.closeEditor();
-      }
-      CHECK(answers.texts[0] == "Save changes to " + desk.folder.file("a.cpp") + "?");
-      CHECK(desk.isOpen() == each.open_after);
-      CHECK(desk.onDisk() == (each.written ? "x" + kOnDisk : kOnDisk));
-    }
-  }
-}
-
-TEST_CASE("the end of the session waits for the answer") {
-  Desk desk;
-  desk.keys("x");
-  Answers answers({IDCANCEL, IDNO});
-  CHECK(SendMessageA(desk.program.application.frame(), WM_QUERYENDSESSION, 0, 0) == FALSE);
-  CHECK(SendMessageA(desk.program.application.frame(), WM_QUERYENDSESSION, 0, 0) == TRUE);
-}
-
-TEST_CASE("a file that another program changed is not overwritten unasked") {
-  Desk desk;
-  desk.keys("x");
-  writeFile(desk.folder.file("a.cpp"), "another program's");
-  {
-    Answers answers({IDNO});
-    CHECK_FALSE(desk.editor->save());
-  }
-  CHECK(desk.onDisk() == "another program's");
-  CHECK(desk.editor->modified());
-  {
-    Answers answers({IDYES});
-    CHECK(desk.editor->save());
-  }
-  CHECK(desk.onDisk() == "x" + kOnDisk);
-  CHECK_FALSE(desk.editor->modified());
-}
-
-TEST_CASE("what an add-on has saved is saved without a question, or not at all") {
-  Desk desk;
-  Application& application = desk.program.application;
-  auto* service = desk.program.service<IEditorService>(ideapi::kEditorService);
-  const auto save = [&] {
-    IIdeString* names = nullptr;
-    const int count = service->SaveModified(&names);
-    if (names != nullptr) {
-      names->Release();
-    }
-    return count;
-  };
-  Answers none({});
-  const std::string header = desk.folder.file("inc\\b.h");
-  EditorWindow* other = application.editFile(header, 1);
-  desk.keys("x");
-  other->type("y");
-  SendMessageA(application.frame(), WM_COMMAND, CM_FILE_NEW, 0);
-  application.activeEditor()->type("z");
-  writeFile(desk.folder.file("a.cpp"), "another program's");
-  SetFileAttributesA(header.c_str(), FILE_ATTRIBUTE_READONLY);
-  CHECK(save() == 0);
-  CHECK(application.status() == "The file was not saved. " + header + " is read-only.");
-  SetFileAttributesA(header.c_str(), FILE_ATTRIBUTE_NORMAL);
-  CHECK(save() == 1);
-  CHECK_FALSE(other->modified());
-  CHECK(application.activeEditor()->modified());
-  CHECK(desk.editor->modified());
-  CHECK(desk.onDisk() == "another program's");
-  service->Release();
-}
-
-TEST_CASE("a changed file is offered once, and read again where the caret was") {
-  Desk desk;
-  Application& application = desk.program.application;
-  application.programActivated();  // nothing changed, nothing asked
-  desk.editor->setCaret(2, 3);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n");
-  {
-    Answers answers({IDNO});
-    application.programActivated();
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == kOnDisk);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n4\n");
-  {
-    Answers answers({IDYES});
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == "1\n22222\n3\n4\n");
-  CHECK(desk.place() == "2:3");
-  CHECK_FALSE(desk.editor->modified());
-  DeleteFileA(desk.folder.file("a.cpp").c_str());
-  {
-    Answers answers({IDOK});
-    application.programActivated();
-  }
-  CHECK(desk.editor->modified());
-  CHECK(desk.editor->save());
-  CHECK(desk.onDisk() == "1\n22222\n3\n4\n");
-}
-
-TEST_CASE("a read-only file says so before it is edited and when it is saved") {
+TEST_CASE("a UTF-8 text is worked in by characters, and handed out in the code page") {
   Desk desk;
   const std::string path = desk.folder.file("a.cpp");
   desk.closeEditor();
-  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  // A character of two bytes, one of three, one of four; a tab between them.
+  writeFile(path, "\xEF\xBB\xBF\xC3\xA9\t\xE2\x82\xAC\xF0\x9F\x98\x80\r\nx\n");
   desk.editor = desk.program.application.editFile(path, 1);
-  {
-    Answers answers({IDNO});
-    desk.keys("x");
+  CHECK(desk.editor->text() == "\xE9\t\x80?\r\nx\n");
+  desk.message(WM_SETFOCUS);
+  desk.press(VK_END);
+  CHECK(desk.place() == "1:5");
+  desk.press(VK_BACK);
+  CHECK(desk.place() == "1:4");
+  desk.press(VK_LEFT);
+  CHECK(desk.place() == "1:3");
+  // Beyond the code page, of one unit and of two.
+  for (const wchar_t unit : {0x3A9, 0xD83D, 0xDE00}) {
+    SendMessageW(desk.editor->textWindow(), WM_CHAR, static_cast<WPARAM>(unit), 0);
   }
-  CHECK_FALSE(desk.editor->modified());
-  {
-    Answers answers({IDYES, IDOK});
-    desk.keys("xy");  // asked once
-    CHECK_FALSE(desk.editor->save());
-    CHECK(answers.texts[1] == "The file was not saved. " + path + " is read-only.");
-  }
-  CHECK(desk.editor->text() == "xy" + kOnDisk);
-  CHECK(desk.editor->modified());
-  CHECK(desk.onDisk() == kOnDisk);
+  desk.keys("\xF1");
+  CHECK(desk.place() == "1:6");
+  desk.press(VK_HOME);
+  desk.press(VK_DELETE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xEF\xBB\xBF\t\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\nx\n");
+  // What is copied is there in the code page, and whole for whoever takes it so.
+  desk.editor->select(1, 2, 2, 1);
+  desk.message(WM_COPY);
+  std::string ansi;
+  CHECK(takeFromClipboard(nullptr, &ansi));
+  CHECK(ansi == "??\xF1\x80\r\n");
+  desk.editor->setCaret(2, 2);
+  desk.message(WM_PASTE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk().ends_with("\r\nx\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\n\n"));
 }
 
-TEST_CASE("what cannot be opened is told") {
+TEST_CASE("a plain text takes what the code page has as such, and becomes UTF-8 for the rest") {
   Desk desk;
-  Answers answers({IDOK, IDOK, IDOK});
-  CHECK(desk.program.application.editFile("none.cpp", 1) == nullptr);
-  CHECK(desk.program.application.editFile("inc", 1) == nullptr);
-  CHECK_FALSE(desk.program.application.openPath("none"));
-  CHECK(answers.texts[0] == desk.folder.file("none.cpp") + " does not exist.");
-  CHECK(answers.texts[1] == desk.folder.file("inc") + " is a folder.");
-  CHECK(desk.isOpen());
+  desk.setText("");
+  desk.keys("\xE9");
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);  // no place for it
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xE9");
+  desk.press(VK_BACK);
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);
+  desk.keys("\xE9");
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xCE\xA9\xC3\xA9");
 }

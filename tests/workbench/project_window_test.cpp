@@ -71,6 +71,55 @@ TEST_CASE("the project window follows the tree") {
   CHECK(TreeView_GetCount(child(pane, WC_TREEVIEWA)) == 5);
 }
 
+TEST_CASE("the project window comes back as it was left") {
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
+  REQUIRE(application.openPath(folder.path()));
+  unsigned int group = 0;
+  for (int i = 0; i < 60; ++i) {
+    group = application.addNode(0, "Group " + std::to_string(i), "Group");
+    application.addNode(group, "x.txt", ".txt");
+  }
+  SendMessageA(application.frame(), WM_SIZE, SIZE_RESTORED, 0);
+  const auto shown = [&] {
+    SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
+    deliverPosted();
+    return child(child(application.mdiClient(), ideapi::kProjectClass), WC_TREEVIEWA);
+  };
+  const auto look = [](HWND tree) {
+    std::string text;
+    for (HTREEITEM item = TreeView_GetRoot(tree); item != nullptr;
+         item = TreeView_GetNextSibling(tree, item)) {
+      text += TreeView_GetSelection(tree) == item ? "*" : "";
+      text += (TreeView_GetItemState(tree, item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0 ? "-" : "+";
+    }
+    TVITEMA first = {};
+    first.mask = TVIF_PARAM | TVIF_HANDLE;
+    first.hItem = TreeView_GetFirstVisible(tree);
+    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&first));
+    return text + " from node " + std::to_string(first.lParam);
+  };
+  const auto reopened = [&](HWND tree) {
+    SendMessageA(GetParent(tree), WM_SYSCOMMAND, SC_CLOSE, 0);
+    return shown();
+  };
+  HWND tree = shown();
+  HTREEITEM item = TreeView_GetRoot(tree);
+  TreeView_Expand(tree, item, TVE_COLLAPSE);
+  for (int i = 0; i < 30; ++i) {
+    item = TreeView_GetNextSibling(tree, item);
+  }
+  TreeView_SelectItem(tree, item);
+  TreeView_Expand(tree, item, TVE_EXPAND);
+  // The selection is out of sight.
+  TreeView_EnsureVisible(tree, TreeView_GetRoot(tree));
+  const std::string left = look(tree);
+  CHECK(left == "+" + std::string(29, '-') + "*-" + std::string(30, '-') + " from node 1");
+  tree = reopened(tree);
+  CHECK(look(tree) == left);
+}
+
 TEST_CASE("the message window shows one group; its first tab and its clearing") {
   ScratchFolder folder;
   Program program;
@@ -99,9 +148,16 @@ TEST_CASE("the message window shows one group; its first tab and its clearing") 
   CHECK(*program.last("message")->find("group") == "Uses");
   CHECK(*program.last("message")->find("kind") == "5");
   deliverPosted();
-  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);  // the builds' group is shown
-  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  // A message at the top level raises its group and is selected.
   CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 10001);
+  CHECK(SendMessageA(viewer, LB_GETCURSEL, 0, 0) == 0);
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
+  service->AddLocatedMessage(group, head, name, file, 2, 3, 5);
+  deliverPosted();
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 10002);
 
   SendMessageA(viewer, LB_SETCURSEL, 9999, 0);
   SendMessageA(viewer, WM_KEYDOWN, VK_RETURN, 0);
@@ -115,7 +171,7 @@ TEST_CASE("the message window shows one group; its first tab and its clearing") 
 
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
   SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
-  CHECK(application.messages().group(group)->messages.size() == 10001);
+  CHECK(application.messages().group(group)->messages.size() == 10002);
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
   SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
   CHECK(application.messages().group(group)->messages.empty());

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "workbench/app/addon_module.h"
+#include "workbench/app/find_dialogs.h"
 #include "workbench/app/find_request.h"
 #include "workbench/app/frame.h"
 #include "workbench/editor/disk_store_win.h"
@@ -19,6 +20,9 @@
 #include "workbench/project/project.h"
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
+#include "workbench/windows/box_keys.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/path_text.h"
 #include "workbench/workbench.h"
 
 namespace workbench {
@@ -69,6 +73,8 @@ class Application final : public Workbench,
   void make(int result) override;
   bool startMake() override;
   const MessageStore& messages() override { return messages_; }
+  unsigned int shownGroup() override { return message_window_.shownGroup(); }
+  int selectedMessage() override { return message_window_.selectedRow(); }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
   EditorWindow* editOrStart(const std::string& path) override;
@@ -76,6 +82,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
+  std::string editorState() override { return frame_.statusBar().state(); }
   HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;
@@ -84,6 +91,7 @@ class Application final : public Workbench,
   bool projectCommandEnabled(int id) override { return commandEnabled(id); }
 
   void makeStarted(const std::string& command) override;
+  void makeGoesOn(int seconds) override;
   void makeEnded(int result) override;
 
   void frameCommand(int id) override;
@@ -92,7 +100,8 @@ class Application final : public Workbench,
     return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
   }
   void frameClosing() override;
-  void programActivated() override { editors_.checkDisk(); }
+  void programActivated() override { editors_.checkDisk(false); }
+  void timePassed() override { editors_.checkDisk(true); }
   // A script's run is nobody else's.
   bool mayTakePath() override { return keep_settings_; }
   void takePath(const std::string& path) override;
@@ -102,8 +111,10 @@ class Application final : public Workbench,
   void showFirstSource();
   bool openFolder(const std::string& folder);
   bool openProjectFile(const std::string& file);
-  // False when it cannot be read (the reason has been shown).
-  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp);
+  // False when it cannot be read (the reason has been shown). *leftover: where it was read
+  // from instead, else empty.
+  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp,
+                   std::string* leftover);
   // The sources of the folder as a project of this file, fileFor's when empty.
   bool openWalked(const std::string& folder, const std::string& file);
   bool walk(const std::string& folder, FolderContent* content);
@@ -115,11 +126,17 @@ class Application final : public Workbench,
   void saveAll();
   // Tells that an editor opened or came to a line; null tells nothing.
   EditorChild* announce(EditorChild* child);
+  // The file or project was worked with.
+  void noteRecent(const std::string& path);
+  void openRecent(std::size_t position);
+  void showRecent();
   void showTitle();
   void showTools();
   void showEditorState();
   void messagesChanged(const MessageGroupInfo& group, const Message* added);
   bool showPlace(const Message& message);
+  // The next or the former message that has a place, of the group shown.
+  void showOtherMessage(bool next);
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
@@ -133,24 +150,33 @@ class Application final : public Workbench,
   void addContainer();
   void removeSelected();
   void editSelected();
+  // Offers to rename the node's file on the disk as well.
+  void renameAsked(unsigned int node, const std::string& name);
   void editBuild();
+  // The project's, as people call it.
+  std::string projectName();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
   void runTool(ToolHandle tool);
+  // find_commands.cpp
+  void findCommand(int id, EditorChild& child);
   void findNext(bool backward);
+  void replace(unsigned int editor, ReplaceWhat what);
   void goToLine(EditorChild& child);
   void openProjectFile();
   void editOptions();
   void showAbout();
 
   EventLog events_;
+  BoxKeys box_keys_;
   DiskStore store_;
   DiskLister lister_;
   EditorSettings settings_;
   bool keep_settings_ = false;
   EditorSet editors_;
   Project project_;
-  FileStamp project_stamp_;  // its file as it was last read or written
+  FileStamp project_stamp_;       // its file as it was last read or written
+  std::string project_leftover_;  // the file that its content was taken from instead
   MessageStore messages_;
   LiveObjects live_;
   IdeRoot root_;
@@ -159,6 +185,7 @@ class Application final : public Workbench,
   ProjectWindow project_window_;
   MakeRun make_;
   FindRequest find_;
+  RecentTexts recent_{CM_LAST_RECENT - CM_FIRST_RECENT + 1, samePath};
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;
   // Last, so that it is unloaded before anything it may use goes.

@@ -7,6 +7,7 @@
 #include "workbench/app/editor_page.h"
 #include "workbench/app/options_dialog.h"
 #include "workbench/app/settings_store.h"
+#include "workbench/project/tool_table.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/file_dialogs.h"
 #include "workbench/windows/mdi_layout.h"
@@ -16,6 +17,7 @@
 namespace workbench {
 
 void Application::frameCommand(int id) {
+  frame_.statusBar().passText();
   EditorChild* child = editors_.active();
   if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id)) {
     return;
@@ -35,6 +37,7 @@ bool Application::commandEnabled(int id) {
     case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
     case CM_EDIT_FIND_PREVIOUS:
+    case CM_EDIT_REPLACE:
     case CM_EDIT_GO_TO_LINE:
     case CM_WINDOW_CLOSE_ALL:
     case CM_WINDOW_NEW_VIEW:
@@ -45,6 +48,8 @@ bool Application::commandEnabled(int id) {
     case CM_WINDOW_ARRANGE:
     case CM_WINDOW_NEXT:
       return SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0) != 0;
+    case CM_FILE_RELOAD:
+      return child != nullptr && !child->openFile().untitled;
     case CM_EDIT_UNDO:
       return child != nullptr && child->openFile().document.canUndo();
     case CM_EDIT_REDO:
@@ -55,6 +60,8 @@ bool Application::commandEnabled(int id) {
       return child != nullptr && child->textView().hasSelection();
     case CM_PROJECT_MAKE:
       return hasProject() && !make_.running();
+    case CM_PROJECT_STOP_MAKE:
+      return make_.running();
     case CM_PROJECT_OPEN_FILE:
     case CM_PROJECT_CLOSE:
     case CM_PROJECT_SAVE:
@@ -73,6 +80,10 @@ bool Application::commandEnabled(int id) {
 }
 
 bool Application::fileCommand(int id, EditorChild* child) {
+  if (id >= CM_FIRST_RECENT && id <= CM_LAST_RECENT) {
+    openRecent(static_cast<std::size_t>(id - CM_FIRST_RECENT));
+    return true;
+  }
   std::string path;
   switch (id) {
     case CM_FILE_NEW:
@@ -105,12 +116,19 @@ bool Application::fileCommand(int id, EditorChild* child) {
         // Its editors may be gone when a box has been answered.
         const std::shared_ptr<OpenFile> file = child->sharedFile();
         if (id == CM_FILE_SAVE ? editors_.save(*file) : editors_.saveAs(*file)) {
+          noteRecent(file->path);
           setStatus("Saved " + file->path);
         }
       }
       return true;
     case CM_FILE_SAVE_ALL:
       saveAll();
+      return true;
+    case CM_FILE_RELOAD:
+      if (child != nullptr) {
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        editors_.reload(*file);
+      }
       return true;
     case CM_FILE_CLOSE:
       if (const LRESULT active = SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0)) {
@@ -161,42 +179,17 @@ void Application::editCommand(int id, EditorChild* child) {
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
       break;
-    case CM_EDIT_FIND: {
-      const std::string selected = text.selection();
-      if (!selected.empty() && selected.size() < 256 &&
-          selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
-        find_.text = selected;
-      }
-      if (askFind(frame_.window(), &find_)) {
-        findNext(find_.backward);
-      }
-      break;
-    }
+    case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
-      findNext(find_.backward);
-      break;
     case CM_EDIT_FIND_PREVIOUS:
-      findNext(!find_.backward);
+    case CM_EDIT_REPLACE:
+      findCommand(id, *child);
       break;
     case CM_EDIT_GO_TO_LINE:
       goToLine(*child);
       break;
     default:
       break;
-  }
-}
-
-void Application::findNext(bool backward) {
-  if (editors_.active() == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
-    return;
-  }
-  EditorChild* child = editors_.active();
-  if (child == nullptr) {
-    return;
-  }
-  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
-    setStatus("\"" + find_.text + "\" was not found");
-    MessageBeep(MB_ICONWARNING);
   }
 }
 
@@ -207,7 +200,7 @@ void Application::goToLine(EditorChild& child) {
     return;
   }
   if (EditorChild* asked = editors_.byHandle(handle)) {
-    asked->setCaret(line, 1);
+    asked->showHit(line, 1);
   }
 }
 
@@ -228,6 +221,16 @@ bool Application::windowCommand(int id, EditorChild* child) {
       return true;
     case CM_WINDOW_CLOSE_ALL:
       editors_.closeAll();
+      return true;
+    case CM_EDIT_NEXT_MESSAGE:
+      // In the project's window the key is that of a node's properties.
+      if (project_window_.active()) {
+        return nodeCommand(CM_NODE_PROPERTIES);
+      }
+      showOtherMessage(true);
+      return true;
+    case CM_EDIT_FORMER_MESSAGE:
+      showOtherMessage(false);
       return true;
     case CM_WINDOW_NEW_VIEW:
       if (child != nullptr) {
@@ -252,6 +255,9 @@ bool Application::projectCommand(int id) {
       return true;
     case CM_PROJECT_MAKE:
       startMake();
+      return true;
+    case CM_PROJECT_STOP_MAKE:
+      make_.cancel();
       return true;
     case CM_PROJECT_SAVE:
       if (saveProject()) {
@@ -280,7 +286,7 @@ bool Application::projectCommand(int id) {
 void Application::openProjectFile() {
   std::vector<std::string> files;
   for (const NodeInfo* node : project_.nodes()) {
-    if (!node->type.empty() && node->type[0] == '.') {
+    if (isTextType(node->type) && isPathName(node->name, node->type)) {
       files.push_back(node->name);
     }
   }

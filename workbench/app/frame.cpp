@@ -12,6 +12,8 @@ namespace workbench {
 namespace {
 
 constexpr UINT kCheckDisk = WM_APP + 1;
+constexpr UINT kTimer = 1;
+constexpr UINT kTimerMs = 2000;
 constexpr UINT kOpenTaken = WM_APP + 2;
 // The Window menu, to which the system appends the list of children.
 constexpr int kWindowMenuPosition = 4;
@@ -37,6 +39,7 @@ bool Frame::create(HINSTANCE instance) {
 }
 
 bool Frame::createClient() {
+  file_menu_ = GetSubMenu(GetMenu(window_), 0);
   window_menu_ = GetSubMenu(GetMenu(window_), kWindowMenuPosition);
   CLIENTCREATESTRUCT info = {window_menu_, CM_FIRST_CHILD};
   mdi_client_ = CreateWindowExA(WS_EX_CLIENTEDGE, ideapi::kMdiClientClass, nullptr,
@@ -59,9 +62,13 @@ LRESULT CALLBACK Frame::windowProc(HWND window, UINT message, WPARAM w, LPARAM l
 LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_CREATE:
+      SetTimer(window_, kTimer, kTimerMs, nullptr);
       return createClient() ? 0 : -1;
     case WM_SIZE:
-      layOut();
+      // What is opened meanwhile still has room.
+      if (w != SIZE_MINIMIZED) {
+        layOut();
+      }
       return 0;
     case WM_COMMAND:
       if (LOWORD(w) < CM_FIRST_CHILD) {
@@ -83,6 +90,12 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
     case kCheckDisk:
       if (!closing_ && IsWindowEnabled(window_) != 0) {
         handler_.programActivated();
+      }
+      return 0;
+    case WM_TIMER:
+      // Menus and drags hold the mouse.
+      if (w == kTimer && !closing_ && IsWindowEnabled(window_) != 0 && GetCapture() == nullptr) {
+        handler_.timePassed();
       }
       return 0;
     case WM_COPYDATA:
@@ -197,13 +210,31 @@ void Frame::setTools(const std::vector<ToolItem>& items) {
   DrawMenuBar(window_);
 }
 
+void Frame::setRecent(const std::vector<std::string>& texts) {
+  for (UINT id = CM_FIRST_RECENT; id <= CM_LAST_RECENT; ++id) {
+    DeleteMenu(file_menu_, id, MF_BYCOMMAND);
+  }
+  // They stand between separators of their own and the last entry, Exit.
+  const auto last = static_cast<UINT>(GetMenuItemCount(file_menu_) - 1);
+  if (!texts.empty() && GetMenuItemID(file_menu_, static_cast<int>(last) - 1) != 0) {
+    InsertMenuA(file_menu_, last, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+    InsertMenuA(file_menu_, last, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+  }
+  for (UINT i = 0; i < texts.size() && CM_FIRST_RECENT + i <= CM_LAST_RECENT; ++i) {
+    const auto at = static_cast<UINT>(GetMenuItemCount(file_menu_) - 2);
+    InsertMenuA(file_menu_, at, MF_BYPOSITION | MF_STRING, CM_FIRST_RECENT + i, texts[i].c_str());
+  }
+}
+
 void Frame::setTitle(const std::string& title) {
   SetWindowTextA(window_, title.c_str());
 }
 
 int Frame::run() {
+  // Only the wide calls bring characters beyond the code page to a window that takes them.
+  const bool wide = (GetVersion() & 0x80000000U) == 0;
   MSG message = {};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+  while ((wide ? GetMessageW(&message, nullptr, 0, 0) : GetMessageA(&message, nullptr, 0, 0)) > 0) {
     HWND dialog = handler_.modelessDialog();
     if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
       continue;
@@ -214,7 +245,11 @@ int Frame::run() {
       continue;
     }
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    if (wide) {
+      DispatchMessageW(&message);
+    } else {
+      DispatchMessageA(&message);
+    }
   }
   return static_cast<int>(message.wParam);
 }

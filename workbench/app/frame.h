@@ -24,6 +24,8 @@ class FrameHandler {
   // The editors are gone, the frame's windows still stand.
   virtual void frameClosing() = 0;
   virtual void programActivated() = 0;
+  // Every two seconds in which no box, menu or drag holds the frame.
+  virtual void timePassed() = 0;
   // Another start of the program gives its path away; empty for none. False refuses it.
   virtual bool mayTakePath() = 0;
   virtual void takePath(const std::string& path) = 0;
@@ -51,6 +53,8 @@ class Frame {
   void setTitle(const std::string& title);
   // The items of the Tool menu, which is there while it has any.
   void setTools(const std::vector<ToolItem>& items);
+  // The texts at the end of the File menu, at most as many as there are ids for them.
+  void setRecent(const std::vector<std::string>& texts);
   // Runs the message loop until the program ends; returns its exit code.
   int run();
 
@@ -70,7 +74,8 @@ class Frame {
   HINSTANCE instance_ = nullptr;
   HWND window_ = nullptr;
   HWND mdi_client_ = nullptr;
-  HMENU window_menu_ = nullptr;  // the menu bar's
+  HMENU file_menu_ = nullptr;    // the menu bar's
+  HMENU window_menu_ = nullptr;  // likewise
   HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
   TopmostOrder topmost_order_;

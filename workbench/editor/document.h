@@ -10,6 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include "workbench/editor/encoding.h"
+#include "workbench/editor/text_search.h"
+
 namespace workbench {
 
 enum class LineEnd : std::uint8_t { kNone, kCr, kLf, kCrLf };
@@ -58,7 +61,14 @@ class Document {
 
   // Replaces everything and forgets the history; the text counts as saved.
   void load(std::string_view bytes);
+  // Makes the text these bytes, as an edit of the stretch that differs; returns which.
+  DocumentChange renew(std::string_view bytes);
   std::string bytes() const;
+
+  // What the bytes are read as; a mark at the file's start is none of the lines'.
+  Encoding encoding() const { return encoding_; }
+  // Lets characters beyond the code page in. False for a text that has bytes of it.
+  bool becomeUtf8();
 
   int lineCount() const { return static_cast<int>(lines_.size()); }
   const std::string& line(int index) const { return lines_[static_cast<std::size_t>(index)].text; }
@@ -93,7 +103,10 @@ class Document {
   void markUnsaved();
 
   // Finds the text at or after a place (before it, when backward), not going round.
-  bool find(std::string_view what, bool match_case, bool backward, Place start, Place* found) const;
+  bool find(const TextSearch& search, bool backward, Place start, Place* found) const;
+  // Replaces every hit between two places, as one step of undo, by a text without line
+  // ends. Returns how many; *to is then where the last place stands.
+  int replaceAll(const TextSearch& search, std::string_view with, Place from, Place* to);
 
   void addListener(DocumentListener* listener);
   void removeListener(DocumentListener* listener);
@@ -106,6 +119,8 @@ class Document {
   };
   using Step = std::vector<Change>;
 
+  // Notes encoding and mark; returns what follows the mark.
+  std::string_view takeEncoding(std::string_view bytes);
   static Fragment split(std::string_view text, LineEnd all_ends);
   static Place endOf(Place at, const Fragment& fragment);
   Fragment cut(Place from, Place to);
@@ -118,6 +133,8 @@ class Document {
   void notifyState(bool was_modified);
 
   std::vector<TextLine> lines_;
+  Encoding encoding_ = Encoding::kAnsi;
+  bool marked_ = false;
   // What a new line ends with: the end most lines have, CR LF in a text without one.
   LineEnd prevailing_ = LineEnd::kCrLf;
   std::vector<Step> steps_;

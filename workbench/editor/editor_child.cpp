@@ -1,5 +1,6 @@
 #include "workbench/editor/editor_child.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ideapi/ide_identifiers.h"
@@ -21,10 +22,10 @@ EditorChild::~EditorChild() {
   file_->document.removeListener(this);
 }
 
-bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
+bool EditorChild::create(HWND mdi_client, HINSTANCE instance, const Area& place) {
   shown_title_ = title();
-  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(),
-                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(), place.left,
+                     place.top, place.width(), place.height());
 }
 
 LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
@@ -87,21 +88,44 @@ void EditorChild::updateTitle() {
   SendMessageA(window(), WM_NCPAINT, 1, 0);
 }
 
+std::string EditorChild::text() {
+  const Document& document = file_->document;
+  return toAnsi(document.textBetween({0, 0}, document.endPlace()), document.encoding());
+}
+
+Place EditorChild::placeOf(int line, int column) const {
+  const Document& document = file_->document;
+  const int inside = std::clamp(line - 1, 0, document.lineCount() - 1);
+  return {line - 1,
+          columnOfCharacter(document.line(inside), std::max(0, column - 1), document.encoding())};
+}
+
 void EditorChild::caret(int* line, int* column) {
-  *line = text_.caret().line + 1;
-  *column = text_.caret().column + 1;
+  const Place place = text_.caret();
+  const Document& document = file_->document;
+  *line = place.line + 1;
+  *column = charactersBefore(document.line(place.line), place.column, document.encoding()) + 1;
 }
 
 void EditorChild::setCaret(int line, int column) {
-  text_.setCaret({line - 1, column - 1});
+  text_.setCaret(placeOf(line, column));
+}
+
+void EditorChild::showHit(int line, int column) {
+  setCaret(line, column);
+  text_.showHit();
+}
+
+TextView EditorChild::view() {
+  return {text_.topLine() + 1, text_.shownLines(), text_.markedLine() + 1};
 }
 
 void EditorChild::select(int line1, int column1, int line2, int column2) {
-  text_.select({line1 - 1, column1 - 1}, {line2 - 1, column2 - 1});
+  text_.select(placeOf(line1, column1), placeOf(line2, column2));
 }
 
 void EditorChild::type(const std::string& text) {
-  text_.type(text);
+  text_.type(fromAnsi(text, file_->document.encoding()));
 }
 
 void EditorChild::textCaretMoved() {

@@ -48,10 +48,18 @@ class TextWindow final : public DocumentListener {
   void select(Place from, Place to);
   bool hasSelection() const { return !(anchor_ == caret_); }
   std::string selection() const;
+  int topLine() const { return top_; }
+  void setTopLine(int line) { scrollTo(line, left_); }
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
+  // text_hit.cpp: the caret's line is what was looked for. It is shown a third down the
+  // window and stays marked until the caret leaves it or the text changes.
+  void showHit();
+  // -1 for none.
+  int markedLine() const { return marked_; }
+  int shownLines() const { return visibleLines(); }
 
-  // Replaces the selection as typing does.
+  // Texts are in the document's encoding. Replaces the selection as typing does.
   void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
   // Inserts at the caret, leaving it before the new text; the selection is given up.
   void insertBefore(std::string_view text);
@@ -63,7 +71,13 @@ class TextWindow final : public DocumentListener {
   void clear();
   void selectAll();
   // Selects the next place of the text from the caret, going round at the end.
-  bool findText(std::string_view what, bool match_case, bool backward);
+  bool findText(const TextSearch& search, bool backward);
+  // text_replace.cpp: replaces the selection when it is a hit, and selects the next one.
+  // False when there is none.
+  bool replaceNext(const TextSearch& search, std::string_view with);
+  // Replaces every hit, or those in the selection, which stays selected. Returns how many,
+  // -1 when the text may not be edited.
+  int replaceAll(const TextSearch& search, std::string_view with, bool in_selection);
 
   void settingsChanged();
   // While held, nothing is repainted; calls nest.
@@ -80,7 +94,12 @@ class TextWindow final : public DocumentListener {
   bool keyDown(WPARAM key);
   bool controlKey(WPARAM key, bool shift);
   bool motionKey(WPARAM key, bool shift, bool control);
-  void character(char c);
+  // A unit of UTF-16.
+  void character(wchar_t unit);
+  // In the document's encoding; false when it has no place for a character.
+  bool encode(const std::wstring& wide, std::string* text);
+  bool putSelection();
+  Place wholeCharacter(Place place) const;
   void breakLine();
   void eraseBack(bool word);
   void eraseForward(bool word);
@@ -111,6 +130,8 @@ class TextWindow final : public DocumentListener {
   void scrollTo(int top, int left);
   void wheel(int delta);
   void revealCaret();
+  void unmark();
+  void tintMarked(HDC dc, const RECT& row) const;
   int visibleLines() const;
   int visibleCells() const;
 
@@ -131,6 +152,7 @@ class TextWindow final : public DocumentListener {
   Highlighter highlighter_;
   Place caret_;
   Place anchor_;
+  int marked_ = -1;  // the line of a hit; -1 for none
   // The selection as the window shows it where nothing is to be painted anew.
   Place shown_from_;
   Place shown_to_;
@@ -139,6 +161,7 @@ class TextWindow final : public DocumentListener {
   int left_ = 0;          // first cell shown
   int widest_ = 0;        // cells; an edit only ever widens it
   int wheel_rest_ = 0;
+  wchar_t first_half_ = 0;   // of a character that comes as two units
   SCROLLINFO bars_[2] = {};  // as last set, by SB_HORZ and SB_VERT
   int painting_held_ = 0;
   bool insert_mode_ = true;

@@ -41,6 +41,10 @@ class MessageViewer {
   void refresh(bool other_group);
   // -1 for none.
   int selectedRow() const;
+  // -1 selects none.
+  void select(int row);
+  // Selects the row and shows it with what follows.
+  void showFrom(int row);
   void openSelected();
 
  private:
