@@ -285,7 +285,8 @@ struct StreamSource {
   std::string disk;    // the file's
   bool in_editor = false;
   int negative_reads = 0;
-  std::vector<int> modes;  // as opened
+  std::vector<int> modes;      // as opened
+  void (*opened)() = nullptr;  // called meanwhile
 };
 
 class Stream : public Counted<IFileStream> {

@@ -1,5 +1,5 @@
-// A program with one file open, worked with by keys and messages, and the answers that
-// its boxes get.
+// An editor of a small project under a test's hands, and answers for the questions it may
+// be asked. One at a time; the thread that made it.
 #pragma once
 
 #include <windows.h>
@@ -100,5 +100,8 @@ class Desk {
   Program program;
   EditorWindow* editor = nullptr;
 };
+
+// What the editor's file holds at first.
+inline const std::string kOnDisk = "first\r\nsecond word\r\nthird\r\n";
 
 }  // namespace workbench
