@@ -2,9 +2,11 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/workbench/desk.h"
 #include "workbench/windows/clipboard.h"
+#include "workbench/windows/command_ids.h"
 
 using namespace workbench;
 

@@ -360,7 +360,7 @@ void Document::markUnsaved() {
 }
 
 bool Document::find(const TextSearch& search, bool backward, Place start, Place* found) const {
-  LineMatcher matcher(search);
+  LineMatcher matcher(search, encoding());
   if (!matcher.possible()) {
     return false;
   }
@@ -382,7 +382,7 @@ bool Document::find(const TextSearch& search, bool backward, Place start, Place*
 }
 
 int Document::replaceAll(const TextSearch& search, std::string_view with, Place from, Place* to) {
-  LineMatcher matcher(search);
+  LineMatcher matcher(search, encoding());
   from = clamp(from);
   *to = clamp(*to);
   if (!matcher.possible() || with.find_first_of("\r\n") != std::string_view::npos) {

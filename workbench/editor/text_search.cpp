@@ -21,10 +21,11 @@ std::string prepared(std::string_view text, bool match_case) {
 
 }  // namespace
 
-LineMatcher::LineMatcher(const TextSearch& search)
+LineMatcher::LineMatcher(const TextSearch& search, Encoding encoding)
     : wanted_(prepared(search.text, search.match_case)),
       match_case_(search.match_case),
-      whole_word_(search.whole_word) {}
+      whole_word_(search.whole_word),
+      encoding_(encoding) {}
 
 bool LineMatcher::possible() const {
   return !wanted_.empty() && wanted_.find_first_of("\r\n") == std::string::npos;
@@ -40,9 +41,10 @@ bool LineMatcher::stands(std::size_t at) const {
     return true;
   }
   const std::size_t end = at + wanted_.size();
-  const bool joined_before = at > 0 && isWordByte(line_[at - 1]) && isWordByte(wanted_.front());
-  const bool joined_after =
-      end < line_.size() && isWordByte(line_[end]) && isWordByte(wanted_.back());
+  const bool joined_before =
+      at > 0 && isWordByte(line_[at - 1], encoding_) && isWordByte(wanted_.front(), encoding_);
+  const bool joined_after = end < line_.size() && isWordByte(line_[end], encoding_) &&
+                            isWordByte(wanted_.back(), encoding_);
   return !joined_before && !joined_after;
 }
 

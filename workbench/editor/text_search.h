@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "workbench/editor/encoding.h"
+
 namespace workbench {
 
 struct TextSearch {
@@ -18,7 +20,8 @@ class LineMatcher {
  public:
   static constexpr std::size_t kNone = std::string::npos;
 
-  explicit LineMatcher(const TextSearch& search);
+  // The encoding is that of the lines, and of the text as it stands in them.
+  LineMatcher(const TextSearch& search, Encoding encoding);
   // False when no line can hold the text.
   bool possible() const;
   std::size_t length() const { return wanted_.size(); }
@@ -36,6 +39,7 @@ class LineMatcher {
   std::string line_;
   bool match_case_;
   bool whole_word_;
+  Encoding encoding_;
 };
 
 }  // namespace workbench
