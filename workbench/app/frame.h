@@ -10,6 +10,7 @@
 
 #include "workbench/app/status_bar.h"
 #include "workbench/windows/handles.h"
+#include "workbench/windows/menu_columns.h"
 #include "workbench/windows/topmost_order.h"
 
 namespace workbench {
@@ -78,6 +79,7 @@ class Frame {
   HMENU window_menu_ = nullptr;  // likewise
   HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
+  MenuColumns menu_columns_;
   TopmostOrder topmost_order_;
   OwnedAccelerators accelerators_;
   bool asking_ = false;
