@@ -223,31 +223,6 @@ TEST_CASE("the version files of a tree") {
   CHECK(files.takeDone() == "list P\nlist P\\a\n");
 }
 
-TEST_CASE("what is UTF-16 is left alone") {
-  PlayedFiles files;
-  std::int32_t build_number = 0;
-  const std::string wide("\xFF\xFE#\0d\0", 6);
-  const std::string narrow = "FILEVERSION 1,0,0,5\n";
-  files.scripts["P"] = {"a.rc", "b.rc"};
-  files.put("P\\a.rc", wide);
-  files.put("P\\b.rc", "B DIALOG 1\n}\n");
-  files.subdirectories["P"] = {"s"};
-  files.put("P\\VERSION.RC", "\xFE\xFF");
-  files.put("P\\s\\VERSION.RC", narrow);
-  files.put("P\\s\\VERSION.BAK", wide);
-  ran(files, {true, true}, build_number);
-  CHECK(count(files.files["P\\rc.h"].text, "class ") == 1);
-  CHECK(files.files["P\\a.rc"].text == wide);
-  CHECK(files.files["P\\VERSION.RC"].text == "\xFE\xFF");
-  CHECK(files.files["P\\s\\VERSION.RC"].text == narrow);
-  CHECK(files.files.count("P\\VERSION.BAK") == 0);
-  CHECK(build_number == 1);
-  CHECK(files.notices ==
-        "P\\a.rc is UTF-16: no classes are made of it\n"
-        "P\\s\\VERSION.BAK is UTF-16: the version is not stamped\n"
-        "P\\VERSION.RC is UTF-16: the version is not stamped\n");
-}
-
 TEST_CASE("a text that a backup from elsewhere replaces is kept once") {
   PlayedFiles files;
   std::int32_t build_number = 0;
