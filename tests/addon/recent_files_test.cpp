@@ -7,13 +7,6 @@
 
 namespace {
 
-void storeEntries(const char* subsection, int count, const std::string& text) {
-  for (int i = 0; i < count; ++i) {
-    kesto::settings().writeString(subsection, ("Entry" + std::to_string(i)).c_str(),
-                                  (text + std::to_string(i)).c_str());
-  }
-}
-
 std::string stored(const char* section, const char* name) {
   char text[kesto::SettingsStore::kValueSize];
   kesto::settings().readString(section, name, text, sizeof text, "(none)");
@@ -21,37 +14,6 @@ std::string stored(const char* section, const char* name) {
 }
 
 }  // namespace
-
-TEST_CASE("counts and maxima of any kind give lists of what is there") {
-  const struct {
-    const char* count;
-    const char* maximum;
-    int entries;
-    int loaded;
-  } rows[] = {{"5", "50", 3, 3},
-              {"2", "50", 3, 2},
-              {"5", "2", 5, 2},
-              {"-1", "50", 3, 0},
-              {"2000000000", "50", 3, 3},
-              {"many", "50", 3, 0},
-              {"9", "2000000000", 9, 9},
-              {"9", "-1", 9, 0},
-              {"9", "text", 9, 9},
-              {"500", "500", 250, 199},
-              {"3", "0", 3, 0}};
-  for (const auto& row : rows) {
-    const OwnSettings settings;
-    CAPTURE(row.count);
-    CAPTURE(row.maximum);
-    kesto::settings().writeString("TopBar", "NbINC", row.count);
-    kesto::settings().writeString("TopBar", "MaxINC", row.maximum);
-    storeEntries("TopBar\\INC", row.entries, "h");
-    kesto::RecentFiles files(nullptr);
-    CHECK(files.headers().count() == row.loaded);
-    CHECK(files.projects().count() == 0);
-    CHECK(files.projects().maximum() == 10);
-  }
-}
 
 TEST_CASE("lists come back as they were saved; long entries are cut or end the list") {
   const OwnSettings settings;

@@ -13,59 +13,19 @@
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
 
-namespace {
-
-// A bar of these margins with a menu of three entries.
-class Bar {
- public:
-  Bar(int left, int right) {
-    kesto::settings().writeInteger("TopBar", "LeftMargin", left);
-    kesto::settings().writeInteger("TopBar", "RightMargin", right);
-    kesto::registerBarClass(GetModuleHandleA(nullptr));
-    window = kesto::createBarWindow(GetModuleHandleA(nullptr), true);
-    REQUIRE(window != nullptr);
-    kesto::topBar = new kesto::TopBar(true, window);
-    for (int i = 0; i < 3; ++i) {
-      AppendMenuA(GetMenu(window), MF_STRING, 20001U + static_cast<UINT>(i), "an entry");
-    }
-    ShowWindow(window, SW_SHOWNA);
-  }
-  ~Bar() {
-    delete kesto::topBar;
-    kesto::topBar = nullptr;
-    DestroyWindow(window);
-    kesto::unregisterBarClass(GetModuleHandleA(nullptr));
-  }
-  Bar(const Bar&) = delete;
-  Bar& operator=(const Bar&) = delete;
-
-  RECT frame() const {
-    RECT rect = {};
-    GetWindowRect(window, &rect);
-    return rect;
-  }
-  int height() const { return frame().bottom - frame().top; }
-
-  HWND window = nullptr;
-};
-
-int screenWidth() {
-  return GetSystemMetrics(SM_CXSCREEN);
-}
-
-}  // namespace
-
 TEST_CASE("the bar hands activation on and is not closed by a person") {
   OwnSettings root;
   WindowFixture windows;
-  Bar bar(0, 0);
-  SetActiveWindow(bar.window);
+  kesto::registerBarClass(GetModuleHandleA(nullptr));
+  const HWND bar = kesto::createBarWindow(GetModuleHandleA(nullptr), true);
+  ShowWindow(bar, SW_SHOWNA);
+  SetActiveWindow(bar);
   CHECK(GetActiveWindow() == windows.frame);
-  CHECK(GetFocus() != bar.window);
+  CHECK(GetFocus() != bar);
   // A box without owner closes, and the bar is the next window in order.
   const HWND box = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, nullptr);
-  SetWindowPos(bar.window, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  SetWindowPos(bar.window, box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(bar, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(bar, box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   CHECK(GetActiveWindow() == box);
   DestroyWindow(box);
   CHECK(GetActiveWindow() == windows.frame);
@@ -73,13 +33,15 @@ TEST_CASE("the bar hands activation on and is not closed by a person") {
   const HWND dialog = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, windows.frame);
   SetActiveWindow(dialog);
   EnableWindow(windows.frame, FALSE);
-  SetActiveWindow(bar.window);
+  SetActiveWindow(bar);
   CHECK(GetActiveWindow() == dialog);
   EnableWindow(windows.frame, TRUE);
   DestroyWindow(dialog);
 
-  SendMessageA(bar.window, WM_SYSCOMMAND, SC_CLOSE, 0);
-  CHECK(IsWindow(bar.window));
+  SendMessageA(bar, WM_SYSCOMMAND, SC_CLOSE, 0);
+  CHECK(IsWindow(bar));
+  DestroyWindow(bar);
+  kesto::unregisterBarClass(GetModuleHandleA(nullptr));
 }
 
 TEST_CASE("the completion key is one while something completes") {
@@ -96,29 +58,6 @@ TEST_CASE("the completion key is one while something completes") {
   kesto::completionSource = nullptr;
   delete kesto::completionSettings;
   kesto::completionSettings = nullptr;
-}
-
-TEST_CASE("the bar takes any margins") {
-  OwnSettings root;
-  const struct {
-    int left;
-    int right;
-    int width;
-  } rows[] = {{0, 0, screenWidth()},
-              {-30, -10, screenWidth() + 40},
-              {screenWidth(), 0, 0},
-              {screenWidth(), screenWidth(), 0}};
-  for (const auto& row : rows) {
-    CAPTURE(row.left);
-    CAPTURE(row.right);
-    Bar bar(row.left, row.right);
-    kesto::topBar->expand();
-    CHECK(bar.height() <= GetSystemMetrics(SM_CYSCREEN) - 80 + GetSystemMetrics(SM_CYMENU));
-    kesto::topBar->collapse();
-    CHECK(bar.frame().left == row.left);
-    CHECK(bar.frame().right - bar.frame().left == row.width);
-    CHECK(bar.height() == GetSystemMetrics(SM_CYMENU) + 1);
-  }
 }
 
 TEST_CASE("settings go back under their names, with the values that were read") {

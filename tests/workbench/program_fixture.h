@@ -67,7 +67,7 @@ struct Releases {
   }
 };
 template <typename Interface>
-using Held = std::unique_ptr<Interface, Releases>;
+using Taken = std::unique_ptr<Interface, Releases>;
 
 // The program without its message loop, its events kept.
 class Program {
@@ -99,11 +99,11 @@ class Program {
     return static_cast<Interface*>(result);
   }
   template <typename Interface>
-  Held<Interface> held(const GUID& id) {
-    return Held<Interface>(service<Interface>(id));
+  Taken<Interface> held(const GUID& id) {
+    return Taken<Interface>(service<Interface>(id));
   }
-  Held<IIdeString> text(const std::string& value) {
-    Held<IIdeString> string(ide()->CreateIdeString());
+  Taken<IIdeString> text(const std::string& value) {
+    Taken<IIdeString> string(ide()->CreateIdeString());
     string->SetText(value.c_str());
     return string;
   }

@@ -185,7 +185,7 @@ TEST_CASE_FIXTURE(OpenFolder, "an editor is found, moved, read and changed in on
 }
 
 TEST_CASE_FIXTURE(OpenFolder, "a stream reads the editor's text before the file's") {
-  const Held<IFileStream> stream(program.ide()->CreateFileStream());
+  const Taken<IFileStream> stream(program.ide()->CreateFileStream());
   const auto name = program.text(folder.file("a.cpp"));
   char buffer[64] = {};
   CHECK(stream->Read(buffer, 1) < 0);
