@@ -308,3 +308,39 @@ TEST_CASE("random edits agree with a plain string, there and back") {
     REQUIRE(document.bytes() == steps[i]);
   }
 }
+
+TEST_CASE(
+    "a renewed text is the bytes given, one step of undo, and keeps places outside the change") {
+  // Pairs of texts from a small alphabet of line ends and letters.
+  const std::string letters = "ab\r\n";
+  std::uint32_t seed = 1;
+  const auto text = [&] {
+    std::string result;
+    for (seed = seed * 1664525 + 1013904223; result.size() < seed >> 29; ++seed) {
+      result += letters[seed * 2654435761u >> 30];
+    }
+    return result;
+  };
+  for (int i = 0; i < 2000; ++i) {
+    const std::string before = text();
+    const std::string after = text();
+    CAPTURE(before);
+    CAPTURE(after);
+    Document document = documentOf(before);
+    document.renew(after);
+    CHECK(document.bytes() == after);
+    CHECK(document.modified() == (before != after));
+    Place caret;
+    CHECK(document.undo(&caret) == (before != after));
+    CHECK(document.bytes() == before);
+  }
+  Document document = documentOf("a\nb\nc\nd\n");
+  Recorder recorder;
+  document.addListener(&recorder);
+  document.renew("a\nb\nX\nY\nd\n");
+  document.removeListener(&recorder);
+  REQUIRE(recorder.changes.size() == 1);
+  CHECK(recorder.changes[0].from == Place{2, 0});
+  CHECK(recorder.changes[0].old_end == Place{2, 1});
+  CHECK(recorder.changes[0].new_end == Place{3, 1});
+}

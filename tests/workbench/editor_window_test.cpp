@@ -7,6 +7,7 @@
 
 #include "doctest.h"
 #include "tests/workbench/program_fixture.h"
+#include "workbench/windows/clipboard.h"
 #include "workbench/windows/command_ids.h"
 
 using namespace workbench;
@@ -185,6 +186,57 @@ TEST_CASE("the clipboard's messages move the selection") {
   CHECK(desk.editor->text() == "onwo\r\nthreee\r\nt");
 }
 
+TEST_CASE("a UTF-8 text is worked in by characters, and handed out in the code page") {
+  Desk desk;
+  const std::string path = desk.folder.file("a.cpp");
+  desk.closeEditor();
+  // A character of two bytes, one of three, one of four; a tab between them.
+  writeFile(path, "\xEF\xBB\xBF\xC3\xA9\t\xE2\x82\xAC\xF0\x9F\x98\x80\r\nx\n");
+  desk.editor = desk.program.application.editFile(path, 1);
+  CHECK(desk.editor->text() == "\xE9\t\x80?\r\nx\n");
+  desk.message(WM_SETFOCUS);
+  desk.press(VK_END);
+  CHECK(desk.place() == "1:5");
+  desk.press(VK_BACK);
+  CHECK(desk.place() == "1:4");
+  desk.press(VK_LEFT);
+  CHECK(desk.place() == "1:3");
+  // Beyond the code page, of one unit and of two.
+  for (const wchar_t unit : {0x3A9, 0xD83D, 0xDE00}) {
+    SendMessageW(desk.editor->textWindow(), WM_CHAR, static_cast<WPARAM>(unit), 0);
+  }
+  desk.keys("\xF1");
+  CHECK(desk.place() == "1:6");
+  desk.press(VK_HOME);
+  desk.press(VK_DELETE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xEF\xBB\xBF\t\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\nx\n");
+  // What is copied is there in the code page, and whole for whoever takes it so.
+  desk.editor->select(1, 2, 2, 1);
+  desk.message(WM_COPY);
+  std::string ansi;
+  CHECK(takeFromClipboard(nullptr, &ansi));
+  CHECK(ansi == "??\xF1\x80\r\n");
+  desk.editor->setCaret(2, 2);
+  desk.message(WM_PASTE);
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk().ends_with("\r\nx\xCE\xA9\xF0\x9F\x98\x80\xC3\xB1\xE2\x82\xAC\r\n\n"));
+}
+
+TEST_CASE("a plain text takes what the code page has as such, and becomes UTF-8 for the rest") {
+  Desk desk;
+  desk.setText("");
+  desk.keys("\xE9");
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);  // no place for it
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xE9");
+  desk.press(VK_BACK);
+  SendMessageW(desk.editor->textWindow(), WM_CHAR, 0x3A9, 0);
+  desk.keys("\xE9");
+  CHECK(desk.editor->save());
+  CHECK(desk.onDisk() == "\xCE\xA9\xC3\xA9");
+}
+
 TEST_CASE("closing a modified text asks, and only yes writes") {
   const struct {
     int answer;
@@ -268,34 +320,114 @@ TEST_CASE("what an add-on has saved is saved without a question, or not at all")
   service->Release();
 }
 
-TEST_CASE("a changed file is offered once, and read again where the caret was") {
+TEST_CASE("a changed file is read again where the caret was, and asks before changes here go") {
   Desk desk;
   Application& application = desk.program.application;
-  application.programActivated();  // nothing changed, nothing asked
+  const std::string path = desk.folder.file("a.cpp");
+  application.programActivated();  // nothing changed, nothing said
+  CHECK(application.status().empty());
   desk.editor->setCaret(2, 3);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n");
-  {
-    Answers answers({IDNO});
-    application.programActivated();
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == kOnDisk);
-  writeFile(desk.folder.file("a.cpp"), "1\n22222\n3\n4\n");
-  {
-    Answers answers({IDYES});
-    application.programActivated();
-  }
-  CHECK(desk.editor->text() == "1\n22222\n3\n4\n");
-  CHECK(desk.place() == "2:3");
+  writeFile(path, "0\nfirst\r\nsecond word\r\nthird\r\n");
+  application.timePassed();
+  CHECK(application.status() == path + " was read again from the disk");
+  CHECK(desk.editor->text() == "0\nfirst\r\nsecond word\r\nthird\r\n");
+  CHECK(desk.place() == "3:3");
   CHECK_FALSE(desk.editor->modified());
-  DeleteFileA(desk.folder.file("a.cpp").c_str());
+  desk.message(WM_UNDO);
+  CHECK(desk.editor->text() == kOnDisk);
+  CHECK(desk.editor->modified());
+  // With a change here it asks, once for each change there.
+  desk.editor->setCaret(2, 4);
+  for (const int answer : {IDNO, IDYES}) {
+    writeFile(path, "1\n22222\n" + std::to_string(answer));
+    Answers answers({answer});
+    application.programActivated();
+    application.timePassed();
+    CHECK(desk.editor->modified() == (answer == IDNO));
+  }
+  CHECK(desk.editor->text() == "1\n22222\n" + std::to_string(IDYES));
+  CHECK(desk.place() == "2:4");
+  // A file that goes may be on its way back; when it stays away, that is told once.
+  DeleteFileA(path.c_str());
+  application.timePassed();
+  writeFile(path, "back");
+  application.timePassed();
+  CHECK(desk.editor->text() == "back");
+  DeleteFileA(path.c_str());
   {
     Answers answers({IDOK});
+    application.timePassed();
+    application.timePassed();
+    application.timePassed();
     application.programActivated();
   }
   CHECK(desk.editor->modified());
   CHECK(desk.editor->save());
-  CHECK(desk.onDisk() == "1\n22222\n3\n4\n");
+  CHECK(desk.onDisk() == "back");
+}
+
+TEST_CASE("what an interrupted save left is offered when its file is opened") {
+  const struct {
+    const char* left;
+    std::vector<int> answers;
+    bool used;
+    bool still_there;
+  } cases[] = {
+      {"whole", {IDYES}, true, true},
+      {"whole", {IDNO}, false, false},
+      {"whole", {IDCANCEL}, false, true},
+      {"on disk\n", {}, false, false},  // the file has all of it
+  };
+  for (const auto& each : cases) {
+    CAPTURE(each.answers.size());
+    Desk desk;
+    const std::string left = desk.folder.file("a.cpp.~3");
+    desk.closeEditor();
+    writeFile(desk.folder.file("a.cpp"), "on disk\n");
+    writeFile(left, each.left);
+    {
+      Answers answers(each.answers);
+      desk.editor = desk.program.application.editFile("a.cpp", 1);
+    }
+    CHECK(desk.editor->text() == (each.used ? "whole" : "on disk\n"));
+    CHECK(desk.editor->modified() == each.used);
+    CHECK(desk.onDisk() == "on disk\n");
+    CHECK(DiskStore().stamp(left).exists == each.still_there);
+    if (each.used) {
+      desk.message(WM_UNDO);
+      CHECK(desk.editor->text() == "on disk\n");
+      desk.editor->type("x");
+      CHECK(desk.editor->save());
+      CHECK_FALSE(DiskStore().stamp(left).exists);
+    }
+    DeleteFileA(left.c_str());
+  }
+  Desk desk;
+  writeFile(desk.folder.file("gone.cpp.~0.old"), "text");
+  Answers answers({IDYES});
+  EditorWindow* editor = desk.program.application.editFile("gone.cpp", 1);
+  REQUIRE(editor != nullptr);
+  CHECK(editor->text() == "text");
+  CHECK(editor->modified());
+  DeleteFileA(desk.folder.file("gone.cpp.~0.old").c_str());
+}
+
+TEST_CASE("a project file is offered what an interrupted save left of it") {
+  ScratchFolder folder;
+  const std::string head = "Workbench project 1\r\n";
+  const std::string left = folder.projectFile() + ".~0";
+  writeFile(folder.projectFile(), head + "end\r\n");
+  writeFile(left, head + "node \"a.cpp\" \".cpp\"\r\nend\r\n");
+  Program program;
+  {
+    Answers answers({IDYES});
+    CHECK(program.application.openPath(folder.path()));
+  }
+  CHECK(program.application.projectEntries().size() == 1);
+  CHECK(DiskStore().stamp(left).exists);
+  Answers answers({IDYES});
+  CHECK(program.application.closeProject());
+  CHECK_FALSE(DiskStore().stamp(left).exists);
 }
 
 TEST_CASE("a read-only file says so before it is edited and when it is saved") {

@@ -77,6 +77,31 @@ TEST_CASE("A query compares one field of an event") {
   }
 }
 
+TEST_CASE("What is forgotten is not found, but the latest of its name is known") {
+  EventHistory history;
+  for (const char* text : {"a", "b", "c"}) {
+    history.add(Event("box").text("text", text));
+    history.add(Event("menu").text("text", text));
+  }
+  const auto latest = [&history](const char* name) {
+    const Event* event = history.latest(name);
+    return event != nullptr ? *event->find("text") : "none";
+  };
+  history.forget(3);  // box and menu "a", box "b"
+  CHECK(history.end() == 6);
+  CHECK(history.find({"box", std::nullopt, ""}, 0) == 4);
+  CHECK(history.find({"menu", "text", "b"}, 2) == 3);
+  history.forget(100);
+  CHECK(history.end() == 6);
+  CHECK(history.find({"menu", std::nullopt, ""}, 0) == history.end());
+  CHECK(latest("box") == "c");
+  CHECK(latest("menu") == "c");
+  CHECK(latest("tool") == "none");
+  history.add(Event("box").text("text", "d"));
+  CHECK(history.find({"box", std::nullopt, ""}, 0) == 6);
+  CHECK(latest("box") == "d");
+}
+
 TEST_CASE("Positions stay true when the oldest events are let go") {
   EventHistory history;
   for (int i = 0; i < 20010; ++i) {

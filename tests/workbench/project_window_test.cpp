@@ -67,6 +67,51 @@ TEST_CASE_FIXTURE(OpenFolder, "the project window follows the tree") {
   CHECK(TreeView_GetCount(child(pane, WC_TREEVIEWA)) == 5);
 }
 
+TEST_CASE_FIXTURE(OpenFolder, "the project window comes back as it was left") {
+  unsigned int group = 0;
+  for (int i = 0; i < 60; ++i) {
+    group = application.addNode(0, "Group " + std::to_string(i), "Group");
+    application.addNode(group, "x.txt", ".txt");
+  }
+  SendMessageA(application.frame(), WM_SIZE, SIZE_RESTORED, 0);
+  const auto shown = [&] {
+    SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
+    deliverPosted();
+    return child(child(application.mdiClient(), ideapi::kProjectClass), WC_TREEVIEWA);
+  };
+  const auto look = [](HWND tree) {
+    std::string text;
+    for (HTREEITEM item = TreeView_GetRoot(tree); item != nullptr;
+         item = TreeView_GetNextSibling(tree, item)) {
+      text += TreeView_GetSelection(tree) == item ? "*" : "";
+      text += (TreeView_GetItemState(tree, item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0 ? "-" : "+";
+    }
+    TVITEMA first = {};
+    first.mask = TVIF_PARAM | TVIF_HANDLE;
+    first.hItem = TreeView_GetFirstVisible(tree);
+    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&first));
+    return text + " from node " + std::to_string(first.lParam);
+  };
+  const auto reopened = [&](HWND tree) {
+    SendMessageA(GetParent(tree), WM_SYSCOMMAND, SC_CLOSE, 0);
+    return shown();
+  };
+  HWND tree = shown();
+  HTREEITEM item = TreeView_GetRoot(tree);
+  TreeView_Expand(tree, item, TVE_COLLAPSE);
+  for (int i = 0; i < 30; ++i) {
+    item = TreeView_GetNextSibling(tree, item);
+  }
+  TreeView_SelectItem(tree, item);
+  TreeView_Expand(tree, item, TVE_EXPAND);
+  // The selection is out of sight.
+  TreeView_EnsureVisible(tree, TreeView_GetRoot(tree));
+  const std::string left = look(tree);
+  CHECK(left == "+" + std::string(29, '-') + "*-" + std::string(30, '-') + " from node 1");
+  tree = reopened(tree);
+  CHECK(look(tree) == left);
+}
+
 TEST_CASE_FIXTURE(OpenFolder,
                   "the message window shows one group; its first tab and its clearing") {
   const auto service = program.held<IMessageService>(ideapi::kMessageService);

@@ -19,6 +19,11 @@ std::string read(std::string_view text) {
   }
   std::string out;
   for (const ScriptLine& line : lines) {
+    if (line.rounds != 0) {
+      out += "; " + std::to_string(line.rounds) + " times from " +
+             std::to_string(lines[line.first_repeated].number);
+      continue;
+    }
     out += (out.empty() ? "" : "; ") + std::to_string(line.number) + " " + line.verb;
     for (const std::string& arg : line.args) {
       out += "[" + arg + "]";
@@ -44,8 +49,10 @@ TEST_CASE("Lines of a script become verbs and arguments") {
       {R"(echo "say ""it"" """)", R"(1 echo[say "it" "])"},
       {R"(echo a"b)", R"(1 echo[a"b])"},      // a quote within a bare word is a letter
       {R"(echo C:\a\)", R"(1 echo[C:\a\])"},  // a backslash is a backslash
-      {"echo #1", "1 echo[#1]"},              // comments take whole lines
-      {"echo \"a\tb\"", "1 echo[a\tb]"},      //
+      {"repeat 2\nrepeat 10\nmark\nend-repeat\n\nquit\nend-repeat",
+       "1 repeat[2]; 2 repeat[10]; 3 mark; 10 times from 3; 6 quit; 2 times from 2"},
+      {"echo #1", "1 echo[#1]"},          // comments take whole lines
+      {"echo \"a\tb\"", "1 echo[a\tb]"},  //
       {"\xEF\xBB\xBF"
        "echo \xC3\xA9",
        "1 echo[\xE9]"},               // UTF-8 with its mark
@@ -71,6 +78,10 @@ TEST_CASE("A script is refused as a whole, with the line of its first fault") {
       {"close now", "line 1: usage: close"},
       {"caret 1", "line 1: usage: caret LINE COL"},
       {"edit", "line 1: usage: edit FILE [LINE]"},
+      {"repeat 2\nrepeat 2\nend-repeat", "line 1: this repeat has no end"},
+      {"repeat 2\nend-repeat\nend-repeat", "line 3: there is nothing to repeat"},
+      {"repeat 0\nend-repeat", "line 2: nothing is done \"0\" times"},
+      {"repeat 2x\nend-repeat", "line 2: nothing is done \"2x\" times"},
       {"edit a 1 2", "line 1: usage: edit FILE [LINE]"},
   };
   for (const auto& row : rows) {

@@ -55,6 +55,7 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
   editors_.setChangeListener([this] { showEditorState(); });
+  editors_.setStatusListener([this](const std::string& text) { setStatus(text); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
   return true;
@@ -159,6 +160,20 @@ bool Application::openMessage(int position) {
   return showPlace(message);
 }
 
+void Application::showOtherMessage(bool next) {
+  bool wrapped = false;
+  const Message* found = message_window_.step(next, &wrapped);
+  if (found == nullptr) {
+    setStatus("No message tells of a place");
+    return;
+  }
+  // Opening may change the list.
+  const Message message = *found;
+  showPlace(message);
+  const char* word = next ? "The first message again: " : "The last message again: ";
+  setStatus((wrapped ? word : "") + message.text);
+}
+
 bool Application::showPlace(const Message& message) {
   EditorWindow* editor = message.file.empty() ? nullptr : editFile(message.file, message.line);
   if (editor != nullptr && message.line > 0 && message.column > 1) {
@@ -192,7 +207,7 @@ void Application::setStatus(const std::string& text) {
 void Application::showEditorState() {
   EditorChild* child = editors_.active();
   if (child == nullptr) {
-    frame_.statusBar().setFields("", "", "");
+    frame_.statusBar().setFields("", "", "", "");
     return;
   }
   int line = 0;
@@ -201,8 +216,10 @@ void Application::showEditorState() {
   std::string position = std::to_string(line);
   position += ':';
   position += std::to_string(column);
-  frame_.statusBar().setFields(position, child->modified() ? "Modified" : "",
-                               child->textView().insertMode() ? "Insert" : "Overwrite");
+  frame_.statusBar().setFields(
+      position, child->modified() ? "Modified" : "",
+      child->textView().insertMode() ? "Insert" : "Overwrite",
+      child->openFile().document.encoding() == Encoding::kUtf8 ? "UTF-8" : "ANSI");
 }
 
 }  // namespace workbench

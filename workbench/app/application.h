@@ -19,6 +19,7 @@
 #include "workbench/project/project.h"
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
+#include "workbench/windows/box_keys.h"
 #include "workbench/workbench.h"
 
 namespace workbench {
@@ -84,6 +85,7 @@ class Application final : public Workbench,
   bool projectCommandEnabled(int id) override { return commandEnabled(id); }
 
   void makeStarted(const std::string& command) override;
+  void makeGoesOn(int seconds) override;
   void makeEnded(int result) override;
 
   void frameCommand(int id) override;
@@ -92,7 +94,8 @@ class Application final : public Workbench,
     return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
   }
   void frameClosing() override;
-  void programActivated() override { editors_.checkDisk(); }
+  void programActivated() override { editors_.checkDisk(false); }
+  void timePassed() override { editors_.checkDisk(true); }
   // A script's run is nobody else's.
   bool mayTakePath() override { return keep_settings_; }
   void takePath(const std::string& path) override;
@@ -102,8 +105,10 @@ class Application final : public Workbench,
   void showFirstSource();
   bool openFolder(const std::string& folder);
   bool openProjectFile(const std::string& file);
-  // False when it cannot be read (the reason has been shown).
-  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp);
+  // False when it cannot be read (the reason has been shown). *leftover: where it was read
+  // from instead, else empty.
+  bool readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp,
+                   std::string* leftover);
   // The sources of the folder as a project of this file, fileFor's when empty.
   bool openWalked(const std::string& folder, const std::string& file);
   bool walk(const std::string& folder, FolderContent* content);
@@ -120,6 +125,8 @@ class Application final : public Workbench,
   void showEditorState();
   void messagesChanged(const MessageGroupInfo& group, const Message* added);
   bool showPlace(const Message& message);
+  // The next or the former message that has a place, of the group shown.
+  void showOtherMessage(bool next);
   void showError(const std::string& text);
   // commands.cpp
   bool fileCommand(int id, EditorChild* child);
@@ -134,6 +141,8 @@ class Application final : public Workbench,
   void removeSelected();
   void editSelected();
   void editBuild();
+  // The project's, as people call it.
+  std::string projectName();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
   void runTool(ToolHandle tool);
@@ -144,13 +153,15 @@ class Application final : public Workbench,
   void showAbout();
 
   EventLog events_;
+  BoxKeys box_keys_;
   DiskStore store_;
   DiskLister lister_;
   EditorSettings settings_;
   bool keep_settings_ = false;
   EditorSet editors_;
   Project project_;
-  FileStamp project_stamp_;  // its file as it was last read or written
+  FileStamp project_stamp_;       // its file as it was last read or written
+  std::string project_leftover_;  // the file that its content was taken from instead
   MessageStore messages_;
   LiveObjects live_;
   IdeRoot root_;

@@ -45,6 +45,8 @@ bool Application::commandEnabled(int id) {
     case CM_WINDOW_ARRANGE:
     case CM_WINDOW_NEXT:
       return SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0) != 0;
+    case CM_FILE_RELOAD:
+      return child != nullptr && !child->openFile().untitled;
     case CM_EDIT_UNDO:
       return child != nullptr && child->openFile().document.canUndo();
     case CM_EDIT_REDO:
@@ -55,6 +57,8 @@ bool Application::commandEnabled(int id) {
       return child != nullptr && child->textView().hasSelection();
     case CM_PROJECT_MAKE:
       return hasProject() && !make_.running();
+    case CM_PROJECT_STOP_MAKE:
+      return make_.running();
     case CM_PROJECT_OPEN_FILE:
     case CM_PROJECT_CLOSE:
     case CM_PROJECT_SAVE:
@@ -112,6 +116,12 @@ bool Application::fileCommand(int id, EditorChild* child) {
     case CM_FILE_SAVE_ALL:
       saveAll();
       return true;
+    case CM_FILE_RELOAD:
+      if (child != nullptr) {
+        const std::shared_ptr<OpenFile> file = child->sharedFile();
+        editors_.reload(*file);
+      }
+      return true;
     case CM_FILE_CLOSE:
       if (const LRESULT active = SendMessageA(frame_.mdiClient(), WM_MDIGETACTIVE, 0, 0)) {
         SendMessageA(reinterpret_cast<HWND>(active), WM_CLOSE, 0, 0);
@@ -162,7 +172,7 @@ void Application::editCommand(int id, EditorChild* child) {
       text.selectAll();
       break;
     case CM_EDIT_FIND: {
-      const std::string selected = text.selection();
+      const std::string selected = child->selection();
       if (!selected.empty() && selected.size() < 256 &&
           selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
         find_.text = selected;
@@ -194,7 +204,8 @@ void Application::findNext(bool backward) {
   if (child == nullptr) {
     return;
   }
-  if (!child->textView().findText(find_.text, find_.match_case, backward)) {
+  if (!child->textView().findText(fromAnsi(find_.text, child->openFile().document.encoding()),
+                                  find_.match_case, backward)) {
     setStatus("\"" + find_.text + "\" was not found");
     MessageBeep(MB_ICONWARNING);
   }
@@ -229,6 +240,16 @@ bool Application::windowCommand(int id, EditorChild* child) {
     case CM_WINDOW_CLOSE_ALL:
       editors_.closeAll();
       return true;
+    case CM_EDIT_NEXT_MESSAGE:
+      // In the project's window the key is that of a node's properties.
+      if (project_window_.active()) {
+        return nodeCommand(CM_NODE_PROPERTIES);
+      }
+      showOtherMessage(true);
+      return true;
+    case CM_EDIT_FORMER_MESSAGE:
+      showOtherMessage(false);
+      return true;
     case CM_WINDOW_NEW_VIEW:
       if (child != nullptr) {
         announce(editors_.newView(*child));
@@ -252,6 +273,9 @@ bool Application::projectCommand(int id) {
       return true;
     case CM_PROJECT_MAKE:
       startMake();
+      return true;
+    case CM_PROJECT_STOP_MAKE:
+      make_.cancel();
       return true;
     case CM_PROJECT_SAVE:
       if (saveProject()) {

@@ -12,6 +12,8 @@ namespace workbench {
 namespace {
 
 constexpr UINT kCheckDisk = WM_APP + 1;
+constexpr UINT kTimer = 1;
+constexpr UINT kTimerMs = 2000;
 constexpr UINT kOpenTaken = WM_APP + 2;
 // The Window menu, to which the system appends the list of children.
 constexpr int kWindowMenuPosition = 4;
@@ -59,6 +61,7 @@ LRESULT CALLBACK Frame::windowProc(HWND window, UINT message, WPARAM w, LPARAM l
 LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_CREATE:
+      SetTimer(window_, kTimer, kTimerMs, nullptr);
       return createClient() ? 0 : -1;
     case WM_SIZE:
       layOut();
@@ -83,6 +86,12 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
     case kCheckDisk:
       if (!closing_ && IsWindowEnabled(window_) != 0) {
         handler_.programActivated();
+      }
+      return 0;
+    case WM_TIMER:
+      // Menus and drags hold the mouse.
+      if (w == kTimer && !closing_ && IsWindowEnabled(window_) != 0 && GetCapture() == nullptr) {
+        handler_.timePassed();
       }
       return 0;
     case WM_COPYDATA:
@@ -202,8 +211,10 @@ void Frame::setTitle(const std::string& title) {
 }
 
 int Frame::run() {
+  // Only the wide calls bring characters beyond the code page to a window that takes them.
+  const bool wide = (GetVersion() & 0x80000000U) == 0;
   MSG message = {};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+  while ((wide ? GetMessageW(&message, nullptr, 0, 0) : GetMessageA(&message, nullptr, 0, 0)) > 0) {
     HWND dialog = handler_.modelessDialog();
     if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
       continue;
@@ -214,7 +225,11 @@ int Frame::run() {
       continue;
     }
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    if (wide) {
+      DispatchMessageW(&message);
+    } else {
+      DispatchMessageA(&message);
+    }
   }
   return static_cast<int>(message.wParam);
 }

@@ -24,6 +24,8 @@ class FrameHandler {
   // The editors are gone, the frame's windows still stand.
   virtual void frameClosing() = 0;
   virtual void programActivated() = 0;
+  // Every two seconds in which no box, menu or drag holds the frame.
+  virtual void timePassed() = 0;
   // Another start of the program gives its path away; empty for none. False refuses it.
   virtual bool mayTakePath() = 0;
   virtual void takePath(const std::string& path) = 0;

@@ -18,14 +18,26 @@ const char* resultWord(int result) {
   }
 }
 
+std::string resultPhrase(int result) {
+  const std::string word = resultWord(result);
+  return (result == kMakeCancelled || result == kMakeNotRun ? "was " : "") + word;
+}
+
 }  // namespace
 
 void Application::makeStarted(const std::string& command) {
   events_.emit(Event("make").text("state", "started").text("command", command).text("result", ""));
+  setStatus("Making " + projectName() + " ...");
+  message_window_.beginAfterLast();
   root_.make().clients().each([](IMakeClient* client) { client->MakeStarted(); });
 }
 
+void Application::makeGoesOn(int seconds) {
+  setStatus("Making " + projectName() + " ... " + std::to_string(seconds) + " s");
+}
+
 void Application::makeEnded(int result) {
+  setStatus("Make of " + projectName() + ' ' + resultPhrase(result));
   root_.make().clients().each([result](IMakeClient* client) { client->MakeEnded(result); });
   events_.emit(
       Event("make").text("state", "ended").text("command", "").text("result", resultWord(result)));

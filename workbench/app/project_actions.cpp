@@ -1,5 +1,8 @@
 // The project and what is done to it.
+#include <utility>
+
 #include "workbench/app/application.h"
+#include "workbench/editor/leftover_question.h"
 #include "workbench/project/project_file.h"
 #include "workbench/windows/names.h"
 #include "workbench/windows/path_text.h"
@@ -40,10 +43,22 @@ bool Application::openFolder(const std::string& folder) {
   return projects.size() == 1 ? openProjectFile(projects.front()) : openWalked(path, {});
 }
 
-bool Application::readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp) {
+bool Application::readProject(const std::string& file, ProjectTree* tree, FileStamp* stamp,
+                              std::string* leftover) {
   std::string bytes;
   *stamp = store_.stamp(file);
+  leftover->clear();
   const FileFault fault = store_.read(file, kLargestProjectFile, &bytes);
+  const std::string read = bytes;
+  if (fault == FileFault::kNone) {
+    askForLeftover(
+        store_, file, &read,
+        [this](const std::string& text, UINT buttons) { return ask(text, buttons); }, &bytes,
+        leftover);
+    if (closed_) {
+      return false;
+    }
+  }
   if (fault != FileFault::kNone) {
     showError(describeFault(fault, file));
     return false;
@@ -62,15 +77,20 @@ bool Application::readProject(const std::string& file, ProjectTree* tree, FileSt
 bool Application::openProjectFile(const std::string& file) {
   ProjectTree tree;
   FileStamp stamp;
+  std::string leftover;
   const bool reopened = samePath(project_.file(), file);
-  if (!readProject(file, &tree, &stamp) || !closeProject()) {
+  if (!readProject(file, &tree, &stamp, &leftover) || !closeProject()) {
     return false;
   }
   // Closing may just have saved it.
-  if (reopened && !readProject(file, &tree, &stamp)) {
+  if (reopened && !readProject(file, &tree, &stamp, &leftover)) {
     return false;
   }
   project_.load(file, std::move(tree));
+  project_leftover_ = leftover;
+  if (!leftover.empty()) {
+    project_.markUnsaved();
+  }
   projectOpened(stamp);
   return true;
 }
@@ -97,6 +117,7 @@ bool Application::openWalked(const std::string& folder, const std::string& file)
     return openProjectFile(name);
   }
   project_.load(content, file);
+  project_leftover_.clear();
   projectOpened(FileStamp());
   return true;
 }
@@ -116,6 +137,7 @@ bool Application::newProject(const std::string& folder) {
     return false;
   }
   project_.load(content, file);
+  project_leftover_.clear();
   projectOpened(stamp);
   return saveProject();
 }
@@ -153,6 +175,9 @@ bool Application::saveProject() {
   }
   project_stamp_ = store_.stamp(file);
   project_.markSaved();
+  if (!project_leftover_.empty()) {
+    store_.remove(std::exchange(project_leftover_, {}));
+  }
   events_.emit(Event("project").text("action", "saved").text("file", file));
   return true;
 }
@@ -188,12 +213,16 @@ void Application::unloadProject() {
   events_.emit(Event("project").text("action", "closed").text("file", file));
 }
 
+std::string Application::projectName() {
+  const std::string_view name = fileName(project_.file());
+  return std::string(name.substr(0, name.size() - extensionOf(name).size()));
+}
+
 void Application::showTitle() {
   std::string title = kFrameTitle;
   if (project_.loaded()) {
     title += " - ";
-    const std::string_view name = fileName(project_.file());
-    title += name.substr(0, name.size() - extensionOf(name).size());
+    title += projectName();
   }
   if (frame_.window() != nullptr) {
     frame_.setTitle(title);

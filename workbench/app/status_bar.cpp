@@ -124,10 +124,11 @@ void StatusBar::setText(const std::string& text) {
 }
 
 void StatusBar::setFields(const std::string& position, const std::string& state,
-                          const std::string& mode) {
+                          const std::string& mode, const std::string& encoding) {
   change(1, position);
   change(2, state);
   change(3, mode);
+  change(4, encoding);
 }
 
 }  // namespace workbench

@@ -19,14 +19,15 @@ class StatusBar {
   int height() const;
   void setText(const std::string& text);
   const std::string& text() const { return texts_[0]; }
-  // "line:column", "Modified" or empty, "Insert" or "Overwrite"; all empty without
-  // an editor.
-  void setFields(const std::string& position, const std::string& state, const std::string& mode);
+  // "line:column", "Modified" or empty, "Insert" or "Overwrite", how the file is
+  // encoded; all empty without an editor.
+  void setFields(const std::string& position, const std::string& state, const std::string& mode,
+                 const std::string& encoding);
 
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM w, LPARAM l);
-  // From the left: the text, the position, the state and the mode.
-  static constexpr int kFields = 4;
+  // From the left: the text, the position, the state, the mode and the encoding.
+  static constexpr int kFields = 5;
 
   void paint();
   RECT fieldArea(int field) const;

@@ -10,6 +10,10 @@ class DiskStore final : public FileStore {
   FileStamp stamp(const std::string& path) override;
   FileFault read(const std::string& path, std::uint64_t limit, std::string* bytes) override;
   FileFault write(const std::string& path, const std::string& bytes) override;
+  FileFault overwrite(const std::string& path, const std::string& bytes, bool* begun) override;
+  std::string target(const std::string& path) override;
+  bool losesByReplacing(const std::string& path) override;
+  std::vector<std::string> beginningWith(const std::string& prefix) override;
   FileFault replace(const std::string& from, const std::string& to) override;
   FileFault move(const std::string& from, const std::string& to) override;
   void remove(const std::string& path) override;

@@ -76,10 +76,25 @@ Fragment Document::split(std::string_view text, LineEnd all_ends) {
   }
 }
 
+std::string_view Document::takeEncoding(std::string_view bytes) {
+  encoding_ = encodingOf(bytes);
+  marked_ = bytes.starts_with(kUtf8Mark);
+  return bytes.substr(marked_ ? kUtf8Mark.size() : 0);
+}
+
+bool Document::becomeUtf8() {
+  const bool plain = std::all_of(lines_.begin(), lines_.end(),
+                                 [](const TextLine& each) { return isAscii(each.text); });
+  if (plain) {
+    encoding_ = Encoding::kUtf8;
+  }
+  return encoding_ == Encoding::kUtf8;
+}
+
 void Document::load(std::string_view bytes) {
   const bool was_modified = modified();
   const Place old_end = endPlace();
-  lines_ = split(bytes, LineEnd::kNone);
+  lines_ = split(takeEncoding(bytes), LineEnd::kNone);
   prevailing_ = mostCommonEnd(lines_);
   steps_.clear();
   position_ = 0;
@@ -90,8 +105,47 @@ void Document::load(std::string_view bytes) {
   notifyState(was_modified);
 }
 
+DocumentChange Document::renew(std::string_view bytes) {
+  const Fragment wanted = split(takeEncoding(bytes), LineEnd::kNone);
+  const auto differ = [](const TextLine& a, const TextLine& b) {
+    return a.end != b.end || a.text != b.text;
+  };
+  // One line at least is left between what is the same before and after.
+  const std::size_t most = std::min(wanted.size(), lines_.size()) - 1;
+  std::size_t before = 0;
+  while (before < most && !differ(wanted[before], lines_[before])) {
+    ++before;
+  }
+  std::size_t after = 0;
+  while (after < most - before &&
+         !differ(wanted[wanted.size() - 1 - after], lines_[lines_.size() - 1 - after])) {
+    ++after;
+  }
+  std::size_t old_last = lines_.size() - 1 - after;
+  std::size_t new_last = wanted.size() - 1 - after;
+  if (after > 0 && lines_[old_last].end != wanted[new_last].end) {
+    // A change has no say over the end of its last line.
+    ++old_last;
+    ++new_last;
+  }
+  if (old_last == before && new_last == before && lines_[before].text == wanted[before].text) {
+    return {};
+  }
+  const Place from = {static_cast<int>(before), 0};
+  const Place to = {static_cast<int>(old_last), static_cast<int>(lines_[old_last].text.size())};
+  Fragment added(wanted.begin() + static_cast<std::ptrdiff_t>(before),
+                 wanted.begin() + static_cast<std::ptrdiff_t>(new_last) + 1);
+  added.back().end = LineEnd::kNone;
+  const DocumentChange result = {from, to, endOf(from, added)};
+  Change change = {from, copy(from, to), std::move(added)};
+  replace(change.at, change.removed, change.added);
+  record(std::move(change), Edit::kSingle);
+  prevailing_ = mostCommonEnd(lines_);
+  return result;
+}
+
 std::string Document::bytes() const {
-  return textBetween({0, 0}, endPlace());
+  return std::string(marked_ ? kUtf8Mark : "") + textBetween({0, 0}, endPlace());
 }
 
 Place Document::endPlace() const {

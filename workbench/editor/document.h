@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "workbench/editor/encoding.h"
+
 namespace workbench {
 
 enum class LineEnd : std::uint8_t { kNone, kCr, kLf, kCrLf };
@@ -58,7 +60,14 @@ class Document {
 
   // Replaces everything and forgets the history; the text counts as saved.
   void load(std::string_view bytes);
+  // Makes the text these bytes, as an edit of the stretch that differs; returns which.
+  DocumentChange renew(std::string_view bytes);
   std::string bytes() const;
+
+  // What the bytes are read as; a mark at the file's start is none of the lines'.
+  Encoding encoding() const { return encoding_; }
+  // Lets characters beyond the code page in. False for a text that has bytes of it.
+  bool becomeUtf8();
 
   int lineCount() const { return static_cast<int>(lines_.size()); }
   const std::string& line(int index) const { return lines_[static_cast<std::size_t>(index)].text; }
@@ -106,6 +115,8 @@ class Document {
   };
   using Step = std::vector<Change>;
 
+  // Notes encoding and mark; returns what follows the mark.
+  std::string_view takeEncoding(std::string_view bytes);
   static Fragment split(std::string_view text, LineEnd all_ends);
   static Place endOf(Place at, const Fragment& fragment);
   Fragment cut(Place from, Place to);
@@ -118,6 +129,8 @@ class Document {
   void notifyState(bool was_modified);
 
   std::vector<TextLine> lines_;
+  Encoding encoding_ = Encoding::kAnsi;
+  bool marked_ = false;
   // What a new line ends with: the end most lines have, CR LF in a text without one.
   LineEnd prevailing_ = LineEnd::kCrLf;
   std::vector<Step> steps_;

@@ -1,5 +1,6 @@
 #include "workbench/editor/editor_child.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ideapi/ide_identifiers.h"
@@ -87,21 +88,35 @@ void EditorChild::updateTitle() {
   SendMessageA(window(), WM_NCPAINT, 1, 0);
 }
 
+std::string EditorChild::text() {
+  const Document& document = file_->document;
+  return toAnsi(document.textBetween({0, 0}, document.endPlace()), document.encoding());
+}
+
+Place EditorChild::placeOf(int line, int column) const {
+  const Document& document = file_->document;
+  const int inside = std::clamp(line - 1, 0, document.lineCount() - 1);
+  return {line - 1,
+          columnOfCharacter(document.line(inside), std::max(0, column - 1), document.encoding())};
+}
+
 void EditorChild::caret(int* line, int* column) {
-  *line = text_.caret().line + 1;
-  *column = text_.caret().column + 1;
+  const Place place = text_.caret();
+  const Document& document = file_->document;
+  *line = place.line + 1;
+  *column = charactersBefore(document.line(place.line), place.column, document.encoding()) + 1;
 }
 
 void EditorChild::setCaret(int line, int column) {
-  text_.setCaret({line - 1, column - 1});
+  text_.setCaret(placeOf(line, column));
 }
 
 void EditorChild::select(int line1, int column1, int line2, int column2) {
-  text_.select({line1 - 1, column1 - 1}, {line2 - 1, column2 - 1});
+  text_.select(placeOf(line1, column1), placeOf(line2, column2));
 }
 
 void EditorChild::type(const std::string& text) {
-  text_.type(text);
+  text_.type(fromAnsi(text, file_->document.encoding()));
 }
 
 void EditorChild::textCaretMoved() {

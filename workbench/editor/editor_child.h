@@ -59,11 +59,11 @@ class EditorChild final : public EditorWindow,
   HWND textWindow() override { return text_.window(); }
   const std::string& file() override { return file_->path; }
   bool modified() override { return file_->document.modified(); }
-  std::string text() override { return file_->document.bytes(); }
+  std::string text() override;
   void caret(int* line, int* column) override;
   void setCaret(int line, int column) override;
   void select(int line1, int column1, int line2, int column2) override;
-  std::string selection() override { return text_.selection(); }
+  std::string selection() override { return toAnsi(text_.selection(), file_->document.encoding()); }
   void type(const std::string& text) override;
   bool save() override { return host_.saveChild(*this); }
 
@@ -74,6 +74,8 @@ class EditorChild final : public EditorWindow,
   void documentStateChanged() override;
 
  private:
+  // From a line and column that count from 1.
+  Place placeOf(int line, int column) const;
   LRESULT handleMessage(UINT message, WPARAM w, LPARAM l) override;
   void windowGone() override { host_.childGone(*this); }
   std::string title() const;

@@ -87,31 +87,35 @@ void EditorSet::renumber(const OpenFile& file) {
   }
 }
 
-FileFault EditorSet::readText(const std::string& path, std::string* bytes, FileStamp* stamp) {
-  // Stamped first: a change between the two is noticed later.
-  *stamp = store_.stamp(path);
-  const FileFault fault = store_.read(path, kLargestText, bytes);
-  const auto breaks =
-      std::count_if(bytes->begin(), bytes->end(), [](char c) { return c == '\r' || c == '\n'; });
-  return fault == FileFault::kNone && breaks > kMostLines ? FileFault::kTooLarge : fault;
-}
-
 EditorChild* EditorSet::open(const std::string& path) {
   if (EditorChild* child = find(path)) {
     bringForward(*child);
     return child;
   }
+  auto file = std::make_shared<OpenFile>();
+  file->path = path;
   std::string bytes;
-  FileStamp stamp;
-  const FileFault fault = readText(path, &bytes, &stamp);
-  if (fault != FileFault::kNone) {
+  const FileFault fault = readText(path, &bytes, &file->stamp);
+  if (fault == FileFault::kNone) {
+    file->document.load(bytes);
+  }
+  if (!offerLeftovers(*file) && fault != FileFault::kNone) {
     ask(describeFault(fault, path), MB_OK | MB_ICONERROR);
     return nullptr;
   }
-  auto file = std::make_shared<OpenFile>();
-  file->path = path;
-  file->stamp = file->noticed = stamp;
-  file->document.load(bytes);
+  return showAnswered(file);
+}
+
+// Shows the file after a question, which may have gone on for long.
+EditorChild* EditorSet::showAnswered(const std::shared_ptr<OpenFile>& file) {
+  if (IsWindow(mdi_client_) == 0) {
+    return nullptr;
+  }
+  if (EditorChild* child = find(file->path)) {
+    bringForward(*child);
+    return child;
+  }
+  file->noticed = file->stamp;
   return show(file);
 }
 
@@ -123,7 +127,8 @@ EditorChild* EditorSet::openOrStart(const std::string& path) {
   }
   auto file = std::make_shared<OpenFile>();
   file->path = path;
-  return show(file);
+  offerLeftovers(*file);
+  return showAnswered(file);
 }
 
 EditorChild* EditorSet::create(const std::string& folder) {
@@ -166,61 +171,6 @@ void EditorSet::bringForward(EditorChild& child) {
     SendMessageA(mdi_client_, WM_MDIRESTORE, reinterpret_cast<WPARAM>(child.window()), 0);
   }
   SendMessageA(mdi_client_, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(child.window()), 0);
-}
-
-FileFault EditorSet::store(OpenFile& file, const std::string& path) {
-  const FileFault fault = saveFile(store_, path, file.document.bytes());
-  if (fault != FileFault::kNone) {
-    return fault;
-  }
-  const bool renamed = file.path != path;
-  file.path = path;
-  file.untitled = false;
-  file.stamp = file.noticed = store_.stamp(path);
-  file.document.markSaved();
-  if (renamed) {
-    renumber(file);
-  }
-  return fault;
-}
-
-bool EditorSet::write(OpenFile& file, const std::string& path) {
-  const FileFault fault = store(file, path);
-  if (fault != FileFault::kNone) {
-    ask("The file was not saved. " + describeFault(fault, path), MB_OK | MB_ICONERROR);
-  }
-  return fault == FileFault::kNone;
-}
-
-bool EditorSet::changedOnDisk(const OpenFile& file) {
-  const FileStamp now = store_.stamp(file.path);
-  return now.exists && !now.sameContent(file.stamp);
-}
-
-bool EditorSet::save(OpenFile& file) {
-  if (file.untitled) {
-    return saveAs(file);
-  }
-  if (changedOnDisk(file) &&
-      ask(file.path + " was changed by another program since it was read.\n\nOverwrite it?",
-          MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) != IDYES) {
-    return false;
-  }
-  return write(file, file.path);
-}
-
-bool EditorSet::saveAs(OpenFile& file) {
-  std::string path = file.path;
-  if (!askSaveName(frame_, &path)) {
-    return false;
-  }
-  EditorChild* other = find(path);
-  if (other != nullptr && &other->openFile() != &file) {
-    ask(path + " is open in another editor. Close it first, or choose another name.",
-        MB_OK | MB_ICONERROR);
-    return false;
-  }
-  return write(file, path);
 }
 
 bool EditorSet::saveAll(std::vector<std::string>* names) {
@@ -329,59 +279,6 @@ bool EditorSet::mayEdit(EditorChild& child) {
   return !now.read_only ||
          ask(file.path + " is read-only: changes can only be saved under another name.\n\nEdit it?",
              MB_YESNO | MB_ICONWARNING) == IDYES;
-}
-
-void EditorSet::checkDisk() {
-  if (checking_) {
-    return;
-  }
-  checking_ = true;
-  for (const auto& file : files()) {
-    checkOnDisk(*file);
-  }
-  checking_ = false;
-}
-
-void EditorSet::checkOnDisk(OpenFile& file) {
-  const FileStamp now = store_.stamp(file.path);
-  if (file.untitled || now.sameContent(file.noticed)) {
-    return;
-  }
-  file.noticed = now;
-  if (!now.exists) {
-    file.document.markUnsaved();
-    ask(file.path + " is no longer on the disk. Its text stays in the editor.",
-        MB_OK | MB_ICONWARNING);
-    return;
-  }
-  const char* question = file.document.modified()
-                             ? " was changed by another program.\n\nRead it again and lose the "
-                               "changes made here?"
-                             : " was changed by another program.\n\nRead it again?";
-  if (ask(file.path + question, MB_YESNO | MB_ICONQUESTION) == IDYES) {
-    reload(file);
-  }
-}
-
-void EditorSet::reload(OpenFile& file) {
-  std::string bytes;
-  FileStamp stamp;
-  const FileFault fault = readText(file.path, &bytes, &stamp);
-  if (fault != FileFault::kNone) {
-    ask(describeFault(fault, file.path), MB_OK | MB_ICONERROR);
-    return;
-  }
-  const std::vector<EditorChild*> views = viewsOf(file);
-  std::vector<Place> carets;
-  carets.reserve(views.size());
-  for (EditorChild* view : views) {
-    carets.push_back(view->textView().caret());
-  }
-  file.stamp = file.noticed = stamp;
-  file.document.load(bytes);
-  for (std::size_t i = 0; i < views.size(); ++i) {
-    views[i]->textView().setCaret(file.document.clamp(carets[i]));
-  }
 }
 
 void EditorSet::settingsChanged() {

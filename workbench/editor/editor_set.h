@@ -22,6 +22,9 @@ class EditorSet final : public EditorChildHost {
   // Called when the active editor, its caret or its state changes.
   void setChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
 
+  // Called with what happened without a question.
+  void setStatusListener(std::function<void(const std::string&)> told) { told_ = std::move(told); }
+
   // The topmost editor of the file, or null.
   EditorChild* find(const std::string& path) const;
   // Null for a handle whose editor is gone.
@@ -52,8 +55,11 @@ class EditorSet final : public EditorChildHost {
   void closeAll();
   // Closes every editor as it is.
   void destroyAll();
-  // Offers to read again what other programs changed.
-  void checkDisk();
+  // Reads again what other programs changed, or asks where there are changes here too.
+  // Patiently: a file that has just gone may come back.
+  void checkDisk(bool patiently);
+  // Reads the file again; asks when there are changes, so the caller keeps the file.
+  void reload(OpenFile& file);
   void settingsChanged();
   const std::vector<std::unique_ptr<EditorChild>>& all() const { return children_; }
 
@@ -65,23 +71,28 @@ class EditorSet final : public EditorChildHost {
   bool mayEdit(EditorChild& child) override;
 
  private:
+  // editor_disk.cpp has what concerns the disk.
+  EditorChild* showAnswered(const std::shared_ptr<OpenFile>& file);
   EditorChild* show(const std::shared_ptr<OpenFile>& file);
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
   // Reads a text that an editor can take; stamps it as it was before.
   FileFault readText(const std::string& path, std::string* bytes, FileStamp* stamp);
-  void reload(OpenFile& file);
+  bool offerLeftovers(OpenFile& file);
+  void askToReload(OpenFile& file, const char* question);
+  void readAgain(OpenFile& file);
   void renumber(const OpenFile& file);
   bool askToSave(OpenFile& file);
   bool changedOnDisk(const OpenFile& file);
   FileFault store(OpenFile& file, const std::string& path);
   bool write(OpenFile& file, const std::string& path);
-  void checkOnDisk(OpenFile& file);
+  void checkOnDisk(OpenFile& file, bool patiently);
   int ask(const std::string& text, UINT buttons);
 
   FileStore& store_;
   EditorSettings& settings_;
   std::function<void()> changed_;
+  std::function<void(const std::string&)> told_;
   HWND frame_ = nullptr;
   HWND mdi_client_ = nullptr;
   HINSTANCE instance_ = nullptr;

@@ -1,6 +1,7 @@
 // One view of a file, for those who read it or work in it: a "BCW5Editor" MDI
 // child with its "EditWindClass" text window. Lines and columns are 1-based,
-// columns count bytes. User-interface thread only.
+// columns count characters. Texts are Windows-1252, whatever the file's encoding, with
+// "?" for a character beyond it, so that a byte is a character. User-interface thread only.
 #pragma once
 
 #include <windows.h>
@@ -17,7 +18,7 @@ class EditorWindow {
   virtual HWND textWindow() = 0;
   virtual const std::string& file() = 0;
   virtual bool modified() = 0;
-  // The whole text as it would be saved.
+  // The whole text, its line ends as they would be saved.
   virtual std::string text() = 0;
   virtual void caret(int* line, int* column) = 0;
   virtual void setCaret(int line, int column) = 0;

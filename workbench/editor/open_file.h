@@ -16,6 +16,10 @@ struct OpenFile {
   FileStamp stamp;
   // The last state on disk that the user was told of.
   FileStamp noticed;
+  // Not there when it was last looked for.
+  bool missed = false;
+  // What an interrupted save left and the document took over; goes when it is saved.
+  std::string leftover;
   // Never written yet: its path is only a proposal.
   bool untitled = false;
 };

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "workbench/editor/text_layout.h"
 #include "workbench/editor/text_window.h"
@@ -123,12 +124,14 @@ bool TextWindow::motionKey(WPARAM key, bool shift, bool control) {
 void TextWindow::moveVertically(int lines, bool extend) {
   const int cell = wanted_cell_ >= 0 ? wanted_cell_
                                      : cellOfColumn(document_.line(caret_.line), caret_.column,
-                                                    settings_.tab_width);
+                                                    settings_.tab_width, document_.encoding());
   const int line = std::clamp(caret_.line + lines, 0, document_.lineCount() - 1);
   if (lines != 1 && lines != -1) {
     scrollTo(top_ + lines, left_);
   }
-  setCaret({line, columnOfCell(document_.line(line), cell, settings_.tab_width)}, extend);
+  setCaret(
+      {line, columnOfCell(document_.line(line), cell, settings_.tab_width, document_.encoding())},
+      extend);
   wanted_cell_ = cell;
 }
 
@@ -139,7 +142,8 @@ Place TextWindow::leftOf(Place place, bool word) const {
   }
   if (place.column > 0) {
     return {place.line,
-            word ? previousWord(document_.line(place.line), place.column) : place.column - 1};
+            word ? previousWord(document_.line(place.line), place.column, document_.encoding())
+                 : previousColumn(document_.line(place.line), place.column, document_.encoding())};
   }
   if (place.line == 0) {
     return place;
@@ -150,13 +154,19 @@ Place TextWindow::leftOf(Place place, bool word) const {
 Place TextWindow::rightOf(Place place, bool word) const {
   if (place.column < static_cast<int>(document_.line(place.line).size())) {
     return {place.line,
-            word ? nextWord(document_.line(place.line), place.column) : place.column + 1};
+            word ? nextWord(document_.line(place.line), place.column, document_.encoding())
+                 : nextColumn(document_.line(place.line), place.column, document_.encoding())};
   }
   return place.line + 1 < document_.lineCount() ? Place{place.line + 1, 0} : place;
 }
 
-void TextWindow::character(char c) {
-  switch (c) {
+bool TextWindow::encode(const std::wstring& wide, std::string* text) {
+  return fromWide(wide, document_.encoding(), text) ||
+         (document_.becomeUtf8() && fromWide(wide, document_.encoding(), text));
+}
+
+void TextWindow::character(wchar_t unit) {
+  switch (unit) {
     case '\r':
     case '\n':
       breakLine();
@@ -166,18 +176,29 @@ void TextWindow::character(char c) {
       return;
     default:
       // Ctrl with a letter arrives as a control character and is a command.
-      if (static_cast<unsigned char>(c) < 32 || c == 127) {
+      if (unit < 32 || unit == 127) {
         return;
       }
+  }
+  const wchar_t first = std::exchange(first_half_, L'\0');
+  if (unit >= 0xD800 && unit < 0xDC00) {
+    first_half_ = unit;
+    return;
+  }
+  std::string text;
+  if (!encode(first != 0 ? std::wstring{first, unit} : std::wstring{unit}, &text)) {
+    MessageBeep(MB_ICONWARNING);
+    return;
   }
   if (!insert_mode_ && !hasSelection() &&
       caret_.column < static_cast<int>(document_.line(caret_.line).size())) {
     if (!owner_.allowEdit()) {
       return;
     }
-    anchor_ = {caret_.line, caret_.column + 1};
+    anchor_ = {caret_.line,
+               nextColumn(document_.line(caret_.line), caret_.column, document_.encoding())};
   }
-  type({&c, 1});
+  type(text);
 }
 
 void TextWindow::breakLine() {
@@ -302,21 +323,35 @@ void TextWindow::redo() {
   }
 }
 
+bool TextWindow::putSelection() {
+  const std::string text = selection();
+  const Encoding encoding = document_.encoding();
+  // The system makes the wide text of the other itself.
+  return putOnClipboard(window_, toAnsi(text, encoding),
+                        encoding == Encoding::kUtf8 ? toWide(text, encoding) : std::wstring());
+}
+
 void TextWindow::copy() {
   if (hasSelection()) {
-    putOnClipboard(window_, selection());
+    putSelection();
   }
 }
 
 void TextWindow::cut() {
-  if (hasSelection() && owner_.allowEdit() && putOnClipboard(window_, selection())) {
+  if (hasSelection() && owner_.allowEdit() && putSelection()) {
     clear();
   }
 }
 
 void TextWindow::paste() {
+  std::wstring wide;
   std::string text;
-  if (takeFromClipboard(window_, &text) && !text.empty()) {
+  if (!takeWideFromClipboard(window_, &wide) || !encode(wide, &text)) {
+    // What the code page has of it.
+    takeFromClipboard(window_, &text);
+    text = fromAnsi(text, document_.encoding());
+  }
+  if (!text.empty()) {
     type(text, Document::Edit::kSingle);
   }
 }

@@ -8,15 +8,15 @@ namespace {
 
 enum class Kind { kBlank, kWord, kOther };
 
-Kind kindOf(char c) {
+Kind kindOf(char c, Encoding encoding) {
   if (c == ' ' || c == '\t') {
     return Kind::kBlank;
   }
-  return isWordByte(c) ? Kind::kWord : Kind::kOther;
+  return isWordByte(c, encoding) ? Kind::kWord : Kind::kOther;
 }
 
-Kind kindAt(std::string_view line, int column) {
-  return kindOf(line[static_cast<std::size_t>(column)]);
+Kind kindAt(std::string_view line, int column, Encoding encoding) {
+  return kindOf(line[static_cast<std::size_t>(column)], encoding);
 }
 
 int advance(int cell, char c, int tab_width) {
@@ -25,77 +25,77 @@ int advance(int cell, char c, int tab_width) {
 
 }  // namespace
 
-bool isWordByte(char c) {
+bool isWordByte(char c, Encoding encoding) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-         static_cast<unsigned char>(c) >= 0xC0;
+         static_cast<unsigned char>(c) >= (encoding == Encoding::kUtf8 ? 0x80 : 0xC0);
 }
 
-int cellOfColumn(std::string_view line, int column, int tab_width) {
+int cellOfColumn(std::string_view line, int column, int tab_width, Encoding encoding) {
   const int length = static_cast<int>(line.size());
   int cell = 0;
-  for (int i = 0; i < column && i < length; ++i) {
+  for (int i = 0; i < column && i < length; i = nextColumn(line, i, encoding)) {
     cell = advance(cell, line[static_cast<std::size_t>(i)], tab_width);
   }
   return cell + std::max(0, column - length);
 }
 
-int columnOfCell(std::string_view line, int wanted, int tab_width) {
+int columnOfCell(std::string_view line, int wanted, int tab_width, Encoding encoding) {
   const int length = static_cast<int>(line.size());
   int cell = 0;
-  for (int i = 0; i < length; ++i) {
+  for (int i = 0; i < length; i = nextColumn(line, i, encoding)) {
     const int next = advance(cell, line[static_cast<std::size_t>(i)], tab_width);
     if (next > wanted) {
-      return wanted - cell < next - wanted ? i : i + 1;
+      return wanted - cell < next - wanted ? i : nextColumn(line, i, encoding);
     }
     cell = next;
   }
   return length;
 }
 
-int cellsOfLine(std::string_view line, int tab_width) {
-  return cellOfColumn(line, static_cast<int>(line.size()), tab_width);
+int cellsOfLine(std::string_view line, int tab_width, Encoding encoding) {
+  return cellOfColumn(line, static_cast<int>(line.size()), tab_width, encoding);
 }
 
-int nextWord(std::string_view line, int column) {
+int nextWord(std::string_view line, int column, Encoding encoding) {
   const int length = static_cast<int>(line.size());
   int i = std::clamp(column, 0, length);
   if (i < length) {
-    const Kind kind = kindAt(line, i);
-    while (i < length && kindAt(line, i) == kind) {
+    const Kind kind = kindAt(line, i, encoding);
+    while (i < length && kindAt(line, i, encoding) == kind) {
       ++i;
     }
   }
-  while (i < length && kindAt(line, i) == Kind::kBlank) {
+  while (i < length && kindAt(line, i, encoding) == Kind::kBlank) {
     ++i;
   }
   return i;
 }
 
-int previousWord(std::string_view line, int column) {
+int previousWord(std::string_view line, int column, Encoding encoding) {
   int i = std::clamp(column, 0, static_cast<int>(line.size()));
-  while (i > 0 && kindAt(line, i - 1) == Kind::kBlank) {
+  while (i > 0 && kindAt(line, i - 1, encoding) == Kind::kBlank) {
     --i;
   }
   if (i > 0) {
-    const Kind kind = kindAt(line, i - 1);
-    while (i > 0 && kindAt(line, i - 1) == kind) {
+    const Kind kind = kindAt(line, i - 1, encoding);
+    while (i > 0 && kindAt(line, i - 1, encoding) == kind) {
       --i;
     }
   }
   return i;
 }
 
-void wordAround(std::string_view line, int column, int* from, int* to) {
+void wordAround(std::string_view line, int column, int* from, int* to, Encoding encoding) {
   const int length = static_cast<int>(line.size());
   *from = *to = std::clamp(column, 0, length);
   if (length == 0) {
     return;
   }
-  const Kind kind = kindAt(line, std::min(*from, length - 1));
-  while (*from > 0 && kindAt(line, *from - 1) == kind) {
+  const Kind kind = kindAt(line, std::min(*from, length - 1), encoding);
+  while (*from > 0 && kindAt(line, *from - 1, encoding) == kind) {
     --*from;
   }
-  while (*to < length && kindAt(line, *to) == kind) {
+  while (*to < length && kindAt(line, *to, encoding) == kind) {
     ++*to;
   }
 }

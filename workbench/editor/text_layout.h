@@ -5,22 +5,28 @@
 
 #include <string_view>
 
+#include "workbench/editor/encoding.h"
+
 namespace workbench {
 
 // The cell where the column begins. A column past the end counts one cell each.
-int cellOfColumn(std::string_view line, int column, int tab_width);
+int cellOfColumn(std::string_view line, int column, int tab_width,
+                 Encoding encoding = Encoding::kAnsi);
 // The column whose cell is nearest to the given one, at most the line's length.
-int columnOfCell(std::string_view line, int cell, int tab_width);
+int columnOfCell(std::string_view line, int cell, int tab_width,
+                 Encoding encoding = Encoding::kAnsi);
 // Cells the whole line takes.
-int cellsOfLine(std::string_view line, int tab_width);
+int cellsOfLine(std::string_view line, int tab_width, Encoding encoding = Encoding::kAnsi);
 
-bool isWordByte(char c);
+// Every byte beyond ASCII belongs to a word in UTF-8.
+bool isWordByte(char c, Encoding encoding = Encoding::kAnsi);
 // The start of the next word after the column, or the line's length.
-int nextWord(std::string_view line, int column);
+int nextWord(std::string_view line, int column, Encoding encoding = Encoding::kAnsi);
 // The start of the word before the column, or 0.
-int previousWord(std::string_view line, int column);
+int previousWord(std::string_view line, int column, Encoding encoding = Encoding::kAnsi);
 // The bounds of the word (or the run of other characters) at the column.
-void wordAround(std::string_view line, int column, int* from, int* to);
+void wordAround(std::string_view line, int column, int* from, int* to,
+                Encoding encoding = Encoding::kAnsi);
 
 // The blanks that a line begins with.
 std::string_view indentOf(std::string_view line);

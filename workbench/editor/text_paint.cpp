@@ -28,8 +28,8 @@ COLORREF colourOf(TextKind kind) {
 }
 
 // Control characters have no picture of their own.
-char shown(char c) {
-  return static_cast<unsigned char>(c) < 32 || c == 127 ? '\xB7' : c;
+unsigned shown(unsigned code) {
+  return code < 32 || code == 127 ? 0xB7U : code;
 }
 
 // Paints the cells of a row from left to right, those of one look in one call, and
@@ -40,21 +40,19 @@ class RowPainter {
   RowPainter(HDC dc, const RECT& row, int margin, int cell_width)
       : dc_(dc), row_(row), margin_(margin), cell_width_(cell_width) {}
   ~RowPainter() {
-    if (paper_ == window_paper_) {
-      flush(row_.right);
-    } else {
+    if (paper_ != window_paper_) {
       flush(edgeOf(end_));
       paper_ = window_paper_;
-      flush(row_.right);
     }
+    flush(row_.right);
   }
   RowPainter(const RowPainter&) = delete;
   RowPainter& operator=(const RowPainter&) = delete;
 
-  void put(int cell, char c, COLORREF ink, COLORREF paper) {
+  void put(int cell, unsigned code, COLORREF ink, COLORREF paper) {
     // A blank has no ink.
-    const bool inks = c != ' ';
-    if (count_ == kMost || paper != paper_ || (inks && inked_ && ink != ink_)) {
+    const bool inks = code != ' ';
+    if (count_ + 2 > kMost || paper != paper_ || (inks && inked_ && ink != ink_)) {
       flush(edgeOf(cell));
       paper_ = paper;
     }
@@ -62,14 +60,23 @@ class RowPainter {
       ink_ = ink;
       inked_ = true;
     }
-    text_[count_] = c;
-    steps_[count_] = cell_width_;
-    ++count_;
+    if (code >= 0x10000) {
+      add(0xD7C0 + (code >> 10), 0);
+      code = 0xDC00 + (code & 0x3FF);
+    }
+    add(code, cell_width_);
+    ++cells_;
     end_ = cell + 1;
   }
 
  private:
   static constexpr int kMost = 256;
+
+  void add(unsigned unit, int step) {
+    text_[count_] = static_cast<wchar_t>(unit);
+    steps_[count_] = step;
+    ++count_;
+  }
 
   LONG edgeOf(int cell) const { return row_.left + margin_ + cell * cell_width_; }
 
@@ -78,11 +85,11 @@ class RowPainter {
     if (box.left < box.right) {
       SetTextColor(dc_, ink_);
       SetBkColor(dc_, paper_);
-      ExtTextOutA(dc_, edgeOf(end_ - count_), box.top, ETO_OPAQUE | ETO_CLIPPED, &box, text_,
+      ExtTextOutW(dc_, edgeOf(end_ - cells_), box.top, ETO_OPAQUE | ETO_CLIPPED, &box, text_,
                   static_cast<UINT>(count_), steps_);
       done_ = right;
     }
-    count_ = 0;
+    count_ = cells_ = 0;
     inked_ = false;
   }
 
@@ -95,9 +102,10 @@ class RowPainter {
   bool inked_ = false;  // of those collected one has ink
   COLORREF paper_ = window_paper_;
   LONG done_ = row_.left;
-  int count_ = 0;
+  int count_ = 0;  // units of text
+  int cells_ = 0;
   int end_ = 0;  // the cell after those collected
-  char text_[kMost];
+  wchar_t text_[kMost];
   INT steps_[kMost];
 };
 
@@ -175,9 +183,9 @@ void TextWindow::paintText(HDC dc, int line, const RECT& row) {
   std::size_t run = 0;
   int cell = 0;
   // One byte more than the line: a selected line end shows as a selected blank.
-  for (int i = 0; i <= length && cell < end_cell; ++i) {
+  for (int i = 0, size = 1; i <= length && cell < end_cell; i += size) {
     const bool at_end = i == length;
-    const char c = at_end ? ' ' : text[static_cast<std::size_t>(i)];
+    const unsigned c = at_end ? ' ' : characterAt(text, i, document_.encoding(), &size);
     const int next =
         !at_end && c == '\t' ? (cell / settings_.tab_width + 1) * settings_.tab_width : cell + 1;
     const Place here = {line, i};

@@ -26,7 +26,8 @@ void TextWindow::revealCaret() {
   int left = left_;
   top = std::min(top, caret_.line);
   top = std::max(top, caret_.line - visibleLines() + 1);
-  const int cell = cellOfColumn(document_.line(caret_.line), caret_.column, settings_.tab_width);
+  const int cell = cellOfColumn(document_.line(caret_.line), caret_.column, settings_.tab_width,
+                                document_.encoding());
   if (cell < left) {
     left = std::max(0, cell - 8);
   } else if (cell >= left + visibleCells()) {

@@ -4,6 +4,7 @@
 
 #include "ideapi/ide_identifiers.h"
 #include "workbench/editor/text_layout.h"
+#include "workbench/events/ansi.h"
 #include "workbench/windows/window_class.h"
 
 namespace workbench {
@@ -12,7 +13,12 @@ bool TextWindow::registerClass(HINSTANCE instance) {
   WNDCLASSA info = windowClass(ideapi::kEditorTextClass, windowProc, instance, kNoBackground);
   info.style = CS_DBLCLKS;
   info.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_IBEAM));
-  return RegisterClassA(&info) != 0;
+  // Where the system can, so that every character that is typed arrives.
+  const std::wstring name = toWide(ideapi::kEditorTextClass, Encoding::kAnsi);
+  const WNDCLASSW wide = {info.style,     info.lpfnWndProc, info.cbClsExtra, info.cbWndExtra,
+                          info.hInstance, info.hIcon,       info.hCursor,    info.hbrBackground,
+                          nullptr,        name.c_str()};
+  return RegisterClassW(&wide) != 0 || RegisterClassA(&info) != 0;
 }
 
 TextWindow::TextWindow(Document& document, const EditorSettings& settings, TextWindowOwner& owner)
@@ -32,6 +38,15 @@ HWND TextWindow::create(HWND parent, HINSTANCE instance) {
                          nullptr, instance, this);
 }
 
+namespace {
+
+LRESULT defaultProc(HWND window, UINT message, WPARAM w, LPARAM l) {
+  return IsWindowUnicode(window) != 0 ? DefWindowProcW(window, message, w, l)
+                                      : DefWindowProcA(window, message, w, l);
+}
+
+}  // namespace
+
 LRESULT CALLBACK TextWindow::windowProc(HWND window, UINT message, WPARAM w, LPARAM l) {
   auto* self = reinterpret_cast<TextWindow*>(GetWindowLongA(window, 0));
   if (message == WM_NCCREATE) {
@@ -40,12 +55,12 @@ LRESULT CALLBACK TextWindow::windowProc(HWND window, UINT message, WPARAM w, LPA
     SetWindowLongA(window, 0, reinterpret_cast<LONG>(self));
   }
   if (self == nullptr) {
-    return DefWindowProcA(window, message, w, l);
+    return defaultProc(window, message, w, l);
   }
   if (message == WM_NCDESTROY) {
     SetWindowLongA(window, 0, 0);
     self->window_ = nullptr;
-    return DefWindowProcA(window, message, w, l);
+    return defaultProc(window, message, w, l);
   }
   return self->handle(message, w, l);
 }
@@ -83,19 +98,21 @@ LRESULT TextWindow::handle(UINT message, WPARAM w, LPARAM l) {
     case WM_GETDLGCODE:
       return DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_CHAR:
-      character(static_cast<char>(w));
+      character(IsWindowUnicode(window_) != 0
+                    ? static_cast<wchar_t>(w)
+                    : static_cast<wchar_t>(codeFromAnsi(static_cast<char>(w))));
       return 0;
     case WM_KEYDOWN:
-      return keyDown(w) ? 0 : DefWindowProcA(window_, message, w, l);
+      return keyDown(w) ? 0 : defaultProc(window_, message, w, l);
     case WM_SYSKEYDOWN:
       if (w == VK_BACK) {
         undo();
         return 0;
       }
-      return DefWindowProcA(window_, message, w, l);
+      return defaultProc(window_, message, w, l);
     case WM_SYSCHAR:
       // Alt+Backspace was undo; it is no menu's key.
-      return w == VK_BACK ? 0 : DefWindowProcA(window_, message, w, l);
+      return w == VK_BACK ? 0 : defaultProc(window_, message, w, l);
     case WM_COPY:
       copy();
       return 0;
@@ -145,12 +162,12 @@ LRESULT TextWindow::handleMouse(UINT message, WPARAM w, LPARAM l) {
       const Place place = placeAt(x, y);
       int from = 0;
       int to = 0;
-      wordAround(document_.line(place.line), place.column, &from, &to);
+      wordAround(document_.line(place.line), place.column, &from, &to, document_.encoding());
       select({place.line, from}, {place.line, to});
       return 0;
     }
     default:
-      return DefWindowProcA(window_, message, w, l);
+      return defaultProc(window_, message, w, l);
   }
 }
 
@@ -166,13 +183,13 @@ Place TextWindow::placeAt(int x, int y) const {
   // Rounding to the nearer side of a character is what hands expect.
   const bool right_half = x > marginWidth() && (x - marginWidth()) % cell_width_ > cell_width_ / 2;
   return {line, columnOfCell(document_.line(line), std::max(0, cell + (right_half ? 1 : 0)),
-                             settings_.tab_width)};
+                             settings_.tab_width, document_.encoding())};
 }
 
 void TextWindow::setCaret(Place place, bool extend) {
   place.line = std::clamp(place.line, 0, document_.lineCount() - 1);
   place.column = std::max(0, place.column);
-  caret_ = place;
+  caret_ = wholeCharacter(place);
   if (!extend) {
     anchor_ = caret_;
   }
@@ -181,8 +198,13 @@ void TextWindow::setCaret(Place place, bool extend) {
 }
 
 void TextWindow::select(Place from, Place to) {
-  anchor_ = document_.clamp(from);
+  anchor_ = wholeCharacter(document_.clamp(from));
   setCaret(document_.clamp(to), true);
+}
+
+Place TextWindow::wholeCharacter(Place place) const {
+  return {place.line,
+          startOfCharacter(document_.line(place.line), place.column, document_.encoding())};
 }
 
 std::string TextWindow::selection() const {
@@ -206,7 +228,8 @@ void TextWindow::placeCaret() {
   if (!focused_) {
     return;
   }
-  const int cell = cellOfColumn(document_.line(caret_.line), caret_.column, settings_.tab_width);
+  const int cell = cellOfColumn(document_.line(caret_.line), caret_.column, settings_.tab_width,
+                                document_.encoding());
   // A caret left of the text area would stand in the margin.
   const int x = cell < left_ ? -100 : marginWidth() + (cell - left_) * cell_width_;
   SetCaretPos(x, (caret_.line - top_) * line_height_);
@@ -250,7 +273,8 @@ void TextWindow::holdPainting(bool hold) {
 
 void TextWindow::trackWidth(int first, int last) {
   for (int i = first; i <= last; ++i) {
-    widest_ = std::max(widest_, cellsOfLine(document_.line(i), settings_.tab_width));
+    widest_ = std::max(widest_,
+                       cellsOfLine(document_.line(i), settings_.tab_width, document_.encoding()));
   }
 }
 
@@ -275,8 +299,8 @@ Place moved(Place place, const DocumentChange& change) {
 void TextWindow::documentChanged(const DocumentChange& change) {
   highlighter_.documentChanged(change);
   trackWidth(change.from.line, change.new_end.line);
-  caret_ = document_.clamp(moved(caret_, change));
-  anchor_ = document_.clamp(moved(anchor_, change));
+  caret_ = wholeCharacter(document_.clamp(moved(caret_, change)));
+  anchor_ = wholeCharacter(document_.clamp(moved(anchor_, change)));
   shown_from_ = moved(shown_from_, change);
   shown_to_ = moved(shown_to_, change);
   wanted_cell_ = -1;

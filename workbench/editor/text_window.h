@@ -48,10 +48,12 @@ class TextWindow final : public DocumentListener {
   void select(Place from, Place to);
   bool hasSelection() const { return !(anchor_ == caret_); }
   std::string selection() const;
+  int topLine() const { return top_; }
+  void setTopLine(int line) { scrollTo(line, left_); }
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
 
-  // Replaces the selection as typing does.
+  // Texts are in the document's encoding. Replaces the selection as typing does.
   void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
   // Inserts at the caret, leaving it before the new text; the selection is given up.
   void insertBefore(std::string_view text);
@@ -80,7 +82,12 @@ class TextWindow final : public DocumentListener {
   bool keyDown(WPARAM key);
   bool controlKey(WPARAM key, bool shift);
   bool motionKey(WPARAM key, bool shift, bool control);
-  void character(char c);
+  // A unit of UTF-16.
+  void character(wchar_t unit);
+  // In the document's encoding; false when it has no place for a character.
+  bool encode(const std::wstring& wide, std::string* text);
+  bool putSelection();
+  Place wholeCharacter(Place place) const;
   void breakLine();
   void eraseBack(bool word);
   void eraseForward(bool word);
@@ -139,6 +146,7 @@ class TextWindow final : public DocumentListener {
   int left_ = 0;          // first cell shown
   int widest_ = 0;        // cells; an edit only ever widens it
   int wheel_rest_ = 0;
+  wchar_t first_half_ = 0;   // of a character that comes as two units
   SCROLLINFO bars_[2] = {};  // as last set, by SB_HORZ and SB_VERT
   int painting_held_ = 0;
   bool insert_mode_ = true;

@@ -10,6 +10,8 @@ namespace workbench {
 namespace {
 
 constexpr UINT kStopped = 1;  // exit code of a process that was ended
+// Whatever a build command starts has this in its environment.
+constexpr char kMark[] = "WORKBENCH_MAKE";
 
 // Jobs came with Windows 2000.
 struct Jobs {
@@ -62,24 +64,76 @@ std::string inFolder(const std::string& command, const std::string& folder) {
   return end == std::string::npos ? result : result + command.substr(end);
 }
 
+std::string inSingleQuotes(const std::string& text) {
+  std::string result = "'";
+  for (const char c : text) {
+    result += c == '\'' ? "'\\''" : std::string(1, c);
+  }
+  return result + '\'';
+}
+
+// Where the program's file is; empty when there is none.
+std::string findProgram(const std::string& program, const std::string& folder) {
+  char path[MAX_PATH] = {};
+  for (const std::string& name : {program, joinPath(folder, program)}) {
+    const DWORD size = SearchPathA(nullptr, name.c_str(), ".exe", sizeof path, path, nullptr);
+    if (size > 0 && size < sizeof path &&
+        (GetFileAttributesA(path) & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      return std::string(path, size);
+    }
+  }
+  return {};
+}
+
+bool isWindowsProgram(const std::string& file) {
+  HANDLE handle = CreateFileA(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                              nullptr, OPEN_EXISTING, 0, nullptr);
+  const OwnedFile owned(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+  char start[2] = {};
+  DWORD count = 0;
+  return owned && ReadFile(handle, start, sizeof start, &count, nullptr) != 0 &&
+         std::string(start, count) == "MZ";
+}
+
 }  // namespace
 
 bool BuildProcess::start(const std::string& command, const std::string& folder,
                          std::string* reason) {
   stop();
-  bool created = false;
-  if (needsInterpreter(command)) {
-    created = create(interpreter() + " /c " + command, folder);
+  const std::string value =
+      std::to_string(GetCurrentProcessId()) + '-' + std::to_string(GetTickCount());
+  SetEnvironmentVariableA(kMark, value.c_str());
+  const bool started = startMarked(command, folder);
+  const DWORD error = GetLastError();
+  SetEnvironmentVariableA(kMark, nullptr);
+  if (started) {
+    mark_ = std::string(kMark) + '=' + value;
   } else {
-    created = create(command, folder);
-    if (!created && GetLastError() == ERROR_FILE_NOT_FOUND) {
-      created = create(inFolder(command, folder), folder);
+    *reason = systemText(error);
+  }
+  return started;
+}
+
+bool BuildProcess::startMarked(const std::string& command, const std::string& folder) {
+  const std::string program = programOf(command);
+  if (UnixCommand::possible() && !needsInterpreter(program)) {
+    const std::string file = program.starts_with('/') ? "" : findProgram(program, folder);
+    if (file.empty()) {
+      return unix_.start(command, program, folder);
+    }
+    if (!isWindowsProgram(file)) {
+      // The system below does not know it by a name of Windows.
+      const std::string name = UnixCommand::nameOf(file);
+      std::size_t end = command.find(program) + program.size();
+      end += end < command.size() && command[end] == '"' ? 1 : 0;
+      return unix_.start(inSingleQuotes(name) + command.substr(end), name, folder);
     }
   }
-  if (!created) {
-    *reason = systemText(GetLastError());
+  if (needsInterpreter(command)) {
+    return create(interpreter() + " /c " + command, folder);
   }
-  return created;
+  return create(command, folder) ||
+         (GetLastError() == ERROR_FILE_NOT_FOUND && create(inFolder(command, folder), folder));
 }
 
 bool BuildProcess::create(const std::string& line, const std::string& folder) {
@@ -128,6 +182,12 @@ bool BuildProcess::create(const std::string& line, const std::string& folder) {
 }
 
 void BuildProcess::read(std::size_t most, std::string* bytes) {
+  if (unix_.floods() && !mark_.empty()) {
+    UnixCommand::endAllWith(mark_);
+    mark_.clear();
+    *bytes += "\nThe command is stopped: it writes more than can be read.\n";
+  }
+  unix_.read(most, bytes);
   char buffer[4096];
   while (output_ && most > 0) {
     DWORD waiting = 0;
@@ -146,6 +206,12 @@ void BuildProcess::read(std::size_t most, std::string* bytes) {
 }
 
 bool BuildProcess::ended(DWORD* exit_code) const {
+  if (unix_.started()) {
+    if (mark_.empty()) {
+      *exit_code = kStopped;
+    }
+    return mark_.empty() || unix_.ended(exit_code);
+  }
   if (!process_ || WaitForSingleObject(process_.get(), 0) != WAIT_OBJECT_0) {
     return false;
   }
@@ -153,16 +219,22 @@ bool BuildProcess::ended(DWORD* exit_code) const {
 }
 
 void BuildProcess::stop() {
+  DWORD code = 0;
+  const bool running = (process_ || unix_.started()) && !ended(&code);
+  if (running && UnixCommand::possible()) {
+    UnixCommand::endAllWith(mark_);
+  }
   if (job_) {
     jobs().terminate(job_.get(), kStopped);
   }
-  DWORD code = 0;
-  if (process_ && !ended(&code)) {
+  if (running && process_) {
     TerminateProcess(process_.get(), kStopped);
   }
   job_.reset();
   process_.reset();
   output_.reset();
+  unix_.close();
+  mark_.clear();
 }
 
 }  // namespace workbench

@@ -17,7 +17,8 @@ MakeRun::MakeRun(MessageStore& messages, MakeHost& host)
 
 void MakeRun::begin(HWND owner, const std::string& command) {
   running_ = true;
-  lines_ = warnings_ = errors_ = 0;
+  lines_ = warnings_ = errors_ = seconds_ = 0;
+  began_ = GetTickCount();
   splitter_ = LineSplitter();
   box_.open(owner, command);
   showState("Starting");
@@ -67,9 +68,19 @@ void MakeRun::poll() {
   takeLines(lines);
   if (!all) {
     showState("Running");
+    const int now = static_cast<int>((GetTickCount() - began_) / 1000);
+    if (now != seconds_) {
+      seconds_ = now;
+      host_.makeGoesOn(seconds_);
+    }
     return;
   }
   process_.stop();
+  if (code == UnixCommand::kNoProgram) {
+    ++errors_;
+    end(kMakeNotRun, "The command cannot be started: there is no such program.");
+    return;
+  }
   end(code == 0 ? kMakeSucceeded : kMakeFailed,
       code == 0 ? "Done" : "Failed with exit code " + std::to_string(code));
 }

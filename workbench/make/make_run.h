@@ -19,6 +19,8 @@ class MakeHost {
  public:
   // The status box is open by now.
   virtual void makeStarted(const std::string& command) = 0;
+  // After so many seconds.
+  virtual void makeGoesOn(int seconds) = 0;
   // A MakeResult; the status box is still open.
   virtual void makeEnded(int result) = 0;
 
@@ -57,6 +59,8 @@ class MakeRun {
   std::string folder_;
   unsigned int heading_ = 0;  // the message that the others stand below
   bool running_ = false;
+  DWORD began_ = 0;  // milliseconds of the system's clock
+  int seconds_ = 0;  // as told
   int lines_ = 0;
   int warnings_ = 0;
   int errors_ = 0;

@@ -37,20 +37,84 @@ std::string_view withoutBlanks(std::string_view text) {
 
 // Times of day and the like have no extension.
 bool isFileName(std::string_view name) {
-  return extensionOf(name).size() > 1 && name.find_first_of("\"<>|*?\t") == std::string_view::npos;
+  return extensionOf(name).size() > 1 &&
+         name.find_first_of("\"<>|*?\t") == std::string_view::npos &&
+         name.find(": ") == std::string_view::npos;
 }
 
 int kindOf(std::string_view text) {
   const std::string folded = foldCase(text.substr(0, 16));
-  if (folded.starts_with("error") || folded.starts_with("fatal")) {
-    return kMessageError;
+  // The last two are a linker's.
+  for (const char* start : {"error", "fatal", "undefined refere", "multiple definit"}) {
+    if (folded.starts_with(start)) {
+      return kMessageError;
+    }
   }
   return folded.starts_with("warning") ? kMessageWarning : kMessageInformation;
+}
+
+bool isLinker(std::string_view program) {
+  const std::string name = foldCase(fileName(program));
+  return name == "ld" || name.ends_with("-ld") || name.ends_with("ld.exe") ||
+         name.starts_with("ld.");
+}
+
+// Of a line without a place, which may start with "PROGRAM: ".
+int kindOfPlain(std::string_view line) {
+  const std::size_t colon = line.find(": ");
+  const std::string_view program = withoutBlanks(line.substr(0, colon));
+  if (colon == std::string_view::npos || kindOf(line) != kMessageInformation) {
+    return kindOf(line);
+  }
+  const std::string_view told = withoutBlanks(line.substr(colon + 1));
+  if (program.substr(0, program.find_last_not_of(' ') + 1).find(' ') == std::string_view::npos &&
+      kindOf(told) != kMessageInformation) {
+    return kindOf(told);
+  }
+  const bool link_error =
+      isLinker(program) && (told.starts_with("cannot find") ||
+                            told.find(": undefined reference to") != std::string_view::npos);
+  const bool make_error =
+      program.find("make") != std::string_view::npos && told.starts_with("*** ");
+  return link_error || make_error ? kMessageError : kMessageInformation;
+}
+
+// A linker names itself and the object file before the source.
+std::string_view withoutObjects(std::string_view line) {
+  const std::size_t colon = line.find(": ");
+  if (colon != std::string_view::npos && isLinker(line.substr(0, colon))) {
+    line = withoutBlanks(line.substr(colon + 1));
+  }
+  for (const std::string_view end : {".o:", ".obj:", ".o):", ".obj):"}) {
+    const std::size_t at = line.find(end);
+    const std::size_t next = at + end.size();
+    if (at != std::string_view::npos && next < line.size() && line[next] != ' ' &&
+        line.find(' ') > at) {
+      return line.substr(next);
+    }
+  }
+  return line;
+}
+
+// "(.SECTION+OFFSET): " in place of a line's number
+bool takeSection(std::string_view* text) {
+  const std::size_t end = text->find("):");
+  if (!text->starts_with("(.") || end == std::string_view::npos) {
+    return false;
+  }
+  text->remove_prefix(end + 2);
+  return true;
 }
 
 // What follows the file's name in either form, up to the text.
 bool readPlace(std::string_view rest, OutputLine* result) {
   if (takeText(&rest, ":")) {
+    if (takeSection(&rest)) {
+      result->line = 0;
+      result->text = withoutBlanks(rest);
+      result->kind = kindOf(result->text);
+      return true;
+    }
     if (!takeNumber(&rest, &result->line) || !takeText(&rest, ":")) {
       return false;
     }
@@ -80,12 +144,12 @@ bool readPlace(std::string_view rest, OutputLine* result) {
   return true;
 }
 
-bool parseNameFirst(const std::string& line, OutputLine* result) {
+bool parseNameFirst(std::string_view line, OutputLine* result) {
   // The second character may be a drive's colon.
-  for (std::size_t at = line.find_first_of(":(", 2); at != std::string::npos;
+  for (std::size_t at = line.find_first_of(":(", 2); at != std::string_view::npos;
        at = line.find_first_of(":(", at + 1)) {
-    const std::string_view name = withoutBlanks(std::string_view(line).substr(0, at));
-    if (isFileName(name) && readPlace(std::string_view(line).substr(at), result)) {
+    const std::string_view name = withoutBlanks(line.substr(0, at));
+    if (isFileName(name) && readPlace(line.substr(at), result)) {
       result->file = name;
       return true;
     }
@@ -155,13 +219,26 @@ void LineSplitter::finish(std::vector<std::string>* lines) {
 
 OutputLine parseOutputLine(const std::string& line) {
   OutputLine result;
-  if (parseNameFirst(line, &result) || parseKindFirst(line, &result)) {
+  std::string_view including = withoutBlanks(line);
+  if (takeText(&including, "In file included from ") || takeText(&including, "from ")) {
+    if (parseNameFirst(including, &result) && result.text.empty()) {
+      result.text = "included from here";
+      return result;
+    }
+  } else if (parseNameFirst(withoutObjects(line), &result) || parseKindFirst(line, &result)) {
     return result;
   }
   OutputLine plain;
   plain.text = line;
-  plain.kind = kindOf(line);
+  plain.kind = kindOfPlain(line);
   return plain;
+}
+
+std::string programOf(std::string_view command) {
+  const std::string_view start = withoutBlanks(command);
+  const bool quoted = start.starts_with('"');
+  const std::size_t end = quoted ? start.find('"', 1) : start.find_first_of(" \t");
+  return std::string(start.substr(quoted ? 1 : 0, end - (quoted ? 1 : 0)));
 }
 
 bool needsInterpreter(std::string_view command) {
@@ -174,10 +251,7 @@ bool needsInterpreter(std::string_view command) {
   if (command.find_first_of("&|<>%^") != std::string_view::npos) {
     return true;
   }
-  const std::string_view start = withoutBlanks(command);
-  const bool quoted = start.starts_with('"');
-  const std::size_t end = quoted ? start.find('"', 1) : start.find_first_of(" \t");
-  const std::string word = foldCase(start.substr(quoted ? 1 : 0, end - (quoted ? 1 : 0)));
+  const std::string word = foldCase(programOf(command));
   const std::string type = std::string(extensionOf(word));
   return type == ".bat" || type == ".cmd" ||
          std::find(std::begin(kOwn), std::end(kOwn), word) != std::end(kOwn);

@@ -35,8 +35,12 @@ struct OutputLine {
 
 // Knows "FILE:LINE:COLUMN: TEXT", "FILE:LINE: TEXT", "FILE(LINE,COLUMN): TEXT",
 // "FILE(LINE): TEXT" and "Error E2268 FILE LINE: TEXT" (with or without the code);
-// any other line is its own text.
+// where a linker speaks, "(.SECTION+OFFSET)" may stand for the LINE and objects before the
+// FILE; any other line is its own text, and an error when a driver, linker or make says so.
 OutputLine parseOutputLine(const std::string& line);
+
+// The program that a command starts with, as it stands there, without its quotes.
+std::string programOf(std::string_view command);
 
 // Whether the command needs the command interpreter: for its own commands, for
 // batch files and for anything joined or redirected.

@@ -174,6 +174,12 @@ int MessageViewer::selectedRow() const {
   return row == LB_ERR ? -1 : static_cast<int>(row);
 }
 
+void MessageViewer::select(int row) {
+  if (window_ != nullptr) {
+    SendMessageA(window_, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+  }
+}
+
 void MessageViewer::openSelected() {
   const std::vector<Message>* messages = host_.shownMessages();
   const int row = selectedRow();

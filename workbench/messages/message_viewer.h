@@ -41,6 +41,8 @@ class MessageViewer {
   void refresh(bool other_group);
   // -1 for none.
   int selectedRow() const;
+  // -1 selects none.
+  void select(int row);
   void openSelected();
 
  private:

@@ -46,6 +46,7 @@ bool MessageWindow::createControls() {
   }
   catchUp();
   viewer_.refresh(true);
+  viewer_.select(row_);
   return true;
 }
 
@@ -108,9 +109,40 @@ void MessageWindow::showGroup(unsigned int group) {
   if (store_.group(group) == nullptr) {
     return;
   }
+  row_ = group == shown_ ? row_ : -1;
   shown_ = group;
   catchUp();
   viewer_.refresh(true);
+}
+
+const Message* MessageWindow::step(bool next, bool* wrapped) {
+  const std::vector<Message>* messages = shownMessages();
+  const int count = messages != nullptr ? static_cast<int>(messages->size()) : 0;
+  const int selected = viewer_.selectedRow();
+  int row = std::min(selected >= 0 ? selected : row_, count - 1);
+  if (row < 0 && !next) {
+    row = count;
+  }
+  for (int tried = 0; tried < count; ++tried) {
+    row += next ? 1 : -1;
+    if (row < 0 || row >= count) {
+      row = next ? 0 : count - 1;
+      *wrapped = true;
+    }
+    const Message& message = (*messages)[static_cast<std::size_t>(row)];
+    if (!message.file.empty()) {
+      row_ = row;
+      viewer_.select(row);
+      return &message;
+    }
+  }
+  return nullptr;
+}
+
+void MessageWindow::beginAfterLast() {
+  const std::vector<Message>* messages = shownMessages();
+  row_ = messages != nullptr ? static_cast<int>(messages->size()) - 1 : -1;
+  viewer_.select(-1);
 }
 
 const std::vector<Message>* MessageWindow::shownMessages() {

@@ -19,6 +19,11 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   // A group has come or changed; the window catches up when the queue is empty.
   void storeChanged();
   void showGroup(unsigned int group);
+  // Selects the next or former message that names a file, and returns it; null without one.
+  // wrapped: it was sought from the other end on.
+  const Message* step(bool next, bool* wrapped);
+  // From here on the next message is the next that comes.
+  void beginAfterLast();
 
   const std::vector<Message>* shownMessages() override;
   void openMessage(const Message& message) override { open_(message); }
@@ -43,6 +48,7 @@ class MessageWindow final : public MdiPane, public MessageViewerHost {
   MessageViewer viewer_;
   HWND inner_ = nullptr;  // between this window and its controls
   unsigned int shown_ = MessageStore::kBuildGroup;
+  int row_ = -1;  // where the steps are, while the window is closed
   bool update_posted_ = false;
 };
 

@@ -6,8 +6,32 @@
 #include "workbench/windows/path_text.h"
 
 namespace workbench {
+namespace {
 
-bool DiskLister::list(const std::string& folder, std::vector<FolderEntry>* entries) {
+std::wstring wideText(const std::string& text) {
+  std::wstring result(text.size(), L'\0');
+  const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()),
+                                       result.data(), static_cast<int>(result.size()));
+  result.resize(static_cast<std::size_t>(size));
+  return result;
+}
+
+// Empty for a name that the code page does not have.
+std::string ansiName(const wchar_t* name) {
+  char text[2 * MAX_PATH] = {};
+  WideCharToMultiByte(CP_ACP, 0, name, -1, text, sizeof text, nullptr, nullptr);
+  return wideText(text) == name ? text : std::string();
+}
+
+void add(const std::string& name, DWORD attributes, std::vector<FolderEntry>* entries) {
+  if (!name.empty() && name != "." && name != "..") {
+    entries->push_back({name, (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                        (attributes & FILE_ATTRIBUTE_HIDDEN) != 0});
+  }
+}
+
+// Windows 95 has no wide calls.
+bool listAnsi(const std::string& folder, std::vector<FolderEntry>* entries) {
   WIN32_FIND_DATAA data = {};
   HANDLE found = FindFirstFileA(joinPath(folder, "*").c_str(), &data);
   if (found == INVALID_HANDLE_VALUE) {
@@ -15,14 +39,28 @@ bool DiskLister::list(const std::string& folder, std::vector<FolderEntry>* entri
   }
   const OwnedFind find(found);
   do {
-    FolderEntry entry;
-    entry.name = data.cFileName;
-    entry.folder = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    entry.hidden = (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-    if (entry.name != "." && entry.name != "..") {
-      entries->push_back(std::move(entry));
-    }
+    add(data.cFileName, data.dwFileAttributes, entries);
   } while (FindNextFileA(found, &data) != 0);
+  return true;
+}
+
+}  // namespace
+
+bool DiskLister::list(const std::string& folder, std::vector<FolderEntry>* entries) {
+  WIN32_FIND_DATAW data = {};
+  HANDLE found = FindFirstFileW(wideText(joinPath(folder, "*")).c_str(), &data);
+  if (found == INVALID_HANDLE_VALUE && GetLastError() == ERROR_CALL_NOT_IMPLEMENTED) {
+    return listAnsi(folder, entries);
+  }
+  if (found == INVALID_HANDLE_VALUE) {
+    return false;
+  }
+  const OwnedFind find(found);
+  do {
+    // A name beyond the code page goes by its short name.
+    const std::string name = ansiName(data.cFileName);
+    add(name.empty() ? ansiName(data.cAlternateFileName) : name, data.dwFileAttributes, entries);
+  } while (FindNextFileW(found, &data) != 0);
   return true;
 }
 

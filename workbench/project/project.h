@@ -67,6 +67,7 @@ class Project {
   // Whether it differs from what was loaded or saved.
   bool modified() const { return modified_; }
   void markSaved() { modified_ = false; }
+  void markUnsaved() { modified_ = true; }
   // Prepares a change; 0 without a project.
   unsigned int prepareOption(const std::string& name, const std::string& bytes);
   // Carries the change out; false for a change that is not there.

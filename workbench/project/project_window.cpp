@@ -15,6 +15,7 @@ namespace {
 constexpr std::size_t kMostShown = 260;  // characters of one node
 // What a notification of the tree set off: a command, or 0 for the context menu.
 constexpr UINT kLater = WM_APP + 1;
+constexpr int kScroll = -1;  // back to where it was
 
 // A folder of the disk and a file are shown by their last part.
 std::string shortName(const NodeInfo& node) {
@@ -47,7 +48,43 @@ bool ProjectWindow::createControls() {
   }
   SendMessageA(tree_, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
   fill();
+  restore();
   return true;
+}
+
+void ProjectWindow::remember() {
+  expanded_.clear();
+  for (const auto& [node, item] : items_) {
+    TVITEMA state = {};
+    state.mask = TVIF_STATE | TVIF_HANDLE;
+    state.hItem = item;
+    state.stateMask = TVIS_EXPANDED;
+    if (SendMessageA(tree_, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&state)) != 0 &&
+        (state.state & TVIS_EXPANDED) != 0) {
+      expanded_.push_back(node);
+    }
+  }
+  selected_ = selected();
+  first_visible_ = nodeOf(TreeView_GetFirstVisible(tree_));
+  left_ = true;
+}
+
+void ProjectWindow::restore() {
+  if (!left_) {
+    return;
+  }
+  for (const auto& [node, item] : items_) {
+    const bool open = std::find(expanded_.begin(), expanded_.end(), node) != expanded_.end();
+    TreeView_Expand(tree_, item, open ? TVE_EXPAND : TVE_COLLAPSE);
+  }
+  TreeView_SelectItem(tree_, itemOf(selected_));
+  // The tree has its size, and so its scroll place, only later.
+  later(kScroll, 0);
+}
+
+HTREEITEM ProjectWindow::itemOf(unsigned int node) const {
+  const auto found = items_.find(node);
+  return found != items_.end() ? found->second : nullptr;
 }
 
 void ProjectWindow::paneGone() {
@@ -65,6 +102,7 @@ void ProjectWindow::layOut(int width, int height) {
 }
 
 void ProjectWindow::projectChanged() {
+  left_ = false;
   if (tree_ != nullptr) {
     fill();
   }
@@ -153,13 +191,16 @@ void ProjectWindow::nodeChanged(unsigned int id) {
 }
 
 unsigned int ProjectWindow::selected() const {
-  HTREEITEM selected = tree_ != nullptr ? TreeView_GetSelection(tree_) : nullptr;
-  if (selected == nullptr) {
+  return nodeOf(tree_ != nullptr ? TreeView_GetSelection(tree_) : nullptr);
+}
+
+unsigned int ProjectWindow::nodeOf(HTREEITEM of) const {
+  if (of == nullptr) {
     return 0;
   }
   TVITEMA item = {};
   item.mask = TVIF_PARAM | TVIF_HANDLE;
-  item.hItem = selected;
+  item.hItem = of;
   SendMessageA(tree_, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
   return static_cast<unsigned int>(item.lParam);
 }
@@ -176,6 +217,10 @@ bool ProjectWindow::paneMessage(UINT message, WPARAM w, LPARAM l, LRESULT* resul
   if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(l)->hwndFrom == tree_) {
     *result = notified(*reinterpret_cast<const NMHDR*>(l));
     return true;
+  }
+  if (message == WM_CLOSE && tree_ != nullptr) {
+    remember();
+    return false;
   }
   if (message == kLater) {
     carryOut(static_cast<int>(w), l);
@@ -202,7 +247,11 @@ void ProjectWindow::later(int command, LPARAM detail) {
 }
 
 void ProjectWindow::carryOut(int command, LPARAM detail) {
-  if (command == 0) {
+  if (command == kScroll) {
+    if (const HTREEITEM first = itemOf(first_visible_)) {
+      SendMessageA(tree_, TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(first));
+    }
+  } else if (command == 0) {
     contextMenu({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
   } else if (command != CM_NODE_OPEN) {
     host_.projectWindowCommand(command);

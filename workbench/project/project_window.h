@@ -53,6 +53,11 @@ class ProjectWindow final : public MdiPane, public ProjectView {
 
  private:
   void fill();
+  // How the window was left when it closed, for as long as the project is the same.
+  void remember();
+  void restore();
+  HTREEITEM itemOf(unsigned int node) const;
+  unsigned int nodeOf(HTREEITEM item) const;
   HTREEITEM insert(HTREEITEM parent, const NodeInfo& node);
   void insertAll(HTREEITEM parent, const std::vector<unsigned int>& nodes);
   LRESULT notified(const NMHDR& header);
@@ -66,6 +71,10 @@ class ProjectWindow final : public MdiPane, public ProjectView {
   ProjectWindowHost& host_;
   HWND tree_ = nullptr;
   std::unordered_map<unsigned int, HTREEITEM> items_;  // by node
+  bool left_ = false;                                  // what follows was remembered
+  std::vector<unsigned int> expanded_;
+  unsigned int selected_ = 0;
+  unsigned int first_visible_ = 0;
 };
 
 }  // namespace workbench

@@ -1,6 +1,7 @@
 #include "workbench/script/driver.h"
 
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 #include "workbench/events/event_log.h"
@@ -153,6 +154,7 @@ void ScriptDriver::State::tryStep() {
     next = current;
     fail(step.reason());
   } else if (next == current + 1) {
+    next = std::exchange(stage->next_line, std::nullopt).value_or(next);
     nextLine();
   }
 }

@@ -1,5 +1,7 @@
 #include "workbench/script/event_history.h"
 
+#include <utility>
+
 namespace workbench {
 namespace {
 
@@ -90,9 +92,21 @@ bool EventQuery::matches(const Event& event) const {
 void EventHistory::add(const Event& event) {
   events_.push_back(event);
   if (events_.size() > kKept) {
-    events_.pop_front();
-    ++dropped_;
+    dropFirst();
   }
+}
+
+void EventHistory::forget(size_t before) {
+  while (dropped_ < before && !events_.empty()) {
+    dropFirst();
+  }
+}
+
+void EventHistory::dropFirst() {
+  Event& first = events_.front();
+  latest_.insert_or_assign(first.name(), std::move(first));
+  events_.pop_front();
+  ++dropped_;
 }
 
 const Event* EventHistory::latest(std::string_view name) const {
@@ -101,7 +115,8 @@ const Event* EventHistory::latest(std::string_view name) const {
       return &*event;
     }
   }
-  return nullptr;
+  auto gone = latest_.find(name);
+  return gone != latest_.end() ? &gone->second : nullptr;
 }
 
 size_t EventHistory::find(const EventQuery& query, size_t from) const {

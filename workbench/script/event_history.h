@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,21 +31,27 @@ struct EventQuery {
   bool matches(const Event& event) const;
 };
 
-// Positions count events from the start of the run and stay valid when the
-// oldest events are let go (the last 20000 are kept).
+// Positions count events from the start of the run and stay valid when events are
+// let go: those before a place that nothing looks behind any more, and all but the
+// last 20000. The most recent of each name stays.
 class EventHistory {
  public:
   void add(const Event& event);
   // The position that the next event will get.
   size_t end() const { return dropped_ + events_.size(); }
-  // The most recent event of that name, or null.
+  // Lets go what came before a position.
+  void forget(size_t before);
+  // The most recent event of that name, or null. Good until the next is added.
   const Event* latest(std::string_view name) const;
   // The position of the first match at or after one, or end().
   size_t find(const EventQuery& query, size_t from) const;
   const Event& at(size_t position) const { return events_[position - dropped_]; }
 
  private:
+  void dropFirst();
+
   std::deque<Event> events_;
+  std::map<std::string, Event, std::less<>> latest_;  // by name, of those let go
   size_t dropped_ = 0;
 };
 

@@ -34,6 +34,12 @@ std::string seen(const StepTry& step) {
   return latest == nullptr ? "no " + step.arg(0) + " has come" : "the latest was " + shown(*latest);
 }
 
+// What lies before it is no longer looked at, but for the latest of each name.
+void waitFrom(Stage& stage, size_t position) {
+  stage.wait_from = position;
+  stage.history.forget(position);
+}
+
 }  // namespace
 
 StepResult stepWait(StepTry& step) {
@@ -46,7 +52,7 @@ StepResult stepWait(StepTry& step) {
   if (found == stage.history.end()) {
     return step.again("waited for " + wording(query) + ": " + seen(step), kWaitMs);
   }
-  stage.wait_from = found + 1;
+  waitFrom(stage, found + 1);
   return StepResult::kDone;
 }
 
@@ -72,7 +78,7 @@ StepResult stepExpectNot(StepTry& step) {
 }
 
 StepResult stepMark(StepTry& step) {
-  step.stage.wait_from = step.stage.history.end();
+  waitFrom(step.stage, step.stage.history.end());
   return StepResult::kDone;
 }
 

@@ -41,12 +41,25 @@ HWND editorToClick(StepTry& step, const std::string& file) {
   return window;
 }
 
-// Whether a click would make a double click of the one before.
-bool wouldDouble(const Stage& stage, POINT screen) {
+bool atLastClick(const Stage& stage, POINT screen) {
   LONG dx = screen.x - stage.last_click.x, dy = screen.y - stage.last_click.y;
   return std::abs(dx) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
-         std::abs(dy) <= GetSystemMetrics(SM_CYDOUBLECLK) &&
-         GetTickCount() - stage.last_click_ms <= GetDoubleClickTime();
+         std::abs(dy) <= GetSystemMetrics(SM_CYDOUBLECLK);
+}
+
+// Whether a click would make a double click of the one before. The system stamps a click
+// when it takes it, by a clock that may be ahead of this one.
+bool wouldDouble(const Stage& stage, POINT screen) {
+  constexpr DWORD kClocksApartMs = 100;
+  return atLastClick(stage, screen) &&
+         GetTickCount() - stage.last_click_ms <= GetDoubleClickTime() + kClocksApartMs;
+}
+
+// Where to click a title button: in its middle, or beside it when the last click was
+// there, so that no time makes a double click of the two.
+POINT freshPlace(const Stage& stage, POINT middle) {
+  LONG aside = atLastClick(stage, middle) ? GetSystemMetrics(SM_CXDOUBLECLK) + 1 : 0;
+  return {middle.x + aside, middle.y};
 }
 
 // Moves the pointer on the first try and clicks once it has come to rest.
@@ -57,9 +70,9 @@ StepResult click(StepTry& step, POINT screen, MouseButton button) {
   if (!pointerRests(screen)) {
     return step.again("the pointer does not get to its place");
   }
+  clickMouse(screen, button);
   step.stage.last_click = screen;
   step.stage.last_click_ms = GetTickCount();
-  clickMouse(screen, button);
   return StepResult::kDone;
 }
 
@@ -111,7 +124,7 @@ StepResult stepClickTitle(StepTry& step) {
     return StepResult::kFailed;
   }
   POINT place = titleButtonCenter(editor, static_cast<int>(button), side);
-  return clickEditor(step, editor, place, MouseButton::kLeft);
+  return clickEditor(step, editor, freshPlace(step.stage, place), MouseButton::kLeft);
 }
 
 StepResult stepDoubleClickTitle(StepTry& step) {
@@ -123,24 +136,30 @@ StepResult stepDoubleClickTitle(StepTry& step) {
   if (editor == nullptr) {
     return StepResult::kFailed;
   }
-  POINT place = titleButtonCenter(editor, static_cast<int>(button), storedTitleSide());
+  POINT middle = titleButtonCenter(editor, static_cast<int>(button), storedTitleSide());
+  POINT place = freshPlace(step.stage, middle);
   StepResult result = clickEditor(step, editor, place, MouseButton::kLeft);
   if (result == StepResult::kDone) {
     clickMouse(place, MouseButton::kLeft);
+    step.stage.last_click_ms = GetTickCount();
   }
   return result;
 }
 
 StepResult stepExpectButtons(StepTry& step) {
   TitleSide side = TitleSide::kLeft;
-  HWND editor = sideOf(step, 1, &side) ? editorToClick(step, step.arg(0)) : nullptr;
-  if (editor == nullptr) {
+  if (!sideOf(step, 1, &side)) {
     return StepResult::kFailed;
+  }
+  // It is not brought forward, which would paint its caption.
+  EditorWindow* editor = step.stage.editing.findEditor(step.stage.paths.resolve(step.arg(0)));
+  if (editor == nullptr) {
+    return step.fail("no editor shows " + step.arg(0));
   }
   HWND bar = step.stage.window.addonBar();
   auto* addon =
       bar != nullptr ? reinterpret_cast<HINSTANCE>(GetWindowLongA(bar, GWL_HINSTANCE)) : nullptr;
-  return addon != nullptr && titleButtonsShow(editor, addon, side)
+  return addon != nullptr && titleButtonsShow(editor->window(), addon, side)
              ? StepResult::kDone
              : step.again("the caption of " + step.arg(0) + " does not show the buttons", 5000);
 }

@@ -216,8 +216,12 @@ StepResult stepChoose(StepTry& step) {
     return step.again("the open menu has no entry " + step.arg(0), 2000);
   }
   MenuItem item;
+  // A popup's entries are brought up to date as it opens.
+  const MenuPath now = standing(loop->root);
+  const bool open =
+      now.size() >= path.size() && std::equal(path.begin(), path.end() - 1, now.begin());
   if (readMenuItem(menuAt(loop->root, path, path.size() - 1), path.back(), &item) &&
-      !item.enabled) {
+      !item.enabled && open) {
     return step.fail("the menu entry " + step.arg(0) + " is disabled");
   }
   if (whole && item.popup != nullptr) {

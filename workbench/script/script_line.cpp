@@ -1,5 +1,7 @@
 #include "workbench/script/script_line.h"
 
+#include <charconv>
+
 #include "workbench/events/ansi.h"
 #include "workbench/script/verbs.h"
 
@@ -62,8 +64,29 @@ std::string checkVerb(const ScriptLine& line) {
   return {};
 }
 
+// Joins each "end-repeat" to the last "repeat" that is open (their places are kept).
+std::string pairUp(ScriptLine* line, const std::vector<ScriptLine>& before,
+                   std::vector<size_t>* open) {
+  if (line->verb == "repeat") {
+    open->push_back(before.size());
+  } else if (line->verb == "end-repeat") {
+    if (open->empty()) {
+      return "there is nothing to repeat";
+    }
+    const std::string& count = before[open->back()].args[0];
+    line->first_repeated = open->back() + 1;
+    open->pop_back();
+    auto [stop, fault] = std::from_chars(count.data(), count.data() + count.size(), line->rounds);
+    if (fault != std::errc() || *stop != '\0' || line->rounds < 1) {
+      return "nothing is done \"" + count + "\" times";
+    }
+  }
+  return {};
+}
+
 // Adds the verb of one line, if it has one. Returns what is wrong with it.
-std::string readLine(std::string_view text, int number, std::vector<ScriptLine>* lines) {
+std::string readLine(std::string_view text, int number, std::vector<ScriptLine>* lines,
+                     std::vector<size_t>* open) {
   std::vector<std::string> words;
   size_t first = text.find_first_not_of(" \t");
   if (first == std::string_view::npos || text[first] == '#') {
@@ -72,10 +95,15 @@ std::string readLine(std::string_view text, int number, std::vector<ScriptLine>*
   if (const char* fault = splitWords(text, &words)) {
     return fault;
   }
-  ScriptLine line{number, std::move(words.front()), {}};
+  ScriptLine line;
+  line.number = number;
+  line.verb = std::move(words.front());
   words.erase(words.begin());
   line.args = std::move(words);
   std::string fault = checkVerb(line);
+  if (fault.empty()) {
+    fault = pairUp(&line, *lines, open);
+  }
   if (fault.empty()) {
     lines->push_back(std::move(line));
   }
@@ -93,6 +121,7 @@ bool parseScript(std::string_view text, std::vector<ScriptLine>* lines, ScriptEr
     ansi = text;
   }
   std::string_view rest = ansi;
+  std::vector<size_t> open;
   for (int number = 1; !rest.empty(); ++number) {
     size_t end = rest.find('\n');
     std::string_view line = rest.substr(0, end);
@@ -100,11 +129,15 @@ bool parseScript(std::string_view text, std::vector<ScriptLine>* lines, ScriptEr
     if (!line.empty() && line.back() == '\r') {
       line.remove_suffix(1);
     }
-    std::string fault = readLine(line, number, lines);
+    std::string fault = readLine(line, number, lines, &open);
     if (!fault.empty()) {
       *error = {number, fault};
       return false;
     }
+  }
+  if (!open.empty()) {
+    *error = {(*lines)[open.back()].number, "this repeat has no end"};
+    return false;
   }
   return true;
 }

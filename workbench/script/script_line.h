@@ -5,6 +5,7 @@
 // empty or starts with "#" (after blanks) is left out. Lines end with CR LF or LF.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,9 @@ struct ScriptLine {
   int number = 0;  // from 1
   std::string verb;
   std::vector<std::string> args;  // Windows-1252
+  // Of an "end-repeat": which of the lines comes next, and how often it is to come.
+  size_t first_repeated = 0;
+  long rounds = 0;
 };
 
 struct ScriptError {
@@ -24,7 +28,8 @@ struct ScriptError {
 
 // A script is UTF-8, with or without its mark, or else Windows-1252. Returns
 // false, with the first fault in error, when a quote is left open, text follows
-// a closing quote, a verb is unknown or its arguments are too few or too many.
+// a closing quote, a verb is unknown, its arguments are too few or too many, or a
+// "repeat" has no end.
 bool parseScript(std::string_view text, std::vector<ScriptLine>* lines, ScriptError* error);
 
 }  // namespace workbench

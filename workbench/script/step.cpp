@@ -76,6 +76,8 @@ Step stepOf(Verb verb) {
       return stepEcho;
     case Verb::kEdit:
       return stepEdit;
+    case Verb::kEndRepeat:
+      return stepEndRepeat;
     case Verb::kEndSession:
       return stepEndSession;
     case Verb::kExpect:
@@ -96,6 +98,8 @@ Step stepOf(Verb verb) {
       return stepMark;
     case Verb::kMaximize:
       return stepMaximize;
+    case Verb::kMemory:
+      return stepMemory;
     case Verb::kMessageOpen:
       return stepMessageOpen;
     case Verb::kMinimize:
@@ -122,6 +126,8 @@ Step stepOf(Verb verb) {
       return stepRemoveNode;
     case Verb::kRenameNode:
       return stepRenameNode;
+    case Verb::kRepeat:
+      return stepRepeat;
     case Verb::kRestore:
       return stepRestore;
     case Verb::kRightClickTitle:

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <map>
+#include <optional>
 #include <string>
 
 #include "workbench/script/event_history.h"
@@ -38,10 +40,12 @@ struct Stage {
   EventLog& log;
   Observer& observer;
   EventHistory& history;
-  size_t wait_from = 0;     // where the next "wait" starts to look
-  unsigned chosen_in = 0;   // serial of the menu whose entry was chosen, 0 before
-  bool bar_opened = false;  // a menu bar was asked to open for this step
-  bool quit = false;        // the script has asked to end
+  size_t wait_from = 0;             // where the next "wait" starts to look
+  unsigned chosen_in = 0;           // serial of the menu whose entry was chosen, 0 before
+  bool bar_opened = false;          // a menu bar was asked to open for this step
+  bool quit = false;                // the script has asked to end
+  std::map<int, long> rounds;       // done of each "end-repeat", by its line's number
+  std::optional<size_t> next_line;  // where the script goes on, when not behind the step
   POINT last_click{-1000, -1000};
   DWORD last_click_ms = 0;   // as GetTickCount
   HWND elsewhere = nullptr;  // the window that takes the activation away

@@ -65,6 +65,10 @@ StepResult stepCheck(StepTry& step);
 StepResult stepSelectItem(StepTry& step);
 StepResult stepPress(StepTry& step);
 
+// repeat_steps.cpp: what is done several times
+StepResult stepRepeat(StepTry& step);
+StepResult stepEndRepeat(StepTry& step);
+
 // event_steps.cpp: what has happened
 StepResult stepWait(StepTry& step);
 StepResult stepExpect(StepTry& step);
@@ -76,11 +80,12 @@ StepResult stepQuit(StepTry& step);
 // dump_steps.cpp: what is there now
 StepResult stepDump(StepTry& step);
 
-// system_steps.cpp: settings, pictures, handles
+// system_steps.cpp: settings, pictures, handles, memory
 StepResult stepRegistrySet(StepTry& step);
 StepResult stepRegistryDelete(StepTry& step);
 StepResult stepExpectRegistry(StepTry& step);
 StepResult stepScreenshot(StepTry& step);
 StepResult stepHandles(StepTry& step);
+StepResult stepMemory(StepTry& step);
 
 }  // namespace workbench

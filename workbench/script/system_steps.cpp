@@ -1,6 +1,7 @@
 #include "workbench/events/event_log.h"
 #include "workbench/paths.h"
 #include "workbench/script/handle_count.h"
+#include "workbench/script/memory_count.h"
 #include "workbench/script/screenshot.h"
 #include "workbench/script/settings.h"
 #include "workbench/script/steps.h"
@@ -32,6 +33,16 @@ StepResult stepScreenshot(StepTry& step) {
   std::string path = step.stage.paths.resolve(step.arg(0));
   return saveScreenshot(path) ? StepResult::kDone
                               : step.fail("no screenshot could be put in " + path);
+}
+
+StepResult stepMemory(StepTry& step) {
+  MemoryCount count = countMemory();
+  step.stage.log.emit(Event("memory")
+                          .number("bytes", count.bytes)
+                          .number("blocks", count.blocks)
+                          .number("private", count.private_kilobytes)
+                          .number("working-set", count.working_set_kilobytes));
+  return StepResult::kDone;
 }
 
 StepResult stepHandles(StepTry& step) {

@@ -101,12 +101,13 @@ IIdeString* STDMETHODCALLTYPE EditorService::GetLine(int line) {
   if (child == nullptr || line < 1 || line > child->openFile().document.lineCount()) {
     return nullptr;
   }
-  return handOut(context_.live, child->openFile().document.line(line - 1));
+  const Document& document = child->openFile().document;
+  return handOut(context_.live, toAnsi(document.line(line - 1), document.encoding()));
 }
 
 void STDMETHODCALLTYPE EditorService::InsertText(IIdeString* text) {
   if (EditorChild* child = current()) {
-    child->textView().insertBefore(textOf(text));
+    child->textView().insertBefore(fromAnsi(textOf(text), child->openFile().document.encoding()));
   }
 }
 

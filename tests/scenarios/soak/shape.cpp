@@ -1,0 +1,6 @@
+#include "shape.h"
+
+int area(int side)
+{
+  return side * side;
+}

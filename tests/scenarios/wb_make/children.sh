@@ -1,0 +1,4 @@
+echo $$ >one.pid
+sleep 1000 &
+echo $! >two.pid
+wait
