@@ -62,6 +62,25 @@ struct Hooked {
       keybd_event(key, static_cast<BYTE>(MapVirtualKeyA(key, 0)), KEYEVENTF_KEYUP, 0);
     }
   }
+  // Each click lies apart from the one before, so that no two make a double click.
+  // The display echoes a move late and would put the pointer back to an earlier
+  // place: the click waits for the pointer to arrive, and sets it once more.
+  void click(HWND window, DWORD down, DWORD up) {
+    RECT frame = {};
+    GetWindowRect(window, &frame);
+    const POINT place = {frame.left + 100 + 20 * (clicks_++ % 6), frame.top + 8};
+    const LPARAM wanted = MAKELPARAM(place.x, place.y);
+    const DWORD deadline = GetTickCount() + 10000;
+    windows.last_title_move = 0;
+    SetCursorPos(place.x, place.y);
+    while (windows.last_title_move != wanted && GetTickCount() < deadline) {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 1000, QS_ALLINPUT);
+      windows.drain();
+    }
+    SetCursorPos(place.x, place.y);
+    mouse_event(down, 0, 0, 0, 0);
+    mouse_event(up, 0, 0, 0, 0);
+  }
 
  private:
   static constexpr BYTE kEndOfInput = VK_F13;
@@ -74,6 +93,7 @@ struct Hooked {
     return taken;
   }
 
+  int clicks_ = 0;
   bool end_seen_ = false;
 };
 
@@ -86,6 +106,23 @@ LRESULT CALLBACK captureProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 }
 
 }  // namespace
+
+TEST_CASE("a title is not clicked while a popup is open or its editor is disabled") {
+  Hooked hooked;
+  const HWND editor = hooked.windows.editor("C:\\SRC\\A.CPP");
+  hooked.afterInput();
+  const auto clicked = [&] {
+    hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+    const std::vector<int> ids = hooked.afterInput();
+    return std::count(ids.begin(), ids.end(), 197);
+  };
+  CHECK(clicked() == 1);
+  hooked.hooks.suspend(true);
+  CHECK(clicked() == 0);
+  hooked.hooks.suspend(false);
+  EnableWindow(editor, FALSE);
+  CHECK(clicked() == 0);
+}
 
 TEST_CASE("the completion key is for the text of an editor that can be used") {
   Hooked hooked;

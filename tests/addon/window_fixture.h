@@ -63,6 +63,8 @@ class WindowFixture {
         last_lparam = message.lParam;
       } else if (message.message == WM_KEYUP) {
         saw_key_up = message.wParam;
+      } else if (message.message == WM_NCMOUSEMOVE) {
+        last_title_move = message.lParam;
       }
       DispatchMessageA(&message);
     }
@@ -75,4 +77,5 @@ class WindowFixture {
   HWND bar;
   LPARAM last_lparam = 0;
   WPARAM saw_key_up = 0;
+  LPARAM last_title_move = 0;
 };

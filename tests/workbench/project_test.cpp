@@ -131,6 +131,42 @@ TEST_CASE("a project is a tree of the folder's sources with its paths") {
   CHECK_FALSE(project.modified());
 }
 
+TEST_CASE("nodes come and go with their children") {
+  Project project;
+  project.load(sample());
+  const unsigned int source = project.find("C:\\P\\src");
+  const unsigned int file = project.find("C:\\P\\src\\main.cpp");
+  const std::size_t count = project.nodes().size();
+  const unsigned int added = project.add(source, "C:\\P\\new.cpp", ".cpp");
+  CHECK(project.nodes().size() == count + 1);
+  CHECK(project.nextSibling(project.find("C:\\P\\src\\deep")) == added);
+  CHECK(project.add(9999, "x", ".x") == 0);
+  CHECK(project.remove(source));
+  CHECK(project.nodes().size() == count - 4);
+  CHECK_FALSE(project.remove(source));
+  CHECK(project.node(file) == nullptr);
+  CHECK(project.add(0, "C:\\P\\other", "Target") > added);
+}
+
+TEST_CASE("options hold bytes, change at commit, and go with their project") {
+  const std::string bytes("a\0b", 3);
+  Project project;
+  CHECK(project.prepareOption("N", bytes) == 0);
+  project.load(sample());
+  const unsigned int change = project.prepareOption("N", bytes);
+  CHECK(project.option("N") == nullptr);
+  CHECK_FALSE(project.modified());
+  CHECK(project.commitOption(change));
+  CHECK_FALSE(project.commitOption(change));
+  REQUIRE(project.option("N") != nullptr);
+  CHECK(*project.option("N") == bytes);
+  CHECK(project.option("n") == nullptr);
+  const unsigned int lost = project.prepareOption("M", bytes);
+  project.load(sample());
+  CHECK(project.option("N") == nullptr);
+  CHECK_FALSE(project.commitOption(lost));
+}
+
 TEST_CASE("paths") {
   const struct {
     std::string_view path;
