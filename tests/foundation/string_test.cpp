@@ -31,6 +31,13 @@ TEST_CASE("a string holds what it is made of, assigned and appended") {
   CHECK(copy == "abc7-x");
 }
 
+TEST_CASE("a text shortened through its pointer is continued where it ends") {
+  String text("abcdef");
+  static_cast<char*>(text)[2] = '\0';
+  text += "xy";
+  CHECK(text == "abxy");
+}
+
 TEST_CASE("a string is cut at 65535 characters") {
   const std::string longer(70000, 'x');
   String text(longer.c_str());
