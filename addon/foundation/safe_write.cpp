@@ -1,16 +1,34 @@
 #include "addon/foundation/safe_write.h"
 
+#include <string>
+
 #include "addon/foundation/path.h"
 
 namespace kesto {
 
 namespace {
 
-String besidePath(std::string_view path, const char* ending) {
+// The old text of the first of two files while the second is put: unlike oldTextPath's file
+// it outlives the steps of a system without a replacing move.
+constexpr const char* kKeptEnding = ".kesto-was";
+
+// Where the system has no room for a longer name, the file's own with another last character.
+String besidePath(std::string_view path, const char* ending, char mark) {
+  const std::string_view file = fileNamePart(path);
+  const std::string_view directory = path.substr(0, path.size() - file.size());
   String name(".");
-  name += fileNamePart(path);
+  name += file;
   name += ending;
-  return joinPath(path.substr(0, path.size() - fileNamePart(path).size()), name.view());
+  if (!file.empty() && directory.size() + name.view().size() > kPathLimit) {
+    std::string short_name(file);
+    short_name.back() = mark != file.back() ? mark : '_';
+    name = String(short_name);
+  }
+  return joinPath(directory, name.view());
+}
+
+String keptPath(std::string_view path) {
+  return besidePath(path, kKeptEnding, '$');
 }
 
 }  // namespace
@@ -18,11 +36,11 @@ String besidePath(std::string_view path, const char* ending) {
 // The endings are none of a source's in their first three letters either, which is what
 // the short names of old systems keep.
 String newTextPath(std::string_view path) {
-  return besidePath(path, ".kesto-new");
+  return besidePath(path, ".kesto-new", '~');
 }
 
 String oldTextPath(std::string_view path) {
-  return besidePath(path, ".kesto-old");
+  return besidePath(path, ".kesto-old", '!');
 }
 
 SafeFile::SafeFile(FileSystem& files, std::string_view path)
@@ -64,18 +82,18 @@ bool SafeFile::put() {
 
 bool SafeFile::keepOld() {
   had_old_ = files_.status(path_).has_value();
-  return !had_old_ || files_.copy(path_, oldTextPath(path_.view()));
+  return !had_old_ || files_.copy(path_, keptPath(path_.view()));
 }
 
 void SafeFile::dropOld() {
   if (had_old_) {
-    files_.remove(oldTextPath(path_.view()));
+    files_.remove(keptPath(path_.view()));
   }
 }
 
 void SafeFile::restoreOld() {
   if (had_old_) {
-    files_.replace(oldTextPath(path_.view()), path_);
+    files_.replace(keptPath(path_.view()), path_);
   } else {
     files_.remove(path_);
   }

@@ -1,5 +1,6 @@
 #include "addon/html/site_writer.h"
 
+#include <optional>
 #include <utility>
 
 #include "addon/foundation/safe_write.h"
@@ -38,10 +39,18 @@ SiteWriter::SiteWriter(const htProjet& projet, std::string directory, FileSystem
 
 bool SiteWriter::write() {
   fresh_ = files_.makeDirectory(directory_.c_str());
-  files_.makeDirectory(growing_.c_str());
+  if (!files_.makeDirectory(growing_.c_str()) && !isDirectory(growing_)) {
+    // Something else is in its place, or its path would be too long.
+    growing_page_ = directory_ + "\\.page";
+  }
   const bool whole = writePages();
   files_.removeDirectory(growing_.c_str());
   return whole;
+}
+
+bool SiteWriter::isDirectory(const std::string& path) const {
+  const std::optional<FileStatus> status = files_.status(path.c_str());
+  return status && status->is_directory;
 }
 
 bool SiteWriter::writePages() {

@@ -18,6 +18,7 @@ class SiteWriter {
   bool write();
 
  private:
+  bool isDirectory(const std::string& path) const;
   bool writePages();
   bool writeSymbols(const Ensemble<htSymbol>& symbols);
   void writePage();

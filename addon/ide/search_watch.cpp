@@ -1,5 +1,6 @@
 #include "addon/ide/search_watch.h"
 
+#include "addon/ide/access.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/status_line.h"
 
@@ -61,11 +62,19 @@ bool SearchWatch::goOn(int directories, int files) {
   }
   if (now - begun_ >= kShort && now - told_ >= kTellPeriod) {
     told_ = now;
+    has_told_ = true;
     const std::string shown = files > 0 ? counted(files, "file") + " in " : std::string();
     showStatus((text_ + ' ' + shown + counted(directories, "folder") + ", Esc stops").c_str());
   }
   paintWindows();
-  return true;
+  stopped_ = !acquireIde();
+  return !stopped_;
+}
+
+void SearchWatch::finished(const char* text) const {
+  if (has_told_) {
+    showStatus(text);
+  }
 }
 
 }  // namespace kesto

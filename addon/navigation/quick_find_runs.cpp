@@ -155,7 +155,9 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
   showStatus(text.c_str());
   SearchWatch watch(text);
   collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
-  if (watch.stopped()) {
+  if (!watch.stopped()) {
+    watch.finished(text.c_str());
+  } else if (quickFind == this) {
     showStatus(stoppedText(text, hits.count()).c_str());
   }
   return !watch.stopped();
@@ -163,6 +165,10 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
 
 bool QuickFind::findMethods(const std::string& name) {
   const bool whole = collect(Search::kMethod, name, method_results_);
+  // The session may have ended in the middle.
+  if (quickFind != this) {
+    return true;
+  }
   const int found = method_results_.count();
   if (found > 0) {
     // The only one so far need not be the one that was sought.
@@ -175,6 +181,9 @@ bool QuickFind::findMethods(const std::string& name) {
 
 bool QuickFind::crossReference(const std::string& name) {
   const bool whole = collect(Search::kCross, name, cross_results_);
+  if (quickFind != this) {
+    return true;
+  }
   if (cross_results_.count() == 0) {
     if (!whole) {
       return true;

@@ -1,5 +1,6 @@
 #include "addon/rcgen/rc_generator.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -44,7 +45,14 @@ void RcGenerator::run(std::string_view project_directory) {
   SearchWatch watch(kText);
   const GeneratorSwitches switches = {rcgenProjectOptions.dialog_classes.value != 0,
                                       rcgenProjectOptions.version_stamping.value != 0};
-  runGenerator({lister, files, notices}, project_directory, switches, build_number_, &watch);
+  std::int32_t build_number = build_number_;
+  runGenerator({lister, files, notices}, project_directory, switches, build_number, &watch);
+  // The session may have ended in the middle.
+  if (rcGenerator != this) {
+    return;
+  }
+  build_number_ = build_number;
+  watch.finished(" ");
   notices.show();
   if (watch.stopped()) {
     showStatus((std::string(kText) + " stopped").c_str());

@@ -133,10 +133,13 @@ class Stamping {
     std::int32_t build_number = build_number_;
     SafeFile stamped(files_, file.view());
     stamped.write(stampVersion(first ? text : first_text, build_number));
-    const bool put = stamped.finish() &&
-                     (first ? putFirst(stamped, file, backup)
-                            : keepReplaced(directory, file, text, first_text) && stamped.put());
-    if (put) {
+    if (!stamped.finish()) {
+      return;
+    }
+    const bool foreign = !first && holdsStatement(text) && !holdsStatement(first_text);
+    if (first     ? putFirst(stamped, file, backup)
+        : foreign ? putKeeping(stamped, file, joinPath(directory.view(), "VERSION.OLD"))
+                  : stamped.put()) {
       build_number_ = build_number;
     }
   }
@@ -174,23 +177,31 @@ class Stamping {
   }
 
   // A backup from elsewhere: what it replaces is nowhere else.
-  bool keepReplaced(const String& directory, const String& file, std::string_view text,
-                    std::string_view first_text) {
-    if (!holdsStatement(text) || holdsStatement(first_text)) {
-      return true;
-    }
-    const String old = joinPath(directory.view(), "VERSION.OLD");
+  bool putKeeping(SafeFile& stamped, const String& file, const String& old) {
     const bool kept_before = files_.status(old).has_value();
-    const String copy = newTextPath(old.view());
-    if (!kept_before &&
-        !(files_.copy(file, copy) && files_.flush(copy) && files_.rename(copy, old))) {
-      files_.remove(copy);
+    if (!kept_before && !keep(file, old)) {
+      return false;
+    }
+    if (!stamped.put()) {
+      // The text may be another by the time it is replaced.
+      if (!kept_before) {
+        files_.remove(old);
+      }
       return false;
     }
     host_.notices.notice(
         std::string(file.view()) + " is made of a VERSION.BAK without a FILEVERSION line; " +
         (kept_before ? "VERSION.OLD keeps an earlier text" : "VERSION.OLD keeps what it held"));
     return true;
+  }
+
+  bool keep(const String& file, const String& old) {
+    const String copy = newTextPath(old.view());
+    if (files_.copy(file, copy) && files_.flush(copy) && files_.rename(copy, old)) {
+      return true;
+    }
+    files_.remove(copy);
+    return false;
   }
 
   const GeneratorHost& host_;

@@ -9,6 +9,9 @@ int live_references = 0;
 
 int STDMETHODCALLTYPE Stream::Open(IIdeString*, int mode) {
   source_.modes.push_back(mode);
+  if (source_.opened != nullptr) {
+    source_.opened();
+  }
   position_ = 0;
   text_ = mode == kStreamFile ? source_.disk : source_.in_editor ? source_.buffer : source_.disk;
   return 1;

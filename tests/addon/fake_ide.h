@@ -254,13 +254,17 @@ class Options : public Counted<IOptionsService> {
 
 class Messages : public Counted<IMessageService> {
  public:
+  std::vector<std::string> log;  // texts
   MessageGroup STDMETHODCALLTYPE CreateGroup(IIdeString*, IIdeString*) override { return 3; }
-  MessageHandle STDMETHODCALLTYPE AddMessage(MessageGroup, MessageHandle, IIdeString*) override {
+  MessageHandle STDMETHODCALLTYPE AddMessage(MessageGroup, MessageHandle,
+                                             IIdeString* text) override {
+    log.emplace_back(text->GetText());
     return 41;
   }
-  MessageHandle STDMETHODCALLTYPE AddLocatedMessage(MessageGroup, MessageHandle, IIdeString*,
-                                                    IIdeString*, int, short, int) override {
-    return 42;
+  MessageHandle STDMETHODCALLTYPE AddLocatedMessage(MessageGroup group, MessageHandle parent,
+                                                    IIdeString* text, IIdeString*, int, short,
+                                                    int) override {
+    return AddMessage(group, parent, text);
   }
 };
 
@@ -271,7 +275,8 @@ struct StreamSource {
   std::string disk;    // the file's
   bool in_editor = false;
   int negative_reads = 0;
-  std::vector<int> modes;  // as opened
+  std::vector<int> modes;      // as opened
+  void (*opened)() = nullptr;  // called meanwhile
 };
 
 class Stream : public Counted<IFileStream> {

@@ -2,14 +2,17 @@
 // tree on the disk, the message window.
 #include <windows.h>
 
+#include <algorithm>
 #include <fstream>
 #include <string>
 #include <vector>
 
 #include "addon/foundation/directory_listing.h"
+#include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
 #include "addon/navigation/name_search.h"
+#include "addon/navigation/quick_find.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
 
@@ -207,6 +210,76 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
   // Without the message window nothing is written.
   ide.services.erase(ideapi::kMessageService.Data1);
   CrossReferenceMessages().write("call", Tableau<QuickResu>());
+}
+
+namespace {
+
+// Takes the add-on away at the end of the session.
+LRESULT CALLBACK endingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_ENDSESSION) {
+    delete quickFind;
+    quickFind = nullptr;
+    releaseIde();
+  }
+  return DefWindowProcA(window, message, wParam, lParam);
+}
+
+DWORD WINAPI endSession(void* window) {
+  SendMessageA(static_cast<HWND>(window), WM_ENDSESSION, TRUE, 0);
+  return 0;
+}
+
+// Reads on until the message has come, and the search looks at messages again.
+void awaitEnd() {
+  constexpr DWORD kLookPeriod = 50;
+  const DWORD begun = GetTickCount();
+  while (HIWORD(GetQueueStatus(QS_SENDMESSAGE)) == 0 || GetTickCount() - begun <= kLookPeriod) {
+  }
+}
+
+}  // namespace
+
+TEST_CASE("a search ends with the session, and uses nothing after it") {
+  BarSession session;
+  session.create();
+  session.ide.stream.disk = "int f()\n{\n  call();\n}\n";
+  session.ide.stream.opened = awaitEnd;
+  const Folder folder;
+  session.openProject(folder.path() + "\\p.ide");
+  const auto texts = session.ide.status_line.texts.size();
+  SetWindowLongPtrA(session.windows.bar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(endingProcedure));
+  quickFind = new QuickFind(session.windows.bar);
+  const HANDLE thread = CreateThread(nullptr, 0, endSession, session.windows.bar, 0, nullptr);
+  CHECK(quickFind->crossReference("call"));
+  CHECK(quickFind == nullptr);
+  CHECK(session.ide.stream.modes.size() == 1);
+  CHECK(session.ide.messages.log.empty());
+  CHECK(session.ide.status_line.texts.size() == texts + 1);
+  WaitForSingleObject(thread, INFINITE);
+  CloseHandle(thread);
+}
+
+TEST_CASE("how far a search was is not told any more when it is over") {
+  BarSession session;
+  session.create();
+  session.ide.stream.disk = "int f()\n{\n  call();\n}\n";
+  // As long as a search may take that tells nothing.
+  session.ide.stream.opened = [] {
+    for (const DWORD begun = GetTickCount(); GetTickCount() - begun <= 1000;) {
+    }
+  };
+  const Folder folder;
+  session.openProject(folder.path() + "\\p.ide");
+  QuickFind searching(session.windows.bar);
+  quickFind = &searching;
+  CHECK(searching.crossReference("call"));
+  quickFind = nullptr;
+  const auto& texts = session.ide.status_line.texts;
+  const auto told =
+      std::find(texts.begin(), texts.end(), "Searching call ... 1 file in 1 folder, Esc stops");
+  REQUIRE(texts.end() - told > 2);
+  CHECK(texts.end()[-2] == "Searching call ...");
+  CHECK(texts.back() == "References found, see Message Window");
 }
 
 }  // namespace kesto

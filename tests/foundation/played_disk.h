@@ -21,7 +21,7 @@ class PlayedDisk : public FileSystem {
 
   std::map<std::string, File> files;
   std::set<std::string> directories;
-  std::string locked;  // the part of a path where no file can be put
+  std::string locked;  // the part of a path where no file and no directory can be put
   std::int64_t now = 100;
   std::string done;   // "read PATH", "append PATH", "rename PATH", "put PATH"; a line each
   int changes = 0;    // steps that change something, so far
@@ -87,7 +87,9 @@ class PlayedDisk : public FileSystem {
       files.erase(path);
     }
   }
-  bool makeDirectory(const char* path) override { return directories.insert(path).second; }
+  bool makeDirectory(const char* path) override {
+    return !isLocked(path) && directories.insert(path).second;
+  }
   void removeDirectory(const char* path) override { directories.erase(path); }
 
  protected:

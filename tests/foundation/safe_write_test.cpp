@@ -2,6 +2,7 @@
 // tested with these; on Windows the real file system has its turn as well.
 #include "addon/foundation/safe_write.h"
 
+#include <map>
 #include <string>
 
 #include "addon/foundation/text_file.h"
@@ -20,6 +21,12 @@ TEST_CASE("what grows beside a file is in its folder, and no source by its name"
   CHECK(newTextPath("C:\\P\\rc.cpp").view() == "C:\\P\\.rc.cpp.kesto-new");
   CHECK(oldTextPath("a/b").view() == "a/.b.kesto-old");
   CHECK(newTextPath("b").view() == ".b.kesto-new");
+  // 259 characters are the most that the system takes.
+  const std::string folder = "C:\\" + std::string(242, 'd') + "\\";
+  CHECK(newTextPath(folder + "ab").view() == folder + ".ab.kesto-new");
+  CHECK(newTextPath(folder + "abc").view() == folder + "ab~");
+  CHECK(oldTextPath(folder + "abc").view() == folder + "ab!");
+  CHECK(newTextPath(folder + "ab~").view() == folder + "ab_");
 }
 
 TEST_CASE("where no file replaces another, the old one is there until the new one is") {
@@ -47,6 +54,33 @@ TEST_CASE("where no file replaces another, the old one is there until the new on
       }
     }
   }
+}
+
+TEST_CASE("two files are both new or both old, where none replaces another too") {
+  class OldDisk : public PlayedDisk {
+   public:
+    bool replace(const char* path, const char* new_path) override {
+      return replaceInSteps(*this, path, new_path);
+    }
+  };
+  int failed = 0;
+  for (bool put = false; !put;) {
+    OldDisk disk;
+    disk.put("a", "old");
+    disk.put("b", "old");
+    disk.failing = ++failed;
+    {
+      SafeFile first(disk, "a");
+      SafeFile second(disk, "b");
+      first.write("new");
+      second.write("new");
+      put = putBoth(first, second);
+    }
+    CAPTURE(failed);
+    const std::string text = put ? "new" : "old";
+    CHECK(disk.texts() == std::map<std::string, std::string>{{"a", text}, {"b", text}});
+  }
+  CHECK(failed > 8);
 }
 
 #ifdef _WIN32

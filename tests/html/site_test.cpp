@@ -134,6 +134,14 @@ TEST_CASE("a page is as it was until it is whole") {
       CHECK(site.directories == whole.directories);
     }
   }
+
+  // Where no directory can be made for them, pages grow beside the others.
+  PlayedSite full;
+  full.locked = "\\.kesto-new";
+  project(full);
+  CHECK(generate(full));
+  CHECK(full.last_written == 8);
+  CHECK(full.texts() == pages);
 }
 
 TEST_CASE("a class without documentation says so unless its methods speak for it") {

@@ -12,6 +12,7 @@ using workbench::Document;
 using workbench::DocumentChange;
 using workbench::DocumentListener;
 using workbench::Place;
+using workbench::TextSearch;
 
 namespace {
 
@@ -218,26 +219,73 @@ TEST_CASE("listeners learn where the text changed") {
 TEST_CASE("find") {
   const Document document = documentOf("Alpha beta\nbeta ALPHA beta\n");
   const struct {
-    std::string_view what;
+    std::string what;
     bool match_case;
     bool backward;
     Place start;
     bool found;
     Place place;
+    bool whole_word = false;
   } cases[] = {
-      {"alpha", false, false, {0, 0}, true, {0, 0}},  {"alpha", false, false, {0, 1}, true, {1, 5}},
-      {"alpha", true, false, {0, 0}, false, {}},      {"beta", true, false, {0, 6}, true, {0, 6}},
-      {"beta", true, false, {1, 12}, false, {}},      {"beta", true, true, {2, 0}, true, {1, 11}},
-      {"beta", true, true, {1, 11}, true, {1, 0}},    {"beta", true, true, {0, 9}, false, {}},
-      {"beta\nbeta", true, false, {0, 0}, false, {}}, {"", true, false, {0, 0}, false, {}},
+      {"alpha", false, false, {0, 0}, true, {0, 0}},
+      {"alpha", false, false, {0, 1}, true, {1, 5}},
+      {"alpha", true, false, {0, 0}, false, {}},
+      {"beta", true, false, {0, 6}, true, {0, 6}},
+      {"beta", true, false, {1, 12}, false, {}},
+      {"beta", true, true, {2, 0}, true, {1, 11}},
+      {"beta", true, true, {1, 11}, true, {1, 0}},
+      {"beta", true, true, {0, 9}, false, {}},
+      {"beta\nbeta", true, false, {0, 0}, false, {}},
+      {"", true, false, {0, 0}, false, {}},
+      {"bet", true, false, {0, 0}, true, {0, 6}},
+      {"bet", true, false, {0, 0}, false, {}, true},
+      {"beta", true, false, {0, 0}, true, {0, 6}, true},
+      {"a b", true, false, {0, 0}, true, {0, 4}},
+      {"a b", true, false, {0, 0}, false, {}, true},
+      {"ta ", true, true, {2, 0}, true, {1, 2}},
+      {"ta ", true, true, {2, 0}, false, {}, true},
+      {" beta", true, true, {2, 0}, true, {1, 10}, true},
   };
   for (const auto& each : cases) {
     CAPTURE(each.what);
     CAPTURE(each.start.column);
+    CAPTURE(each.whole_word);
     Place place;
-    CHECK(document.find(each.what, each.match_case, each.backward, each.start, &place) ==
-          each.found);
+    CHECK(document.find({each.what, each.match_case, each.whole_word}, each.backward, each.start,
+                        &place) == each.found);
     CHECK((!each.found || place == each.place));
+  }
+}
+
+TEST_CASE("replacing all between two places is one step of undo") {
+  const std::string before = "aa ab\nA aaa\nba a\n";
+  const struct {
+    TextSearch search;
+    std::string with;
+    Place from, to;
+    std::string after;
+    int count;
+    Place end;  // where `to` stands then
+  } cases[] = {
+      {{"a", true, false}, "xy", {0, 0}, {3, 0}, "xyxy xyb\nA xyxyxy\nbxy xy\n", 8, {3, 0}},
+      {{"a", false, true}, "", {0, 0}, {3, 0}, "aa ab\n aaa\nba \n", 2, {3, 0}},
+      // A hit that reaches out of the part stays, and so does what was put in.
+      {{"aa", true, false}, "aaa", {0, 1}, {1, 4}, "aa ab\nA aaaa\nba a\n", 1, {1, 5}},
+      {{"a", true, false}, "", {0, 0}, {0, 4}, " b\nA aaa\nba a\n", 3, {0, 1}},
+      {{"none", true, false}, "x", {0, 0}, {3, 0}, before, 0, {3, 0}},
+      {{"a", true, false}, "x\ny", {0, 0}, {3, 0}, before, 0, {3, 0}},
+  };
+  for (const auto& each : cases) {
+    CAPTURE(each.after);
+    Document document = documentOf(before);
+    Place to = each.to;
+    CHECK(document.replaceAll(each.search, each.with, each.from, &to) == each.count);
+    CHECK(document.bytes() == each.after);
+    CHECK(to == each.end);
+    Place caret;
+    CHECK(document.undo(&caret) == (each.count > 0));
+    CHECK(document.bytes() == before);
+    CHECK_FALSE(document.canUndo());
   }
 }
 

@@ -137,9 +137,16 @@ TEST_CASE_FIXTURE(OpenFolder,
   CHECK(*program.last("message")->find("group") == "Uses");
   CHECK(*program.last("message")->find("kind") == "5");
   deliverPosted();
-  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);  // the builds' group is shown
-  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  // A message at the top level raises its group and is selected.
   CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 10001);
+  CHECK(SendMessageA(viewer, LB_GETCURSEL, 0, 0) == 0);
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
+  service->AddLocatedMessage(group, head, name.get(), file.get(), 2, 3, 5);
+  deliverPosted();
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
+  SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
+  CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 10002);
 
   SendMessageA(viewer, LB_SETCURSEL, 9999, 0);
   SendMessageA(viewer, WM_KEYDOWN, VK_RETURN, 0);
@@ -153,7 +160,7 @@ TEST_CASE_FIXTURE(OpenFolder,
 
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
   SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
-  CHECK(application.messages().group(group)->messages.size() == 10001);
+  CHECK(application.messages().group(group)->messages.size() == 10002);
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
   SendMessageA(viewer, WM_COMMAND, ideapi::kCommandClearMessages, 0);
   CHECK(application.messages().group(group)->messages.empty());

@@ -160,6 +160,7 @@ TEST_CASE_FIXTURE(OpenFolder, "an editor is found, moved, read and changed in on
   editor->ShowLine(2);
   editor->EndTransaction();
   CHECK(*program.last("editor")->find("line") == "1");
+  CHECK(program.application.findEditor("a.cpp")->view().marked == 1);
 
   EditorWindow* window = program.application.findEditor("a.cpp");
   CHECK(window->text() == "first\r\nsecond new word\r\nthird\r\nnew ");

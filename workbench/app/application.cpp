@@ -1,5 +1,6 @@
 #include "workbench/app/application.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "workbench/app/settings_store.h"
@@ -46,6 +47,9 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   keep_settings_ = keep_settings;
   if (keep_settings_) {
     loadSettings(&settings_);
+    const std::vector<std::string> recent = loadRecent();
+    std::for_each(recent.rbegin(), recent.rend(),
+                  [this](const std::string& path) { recent_.add(path); });
   }
   if (!TextWindow::registerClass(instance) || !EditorChild::registerClass(instance) ||
       !MessageWindow::registerClasses(instance) || !frame_.create(instance) ||
@@ -55,9 +59,13 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   }
   editors_.attach(frame_.window(), frame_.mdiClient(), instance);
   editors_.setChangeListener([this] { showEditorState(); });
+  editors_.setEditListener([this] { frame_.statusBar().passText(); });
+  frame_.statusBar().setLeftListener(
+      [this](const std::string& text) { events_.emit(Event("status-left").text("text", text)); });
   editors_.setStatusListener([this](const std::string& text) { setStatus(text); });
   root_.tools().setMenuListener([this] { showTools(); });
   showTools();
+  showRecent();
   return true;
 }
 
@@ -70,6 +78,43 @@ void Application::showTools() {
     items.push_back({CM_FIRST_TOOL + static_cast<int>(tool.handle), tool.text});
   }
   frame_.setTools(items);
+}
+
+void Application::noteRecent(const std::string& path) {
+  if (recent_.add(path)) {
+    showRecent();
+  }
+}
+
+void Application::openRecent(std::size_t position) {
+  if (position >= recent_.all().size()) {
+    return;
+  }
+  const std::string path = recent_.all()[position];
+  const bool project = foldCase(extensionOf(path)) == ".ide";
+  if (!store_.stamp(path).exists) {
+    showError(describeFault(FileFault::kMissing, path));
+    recent_.remove(path);
+    showRecent();
+  } else if (project) {
+    openPath(path);
+  } else {
+    editFile(path, 0);
+  }
+}
+
+void Application::showRecent() {
+  if (frame_.window() == nullptr) {
+    return;
+  }
+  std::vector<std::string> texts;
+  for (const std::string& path : recent_.all()) {
+    texts.push_back(menuTextOfPath(texts.size() + 1, path));
+  }
+  frame_.setRecent(texts);
+  if (keep_settings_) {
+    saveRecent(recent_.all());
+  }
 }
 
 HWND Application::addonBar() {
@@ -133,7 +178,7 @@ EditorWindow* Application::editFile(const std::string& path, int line) {
     return nullptr;
   }
   if (line > 0) {
-    child->setCaret(line, 1);
+    child->showHit(line, 1);
   }
   return announce(child);
 }
@@ -148,7 +193,7 @@ void Application::messagesChanged(const MessageGroupInfo& group, const Message* 
                      .number("column", added->column)
                      .number("kind", added->kind));
   }
-  message_window_.storeChanged();
+  message_window_.storeChanged(group, added);
 }
 
 bool Application::openMessage(int position) {
@@ -177,17 +222,25 @@ void Application::showOtherMessage(bool next) {
 bool Application::showPlace(const Message& message) {
   EditorWindow* editor = message.file.empty() ? nullptr : editFile(message.file, message.line);
   if (editor != nullptr && message.line > 0 && message.column > 1) {
-    editor->setCaret(message.line, message.column);
+    editor->showHit(message.line, message.column);
   }
   return editor != nullptr;
 }
 
 EditorWindow* Application::editOrStart(const std::string& path) {
-  return announce(editors_.openOrStart(resolve(path)));
+  const bool open = findEditor(path) != nullptr;
+  EditorChild* child = announce(editors_.openOrStart(resolve(path)));
+  if (child != nullptr && !open && !child->openFile().stamp.exists) {
+    setStatus("New file: " + child->file());
+  }
+  return child;
 }
 
 EditorChild* Application::announce(EditorChild* child) {
   if (child != nullptr) {
+    if (child->openFile().stamp.exists) {
+      noteRecent(child->file());
+    }
     events_.emit(Event("editor")
                      .text("file", child->file())
                      .number("line", child->textView().caret().line + 1));
@@ -216,10 +269,11 @@ void Application::showEditorState() {
   std::string position = std::to_string(line);
   position += ':';
   position += std::to_string(column);
-  frame_.statusBar().setFields(
-      position, child->modified() ? "Modified" : "",
-      child->textView().insertMode() ? "Insert" : "Overwrite",
-      child->openFile().document.encoding() == Encoding::kUtf8 ? "UTF-8" : "ANSI");
+  const OpenFile& file = child->openFile();
+  const char* state = file.stamp.exists ? "" : "New file";
+  frame_.statusBar().setFields(position, child->modified() ? "Modified" : state,
+                               child->textView().insertMode() ? "Insert" : "Overwrite",
+                               file.document.encoding() == Encoding::kUtf8 ? "UTF-8" : "ANSI");
 }
 
 }  // namespace workbench

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "workbench/app/addon_module.h"
+#include "workbench/app/find_dialogs.h"
 #include "workbench/app/find_request.h"
 #include "workbench/app/frame.h"
 #include "workbench/editor/disk_store_win.h"
@@ -20,6 +21,8 @@
 #include "workbench/project/project_window.h"
 #include "workbench/services/ide_root.h"
 #include "workbench/windows/box_keys.h"
+#include "workbench/windows/command_ids.h"
+#include "workbench/windows/path_text.h"
 #include "workbench/workbench.h"
 
 namespace workbench {
@@ -70,6 +73,8 @@ class Application final : public Workbench,
   void make(int result) override;
   bool startMake() override;
   const MessageStore& messages() override { return messages_; }
+  unsigned int shownGroup() override { return message_window_.shownGroup(); }
+  int selectedMessage() override { return message_window_.selectedRow(); }
   bool openMessage(int position) override;
   EditorWindow* editFile(const std::string& path, int line) override;
   EditorWindow* editOrStart(const std::string& path) override;
@@ -77,6 +82,7 @@ class Application final : public Workbench,
   EditorWindow* activeEditor() override { return editors_.active(); }
   void setStatus(const std::string& text) override;
   std::string status() override { return frame_.statusBar().text(); }
+  std::string editorState() override { return frame_.statusBar().state(); }
   HWND addonBar() override;
 
   void openNode(unsigned int node, bool alternative) override;
@@ -120,6 +126,10 @@ class Application final : public Workbench,
   void saveAll();
   // Tells that an editor opened or came to a line; null tells nothing.
   EditorChild* announce(EditorChild* child);
+  // The file or project was worked with.
+  void noteRecent(const std::string& path);
+  void openRecent(std::size_t position);
+  void showRecent();
   void showTitle();
   void showTools();
   void showEditorState();
@@ -140,13 +150,18 @@ class Application final : public Workbench,
   void addContainer();
   void removeSelected();
   void editSelected();
+  // Offers to rename the node's file on the disk as well.
+  void renameAsked(unsigned int node, const std::string& name);
   void editBuild();
   // The project's, as people call it.
   std::string projectName();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
   void runTool(ToolHandle tool);
+  // find_commands.cpp
+  void findCommand(int id, EditorChild& child);
   void findNext(bool backward);
+  void replace(unsigned int editor, ReplaceWhat what);
   void goToLine(EditorChild& child);
   void openProjectFile();
   void editOptions();
@@ -170,6 +185,7 @@ class Application final : public Workbench,
   ProjectWindow project_window_;
   MakeRun make_;
   FindRequest find_;
+  RecentTexts recent_{CM_LAST_RECENT - CM_FIRST_RECENT + 1, samePath};
   HINSTANCE instance_ = nullptr;
   bool closed_ = false;
   // Last, so that it is unloaded before anything it may use goes.

@@ -7,6 +7,7 @@
 #include "workbench/app/editor_page.h"
 #include "workbench/app/options_dialog.h"
 #include "workbench/app/settings_store.h"
+#include "workbench/project/tool_table.h"
 #include "workbench/windows/command_ids.h"
 #include "workbench/windows/file_dialogs.h"
 #include "workbench/windows/mdi_layout.h"
@@ -16,6 +17,7 @@
 namespace workbench {
 
 void Application::frameCommand(int id) {
+  frame_.statusBar().passText();
   EditorChild* child = editors_.active();
   if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id)) {
     return;
@@ -35,6 +37,7 @@ bool Application::commandEnabled(int id) {
     case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
     case CM_EDIT_FIND_PREVIOUS:
+    case CM_EDIT_REPLACE:
     case CM_EDIT_GO_TO_LINE:
     case CM_WINDOW_CLOSE_ALL:
     case CM_WINDOW_NEW_VIEW:
@@ -77,6 +80,10 @@ bool Application::commandEnabled(int id) {
 }
 
 bool Application::fileCommand(int id, EditorChild* child) {
+  if (id >= CM_FIRST_RECENT && id <= CM_LAST_RECENT) {
+    openRecent(static_cast<std::size_t>(id - CM_FIRST_RECENT));
+    return true;
+  }
   std::string path;
   switch (id) {
     case CM_FILE_NEW:
@@ -109,6 +116,7 @@ bool Application::fileCommand(int id, EditorChild* child) {
         // Its editors may be gone when a box has been answered.
         const std::shared_ptr<OpenFile> file = child->sharedFile();
         if (id == CM_FILE_SAVE ? editors_.save(*file) : editors_.saveAs(*file)) {
+          noteRecent(file->path);
           setStatus("Saved " + file->path);
         }
       }
@@ -171,43 +179,17 @@ void Application::editCommand(int id, EditorChild* child) {
     case CM_EDIT_SELECT_ALL:
       text.selectAll();
       break;
-    case CM_EDIT_FIND: {
-      const std::string selected = child->selection();
-      if (!selected.empty() && selected.size() < 256 &&
-          selected.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) {
-        find_.text = selected;
-      }
-      if (askFind(frame_.window(), &find_)) {
-        findNext(find_.backward);
-      }
-      break;
-    }
+    case CM_EDIT_FIND:
     case CM_EDIT_FIND_NEXT:
-      findNext(find_.backward);
-      break;
     case CM_EDIT_FIND_PREVIOUS:
-      findNext(!find_.backward);
+    case CM_EDIT_REPLACE:
+      findCommand(id, *child);
       break;
     case CM_EDIT_GO_TO_LINE:
       goToLine(*child);
       break;
     default:
       break;
-  }
-}
-
-void Application::findNext(bool backward) {
-  if (editors_.active() == nullptr || (find_.text.empty() && !askFind(frame_.window(), &find_))) {
-    return;
-  }
-  EditorChild* child = editors_.active();
-  if (child == nullptr) {
-    return;
-  }
-  if (!child->textView().findText(fromAnsi(find_.text, child->openFile().document.encoding()),
-                                  find_.match_case, backward)) {
-    setStatus("\"" + find_.text + "\" was not found");
-    MessageBeep(MB_ICONWARNING);
   }
 }
 
@@ -218,7 +200,7 @@ void Application::goToLine(EditorChild& child) {
     return;
   }
   if (EditorChild* asked = editors_.byHandle(handle)) {
-    asked->setCaret(line, 1);
+    asked->showHit(line, 1);
   }
 }
 
@@ -304,7 +286,7 @@ bool Application::projectCommand(int id) {
 void Application::openProjectFile() {
   std::vector<std::string> files;
   for (const NodeInfo* node : project_.nodes()) {
-    if (!node->type.empty() && node->type[0] == '.') {
+    if (isTextType(node->type) && isPathName(node->name, node->type)) {
       files.push_back(node->name);
     }
   }

@@ -10,27 +10,6 @@
 namespace workbench {
 namespace {
 
-class FindDialog final : public Dialog {
- public:
-  explicit FindDialog(FindRequest& request) : request_(request) {}
-
- private:
-  void fill() override {
-    SendMessageA(item(IDC_FIND_TEXT), EM_LIMITTEXT, 255, 0);
-    setText(IDC_FIND_TEXT, request_.text);
-    CheckDlgButton(window(), IDC_FIND_CASE, request_.match_case ? BST_CHECKED : BST_UNCHECKED);
-    CheckDlgButton(window(), IDC_FIND_BACKWARD, request_.backward ? BST_CHECKED : BST_UNCHECKED);
-  }
-  bool accept() override {
-    request_.text = text(IDC_FIND_TEXT);
-    request_.match_case = checked(IDC_FIND_CASE);
-    request_.backward = checked(IDC_FIND_BACKWARD);
-    return !request_.text.empty();
-  }
-
-  FindRequest& request_;
-};
-
 class LineDialog final : public Dialog {
  public:
   LineDialog(int last_line, int& line) : last_line_(last_line), line_(line) {}
@@ -119,10 +98,6 @@ class FilesDialog final : public Dialog {
 };
 
 }  // namespace
-
-bool askFind(HWND owner, FindRequest* request) {
-  return FindDialog(*request).run(owner, IDD_FIND) == IDOK;
-}
 
 bool askLine(HWND owner, int last_line, int* line) {
   return LineDialog(last_line, *line).run(owner, IDD_GO_TO_LINE) == IDOK;

@@ -7,11 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "workbench/app/find_request.h"
-
 namespace workbench {
 
-bool askFind(HWND owner, FindRequest* request);
 // *line comes in as the proposal, 1-based.
 bool askLine(HWND owner, int last_line, int* line);
 // Lets the user choose one of the files; names are shown from the folder on.

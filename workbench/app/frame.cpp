@@ -39,6 +39,7 @@ bool Frame::create(HINSTANCE instance) {
 }
 
 bool Frame::createClient() {
+  file_menu_ = GetSubMenu(GetMenu(window_), 0);
   window_menu_ = GetSubMenu(GetMenu(window_), kWindowMenuPosition);
   CLIENTCREATESTRUCT info = {window_menu_, CM_FIRST_CHILD};
   mdi_client_ = CreateWindowExA(WS_EX_CLIENTEDGE, ideapi::kMdiClientClass, nullptr,
@@ -64,7 +65,10 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
       SetTimer(window_, kTimer, kTimerMs, nullptr);
       return createClient() ? 0 : -1;
     case WM_SIZE:
-      layOut();
+      // What is opened meanwhile still has room.
+      if (w != SIZE_MINIMIZED) {
+        layOut();
+      }
       return 0;
     case WM_COMMAND:
       if (LOWORD(w) < CM_FIRST_CHILD) {
@@ -204,6 +208,22 @@ void Frame::setTools(const std::vector<ToolItem>& items) {
                 reinterpret_cast<UINT_PTR>(tool_menu_), "&Tool");
   }
   DrawMenuBar(window_);
+}
+
+void Frame::setRecent(const std::vector<std::string>& texts) {
+  for (UINT id = CM_FIRST_RECENT; id <= CM_LAST_RECENT; ++id) {
+    DeleteMenu(file_menu_, id, MF_BYCOMMAND);
+  }
+  // They stand between separators of their own and the last entry, Exit.
+  const auto last = static_cast<UINT>(GetMenuItemCount(file_menu_) - 1);
+  if (!texts.empty() && GetMenuItemID(file_menu_, static_cast<int>(last) - 1) != 0) {
+    InsertMenuA(file_menu_, last, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+    InsertMenuA(file_menu_, last, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+  }
+  for (UINT i = 0; i < texts.size() && CM_FIRST_RECENT + i <= CM_LAST_RECENT; ++i) {
+    const auto at = static_cast<UINT>(GetMenuItemCount(file_menu_) - 2);
+    InsertMenuA(file_menu_, at, MF_BYPOSITION | MF_STRING, CM_FIRST_RECENT + i, texts[i].c_str());
+  }
 }
 
 void Frame::setTitle(const std::string& title) {

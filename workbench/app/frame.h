@@ -53,6 +53,8 @@ class Frame {
   void setTitle(const std::string& title);
   // The items of the Tool menu, which is there while it has any.
   void setTools(const std::vector<ToolItem>& items);
+  // The texts at the end of the File menu, at most as many as there are ids for them.
+  void setRecent(const std::vector<std::string>& texts);
   // Runs the message loop until the program ends; returns its exit code.
   int run();
 
@@ -72,7 +74,8 @@ class Frame {
   HINSTANCE instance_ = nullptr;
   HWND window_ = nullptr;
   HWND mdi_client_ = nullptr;
-  HMENU window_menu_ = nullptr;  // the menu bar's
+  HMENU file_menu_ = nullptr;    // the menu bar's
+  HMENU window_menu_ = nullptr;  // likewise
   HMENU tool_menu_ = nullptr;    // the menu bar's while it is there
   StatusBar status_;
   TopmostOrder topmost_order_;

@@ -66,7 +66,36 @@ void Application::renameFromWindow(unsigned int node, const std::string& name) {
   }
   const bool path =
       isPathName(info->name, info->type) && fileName(name).size() == name.size() && name[0] != '#';
-  renameNode(node, path ? joinPath(folderOf(info->name), name) : name);
+  renameAsked(node, path ? joinPath(folderOf(info->name), name) : name);
+}
+
+void Application::renameAsked(unsigned int node, const std::string& name) {
+  const NodeInfo* info = project_.node(node);
+  if (info == nullptr || name.empty()) {
+    return;
+  }
+  const std::string from = info->name;
+  const std::string to = project_.fullName(name, info->type);
+  const bool files = isPathName(from, info->type) && isPathName(to, info->type);
+  if (from == to || !files || isContainer(*info) || !store_.stamp(from).exists) {
+    renameNode(node, to);
+    return;
+  }
+  if (!samePath(from, to) && store_.stamp(to).exists) {
+    renameNode(node, to);
+    setStatus(to + " is there already; " + from + " keeps its name on the disk");
+    return;
+  }
+  const int answer = ask("Rename the file on the disk as well?\n\n" + from + "\nto " + to,
+                         MB_YESNOCANCEL | MB_ICONQUESTION);
+  // While it was asked the node may have gone, or taken another name.
+  info = project_.node(node);
+  if (answer == IDCANCEL || info == nullptr || info->name != from) {
+    return;
+  }
+  if (answer == IDNO || editors_.renameFile(from, to)) {
+    renameNode(node, to);
+  }
 }
 
 unsigned int Application::parentForNew() const {
@@ -142,9 +171,6 @@ void Application::editSelected() {
   if (!askNode(frame_.window(), false, &fields)) {
     return;
   }
-  if (fields.name != before.name) {
-    renameNode(id, fields.name);
-  }
   if (fields.description != before.description) {
     describeNode(id, fields.description);
   }
@@ -153,6 +179,10 @@ void Application::editSelected() {
   }
   if (fields.source != before.source) {
     setNodePath(id, kSourcePathKind, fields.source);
+  }
+  // Last, as it may ask.
+  if (fields.name != before.name) {
+    renameAsked(id, fields.name);
   }
 }
 

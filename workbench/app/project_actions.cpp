@@ -145,6 +145,9 @@ bool Application::newProject(const std::string& folder) {
 // stamp: the file as it was read, or as the user agreed to replace it.
 void Application::projectOpened(const FileStamp& stamp) {
   project_stamp_ = stamp;
+  if (stamp.exists) {
+    noteRecent(project_.file());
+  }
   showTitle();
   project_window_.projectChanged();
   events_.emit(Event("project").text("action", "opened").text("file", project_.file()));
@@ -178,6 +181,7 @@ bool Application::saveProject() {
   if (!project_leftover_.empty()) {
     store_.remove(std::exchange(project_leftover_, {}));
   }
+  noteRecent(file);
   events_.emit(Event("project").text("action", "saved").text("file", file));
   return true;
 }

@@ -10,6 +10,9 @@ namespace {
 constexpr char kClass[] = "WorkbenchStatus";
 constexpr int kFieldWidth = 84;  // pixels
 constexpr int kGap = 3;
+constexpr UINT kTimer = 1;
+// So long even a text that is overtaken at once can be read.
+constexpr DWORD kLeastShownMs = 3000;
 
 void drawField(HDC dc, RECT area, const std::string& text) {
   DrawEdge(dc, &area, BDR_SUNKENOUTER, BF_RECT);
@@ -50,6 +53,10 @@ LRESULT CALLBACK StatusBar::windowProc(HWND window, UINT message, WPARAM w, LPAR
   auto* self = reinterpret_cast<StatusBar*>(GetWindowLongA(window, 0));
   if (self != nullptr && message == WM_PAINT) {
     self->paint();
+    return 0;
+  }
+  if (self != nullptr && message == WM_TIMER) {
+    self->textLeaves();
     return 0;
   }
   if (message == WM_ERASEBKGND) {
@@ -104,6 +111,29 @@ void StatusBar::paint() {
   EndPaint(window_, &info);
 }
 
+void StatusBar::passText() {
+  if (text().empty() || passing_ || window_ == nullptr) {
+    return;
+  }
+  passing_ = true;
+  const DWORD shown = GetTickCount() - shown_at_;
+  if (shown >= kLeastShownMs) {
+    textLeaves();
+  } else {
+    SetTimer(window_, kTimer, kLeastShownMs - shown, nullptr);
+  }
+}
+
+void StatusBar::textLeaves() {
+  if (passing_) {
+    const std::string leaving = text();
+    setText("");
+    if (left_) {
+      left_(leaving);
+    }
+  }
+}
+
 bool StatusBar::change(int field, const std::string& text) {
   if (texts_[field] == text) {
     return false;
@@ -117,6 +147,11 @@ bool StatusBar::change(int field, const std::string& text) {
 }
 
 void StatusBar::setText(const std::string& text) {
+  if (passing_ && window_ != nullptr) {
+    KillTimer(window_, kTimer);
+  }
+  passing_ = false;
+  shown_at_ = GetTickCount();
   if (change(0, text) && window_ != nullptr) {
     // A long operation may tell its progress without coming back to the loop.
     UpdateWindow(window_);

@@ -4,7 +4,9 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "workbench/windows/handles.h"
 
@@ -17,9 +19,15 @@ class StatusBar {
   bool create(HWND parent, HINSTANCE instance);
   HWND window() const { return window_; }
   int height() const;
+  // Called with a text that has left by itself.
+  void setLeftListener(std::function<void(const std::string&)> left) { left_ = std::move(left); }
   void setText(const std::string& text);
+  // Something else has happened than what the text tells: it leaves, though not before it
+  // was there long enough to be read.
+  void passText();
   const std::string& text() const { return texts_[0]; }
-  // "line:column", "Modified" or empty, "Insert" or "Overwrite", how the file is
+  const std::string& state() const { return texts_[2]; }
+  // "line:column", "Modified", "New file" or empty, "Insert" or "Overwrite", how the file is
   // encoded; all empty without an editor.
   void setFields(const std::string& position, const std::string& state, const std::string& mode,
                  const std::string& encoding);
@@ -30,12 +38,16 @@ class StatusBar {
   static constexpr int kFields = 5;
 
   void paint();
+  void textLeaves();
   RECT fieldArea(int field) const;
   // Returns whether it is another text than before; the field is then painted anew.
   bool change(int field, const std::string& text);
 
   HWND window_ = nullptr;
   OwnedFont font_;
+  std::function<void(const std::string&)> left_;
+  DWORD shown_at_ = 0;    // the system's milliseconds
+  bool passing_ = false;  // the text leaves when its time is over
   std::string texts_[kFields];
 };
 

@@ -41,16 +41,6 @@ LineEnd mostCommonEnd(const std::vector<TextLine>& lines) {
   return best;
 }
 
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-}
-
-std::string lowered(std::string_view text) {
-  std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), lower);
-  return result;
-}
-
 }  // namespace
 
 Document::Document() : lines_(1) {}
@@ -369,30 +359,63 @@ void Document::markUnsaved() {
   notifyState(was_modified);
 }
 
-bool Document::find(std::string_view what, bool match_case, bool backward, Place start,
-                    Place* found) const {
-  if (what.empty() || what.find_first_of("\r\n") != std::string_view::npos) {
+bool Document::find(const TextSearch& search, bool backward, Place start, Place* found) const {
+  LineMatcher matcher(search);
+  if (!matcher.possible()) {
     return false;
   }
-  const std::string wanted = match_case ? std::string(what) : lowered(what);
   start = clamp(start);
   for (int i = start.line; i >= 0 && i < lineCount(); i += backward ? -1 : 1) {
-    const std::string folded = match_case ? std::string() : lowered(line(i));
-    const std::string& text = match_case ? line(i) : folded;
-    std::size_t hit = std::string::npos;
-    if (!backward) {
-      hit = text.find(wanted, i == start.line ? at(start.column) : 0);
-    } else if (i != start.line) {
-      hit = text.rfind(wanted);
-    } else if (at(start.column) >= wanted.size()) {
-      hit = text.rfind(wanted, at(start.column) - wanted.size());
+    matcher.take(line(i));
+    std::size_t hit = LineMatcher::kNone;
+    if (backward) {
+      hit = matcher.last(i == start.line ? at(start.column) : line(i).size());
+    } else {
+      hit = matcher.first(i == start.line ? at(start.column) : 0);
     }
-    if (hit != std::string::npos) {
+    if (hit != LineMatcher::kNone) {
       *found = {i, static_cast<int>(hit)};
       return true;
     }
   }
   return false;
+}
+
+int Document::replaceAll(const TextSearch& search, std::string_view with, Place from, Place* to) {
+  LineMatcher matcher(search);
+  from = clamp(from);
+  *to = clamp(*to);
+  if (!matcher.possible() || with.find_first_of("\r\n") != std::string_view::npos) {
+    return 0;
+  }
+  int count = 0;
+  beginTransaction();
+  for (int i = from.line; i <= to->line; ++i) {
+    const std::size_t end = i == to->line ? at(to->column) : line(i).size();
+    matcher.take(line(i));
+    // All of a line is one change, however many hits it has.
+    std::string changed;
+    std::size_t first = LineMatcher::kNone;
+    std::size_t done = i == from.line ? at(from.column) : 0;
+    for (std::size_t hit = matcher.first(done);
+         hit != LineMatcher::kNone && hit + matcher.length() <= end; hit = matcher.first(done)) {
+      first = std::min(first, hit);
+      changed.append(line(i), first == hit ? hit : done, first == hit ? 0 : hit - done);
+      changed += with;
+      done = hit + matcher.length();
+      ++count;
+    }
+    if (first != LineMatcher::kNone) {
+      const Place start = {i, static_cast<int>(first)};
+      erase(start, {i, static_cast<int>(done)});
+      insert(start, changed);
+      if (i == to->line) {
+        to->column += static_cast<int>(changed.size()) - static_cast<int>(done - first);
+      }
+    }
+  }
+  endTransaction();
+  return count;
 }
 
 void Document::addListener(DocumentListener* listener) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "workbench/editor/encoding.h"
+#include "workbench/editor/text_search.h"
 
 namespace workbench {
 
@@ -102,7 +103,10 @@ class Document {
   void markUnsaved();
 
   // Finds the text at or after a place (before it, when backward), not going round.
-  bool find(std::string_view what, bool match_case, bool backward, Place start, Place* found) const;
+  bool find(const TextSearch& search, bool backward, Place start, Place* found) const;
+  // Replaces every hit between two places, as one step of undo, by a text without line
+  // ends. Returns how many; *to is then where the last place stands.
+  int replaceAll(const TextSearch& search, std::string_view with, Place from, Place* to);
 
   void addListener(DocumentListener* listener);
   void removeListener(DocumentListener* listener);

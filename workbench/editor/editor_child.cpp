@@ -22,10 +22,10 @@ EditorChild::~EditorChild() {
   file_->document.removeListener(this);
 }
 
-bool EditorChild::create(HWND mdi_client, HINSTANCE instance) {
+bool EditorChild::create(HWND mdi_client, HINSTANCE instance, const Area& place) {
   shown_title_ = title();
-  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(),
-                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+  return createChild(mdi_client, instance, ideapi::kEditorClass, shown_title_.c_str(), place.left,
+                     place.top, place.width(), place.height());
 }
 
 LRESULT EditorChild::handleMessage(UINT message, WPARAM w, LPARAM l) {
@@ -109,6 +109,15 @@ void EditorChild::caret(int* line, int* column) {
 
 void EditorChild::setCaret(int line, int column) {
   text_.setCaret(placeOf(line, column));
+}
+
+void EditorChild::showHit(int line, int column) {
+  setCaret(line, column);
+  text_.showHit();
+}
+
+TextView EditorChild::view() {
+  return {text_.topLine() + 1, text_.shownLines(), text_.markedLine() + 1};
 }
 
 void EditorChild::select(int line1, int column1, int line2, int column2) {

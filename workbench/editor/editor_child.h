@@ -10,6 +10,7 @@
 #include "workbench/editor/editor_window.h"
 #include "workbench/editor/open_file.h"
 #include "workbench/editor/text_window.h"
+#include "workbench/windows/child_place.h"
 #include "workbench/windows/mdi_child.h"
 
 namespace workbench {
@@ -26,6 +27,8 @@ class EditorChildHost {
   virtual void childActivated(EditorChild& child) = 0;
   // Caret, insert mode or modified state.
   virtual void childChanged(EditorChild& child) = 0;
+  // Its text, whoever did it.
+  virtual void childEdited() = 0;
   // False when the file may not be edited; the reason has been shown.
   virtual bool mayEdit(EditorChild& child) = 0;
 
@@ -45,7 +48,7 @@ class EditorChild final : public EditorWindow,
   ~EditorChild() override;
 
   // Returns false when the window cannot be made.
-  bool create(HWND mdi_client, HINSTANCE instance);
+  bool create(HWND mdi_client, HINSTANCE instance, const Area& place);
   OpenFile& openFile() { return *file_; }
   const std::shared_ptr<OpenFile>& sharedFile() const { return file_; }
   TextWindow& textView() { return text_; }
@@ -62,6 +65,8 @@ class EditorChild final : public EditorWindow,
   std::string text() override;
   void caret(int* line, int* column) override;
   void setCaret(int line, int column) override;
+  void showHit(int line, int column) override;
+  TextView view() override;
   void select(int line1, int column1, int line2, int column2) override;
   std::string selection() override { return toAnsi(text_.selection(), file_->document.encoding()); }
   void type(const std::string& text) override;
@@ -70,7 +75,7 @@ class EditorChild final : public EditorWindow,
   void textCaretMoved() override;
   void textFocused() override;
   bool allowEdit() override { return host_.mayEdit(*this); }
-  void documentChanged(const DocumentChange&) override {}
+  void documentChanged(const DocumentChange&) override { host_.childEdited(); }
   void documentStateChanged() override;
 
  private:

@@ -6,6 +6,7 @@
 #include "workbench/editor/editor_set.h"
 #include "workbench/editor/leftover_question.h"
 #include "workbench/windows/file_dialogs.h"
+#include "workbench/windows/path_text.h"
 
 namespace workbench {
 
@@ -176,6 +177,27 @@ void EditorSet::readAgain(OpenFile& file) {
   if (told_) {
     told_(file.path + " was read again from the disk");
   }
+}
+
+bool EditorSet::renameFile(const std::string& from, const std::string& to) {
+  if (!samePath(from, to) && find(to) != nullptr) {
+    ask(to + " is open in another editor. Close it first, or choose another name.",
+        MB_OK | MB_ICONERROR);
+    return false;
+  }
+  const FileFault fault = store_.move(from, to);
+  if (fault != FileFault::kNone) {
+    ask("The file was not renamed. " + describeFault(fault, from), MB_OK | MB_ICONERROR);
+    return false;
+  }
+  // Its stamps hold on: neither the content nor its time has changed.
+  for (const auto& file : files()) {
+    if (samePath(file->path, from)) {
+      file->path = to;
+      renumber(*file);
+    }
+  }
+  return true;
 }
 
 }  // namespace workbench

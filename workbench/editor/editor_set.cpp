@@ -157,13 +157,37 @@ EditorChild* EditorSet::show(const std::shared_ptr<OpenFile>& file) {
   children_.push_back(std::make_unique<EditorChild>(file, settings_, *this));
   EditorChild* child = children_.back().get();
   child->setHandle(++last_handle_);
-  if (!child->create(mdi_client_, instance_)) {
+  if (!child->create(mdi_client_, instance_, freePlace())) {
     std::erase_if(children_, [child](const auto& each) { return each.get() == child; });
     ask("No more editor windows can be opened.", MB_OK | MB_ICONERROR);
     return nullptr;
   }
   renumber(*file);
   return child;
+}
+
+Area EditorSet::freePlace() const {
+  std::vector<Area> panes;
+  std::vector<Area> editors;
+  for (HWND window = GetWindow(mdi_client_, GW_CHILD); window != nullptr;
+       window = GetWindow(window, GW_HWNDNEXT)) {
+    WINDOWPLACEMENT place = {};
+    place.length = sizeof place;
+    // The titles of icons are windows too.
+    if (GetWindow(window, GW_OWNER) == nullptr && IsIconic(window) == 0 &&
+        (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0 &&
+        GetWindowPlacement(window, &place) != 0) {
+      const RECT& area = place.rcNormalPosition;
+      const bool editor =
+          std::any_of(children_.begin(), children_.end(),
+                      [window](const auto& each) { return each->window() == window; });
+      (editor ? editors : panes).push_back({area.left, area.top, area.right, area.bottom});
+    }
+  }
+  RECT client = {};
+  GetClientRect(mdi_client_, &client);
+  const int step = GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYFRAME);
+  return placeForNew({0, 0, client.right, client.bottom}, panes, editors, step);
 }
 
 void EditorSet::bringForward(EditorChild& child) {
@@ -265,6 +289,12 @@ void EditorSet::childActivated(EditorChild&) {
 void EditorSet::childChanged(EditorChild&) {
   if (changed_) {
     changed_();
+  }
+}
+
+void EditorSet::childEdited() {
+  if (edited_) {
+    edited_();
   }
 }
 

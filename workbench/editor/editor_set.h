@@ -22,6 +22,8 @@ class EditorSet final : public EditorChildHost {
   // Called when the active editor, its caret or its state changes.
   void setChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
 
+  // Called when a text is edited.
+  void setEditListener(std::function<void()> listener) { edited_ = std::move(listener); }
   // Called with what happened without a question.
   void setStatusListener(std::function<void(const std::string&)> told) { told_ = std::move(told); }
 
@@ -44,6 +46,9 @@ class EditorSet final : public EditorChildHost {
   // caller keeps the file, and its editors may be gone afterwards.
   bool save(OpenFile& file);
   bool saveAs(OpenFile& file);
+  // Gives a file on disk another name, which must be free; its editors follow. False when
+  // it could not be done (the reason has been shown).
+  bool renameFile(const std::string& from, const std::string& to);
   // Saves every modified file; false when one could not be. Names are appended.
   bool saveAll(std::vector<std::string>* names);
   // Saves the modified files that need no question and no name; asks and tells nothing.
@@ -68,12 +73,14 @@ class EditorSet final : public EditorChildHost {
   void childGone(EditorChild& child) override;
   void childActivated(EditorChild& child) override;
   void childChanged(EditorChild& child) override;
+  void childEdited() override;
   bool mayEdit(EditorChild& child) override;
 
  private:
   // editor_disk.cpp has what concerns the disk.
   EditorChild* showAnswered(const std::shared_ptr<OpenFile>& file);
   EditorChild* show(const std::shared_ptr<OpenFile>& file);
+  Area freePlace() const;
   std::vector<std::shared_ptr<OpenFile>> files() const;
   std::vector<EditorChild*> viewsOf(const OpenFile& file) const;
   // Reads a text that an editor can take; stamps it as it was before.
@@ -92,6 +99,7 @@ class EditorSet final : public EditorChildHost {
   FileStore& store_;
   EditorSettings& settings_;
   std::function<void()> changed_;
+  std::function<void()> edited_;
   std::function<void(const std::string&)> told_;
   HWND frame_ = nullptr;
   HWND mdi_client_ = nullptr;

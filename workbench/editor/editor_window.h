@@ -10,6 +10,13 @@
 
 namespace workbench {
 
+// What of the text the window shows.
+struct TextView {
+  int top = 0;     // the first line
+  int rows = 0;    // how many lines fit
+  int marked = 0;  // the line of a hit, 0 for none
+};
+
 class EditorWindow {
  public:
   virtual ~EditorWindow() = default;
@@ -22,6 +29,9 @@ class EditorWindow {
   virtual std::string text() = 0;
   virtual void caret(int* line, int* column) = 0;
   virtual void setCaret(int line, int column) = 0;
+  // The same for a place that was looked for: its line is marked, well inside the window.
+  virtual void showHit(int line, int column) = 0;
+  virtual TextView view() = 0;
   // From the first place up to, not including, the second; the caret ends at the second.
   virtual void select(int line1, int column1, int line2, int column2) = 0;
   virtual std::string selection() = 0;

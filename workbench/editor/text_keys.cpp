@@ -360,15 +360,19 @@ void TextWindow::selectAll() {
   select({0, 0}, document_.endPlace());
 }
 
-bool TextWindow::findText(std::string_view what, bool match_case, bool backward) {
+bool TextWindow::findText(const TextSearch& search, bool backward) {
   Place found;
   const Place start = backward ? std::min(anchor_, caret_) : std::max(anchor_, caret_);
   const Place far_end = backward ? document_.endPlace() : Place{0, 0};
-  if (!document_.find(what, match_case, backward, start, &found) &&
-      !document_.find(what, match_case, backward, far_end, &found)) {
+  if (!document_.find(search, backward, start, &found) &&
+      !document_.find(search, backward, far_end, &found)) {
     return false;
   }
-  select(found, {found.line, found.column + static_cast<int>(what.size())});
+  const bool seen = found.line >= top_ && found.line < top_ + visibleLines();
+  select(found, {found.line, found.column + static_cast<int>(search.text.size())});
+  if (!seen) {
+    showHit();
+  }
   return true;
 }
 

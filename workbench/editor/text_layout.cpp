@@ -100,6 +100,10 @@ void wordAround(std::string_view line, int column, int* from, int* to, Encoding 
   }
 }
 
+int topForHit(int line, int visible) {
+  return std::max(0, line - visible / 3);
+}
+
 std::string_view indentOf(std::string_view line) {
   return line.substr(0, std::min(line.find_first_not_of(" \t"), line.size()));
 }

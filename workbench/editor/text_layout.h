@@ -28,6 +28,9 @@ int previousWord(std::string_view line, int column, Encoding encoding = Encoding
 void wordAround(std::string_view line, int column, int* from, int* to,
                 Encoding encoding = Encoding::kAnsi);
 
+// The first line to show so that the line stands a third down a window of so many lines.
+int topForHit(int line, int visible);
+
 // The blanks that a line begins with.
 std::string_view indentOf(std::string_view line);
 

@@ -148,6 +148,9 @@ void TextWindow::paintLine(HDC dc, int line, const RECT& row) {
     paintMargin(dc, line, {row.left, row.top, text.left, row.bottom});
   }
   paintText(dc, line, text);
+  if (line == marked_) {
+    tintMarked(dc, row);
+  }
 }
 
 void TextWindow::paintMargin(HDC dc, int line, const RECT& margin) const {

@@ -212,6 +212,9 @@ std::string TextWindow::selection() const {
 }
 
 void TextWindow::afterMove() {
+  if (caret_.line != marked_) {
+    unmark();
+  }
   revealCaret();
   repaintSelection();
   placeCaret();
@@ -297,6 +300,7 @@ Place moved(Place place, const DocumentChange& change) {
 }  // namespace
 
 void TextWindow::documentChanged(const DocumentChange& change) {
+  unmark();
   highlighter_.documentChanged(change);
   trackWidth(change.from.line, change.new_end.line);
   caret_ = wholeCharacter(document_.clamp(moved(caret_, change)));

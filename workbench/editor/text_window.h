@@ -52,6 +52,12 @@ class TextWindow final : public DocumentListener {
   void setTopLine(int line) { scrollTo(line, left_); }
   // Scrolls the least that shows the line, without moving the caret.
   void showLine(int line);
+  // text_hit.cpp: the caret's line is what was looked for. It is shown a third down the
+  // window and stays marked until the caret leaves it or the text changes.
+  void showHit();
+  // -1 for none.
+  int markedLine() const { return marked_; }
+  int shownLines() const { return visibleLines(); }
 
   // Texts are in the document's encoding. Replaces the selection as typing does.
   void type(std::string_view text, Document::Edit kind = Document::Edit::kTyping);
@@ -65,7 +71,13 @@ class TextWindow final : public DocumentListener {
   void clear();
   void selectAll();
   // Selects the next place of the text from the caret, going round at the end.
-  bool findText(std::string_view what, bool match_case, bool backward);
+  bool findText(const TextSearch& search, bool backward);
+  // text_replace.cpp: replaces the selection when it is a hit, and selects the next one.
+  // False when there is none.
+  bool replaceNext(const TextSearch& search, std::string_view with);
+  // Replaces every hit, or those in the selection, which stays selected. Returns how many,
+  // -1 when the text may not be edited.
+  int replaceAll(const TextSearch& search, std::string_view with, bool in_selection);
 
   void settingsChanged();
   // While held, nothing is repainted; calls nest.
@@ -118,6 +130,8 @@ class TextWindow final : public DocumentListener {
   void scrollTo(int top, int left);
   void wheel(int delta);
   void revealCaret();
+  void unmark();
+  void tintMarked(HDC dc, const RECT& row) const;
   int visibleLines() const;
   int visibleCells() const;
 
@@ -138,6 +152,7 @@ class TextWindow final : public DocumentListener {
   Highlighter highlighter_;
   Place caret_;
   Place anchor_;
+  int marked_ = -1;  // the line of a hit; -1 for none
   // The selection as the window shows it where nothing is to be painted anew.
   Place shown_from_;
   Place shown_to_;

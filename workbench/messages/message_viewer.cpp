@@ -180,6 +180,13 @@ void MessageViewer::select(int row) {
   }
 }
 
+void MessageViewer::showFrom(int row) {
+  select(row);
+  if (window_ != nullptr) {
+    SendMessageA(window_, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+  }
+}
+
 void MessageViewer::openSelected() {
   const std::vector<Message>* messages = host_.shownMessages();
   const int row = selectedRow();

@@ -43,6 +43,8 @@ class MessageViewer {
   int selectedRow() const;
   // -1 selects none.
   void select(int row);
+  // Selects the row and shows it with what follows.
+  void showFrom(int row);
   void openSelected();
 
  private:

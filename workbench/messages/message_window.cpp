@@ -44,9 +44,12 @@ bool MessageWindow::createControls() {
   if (!viewer_.create(inner_, instance()) || !tabs_.create(inner_, instance())) {
     return false;
   }
+  other_group_ = true;
+  const bool header = header_ != 0;
   catchUp();
-  viewer_.refresh(true);
-  viewer_.select(row_);
+  if (!header) {
+    viewer_.select(row_);
+  }
   return true;
 }
 
@@ -86,12 +89,20 @@ bool MessageWindow::paneMessage(UINT message, WPARAM, LPARAM, LRESULT* result) {
   }
   update_posted_ = false;
   catchUp();
-  viewer_.refresh(false);
   *result = 0;
   return true;
 }
 
-void MessageWindow::storeChanged() {
+void MessageWindow::storeChanged(const MessageGroupInfo& group, const Message* added) {
+  if (added != nullptr && added->parent == 0) {
+    // The steps through the messages go on from here.
+    if (shown_ != group.id || group.id != MessageStore::kBuildGroup) {
+      row_ = static_cast<int>(group.messages.size()) - 1;
+    }
+    other_group_ = other_group_ || shown_ != group.id;
+    shown_ = group.id;
+    header_ = group.id != MessageStore::kBuildGroup ? added->id : 0;
+  }
   if (window() != nullptr && !update_posted_) {
     update_posted_ = PostMessageA(window(), kCatchUp, 0, 0) != 0;
   }
@@ -103,6 +114,19 @@ void MessageWindow::catchUp() {
     names.push_back(group.name);
   }
   tabs_.setTabs(names, static_cast<int>(shown_) - 1);
+  viewer_.refresh(std::exchange(other_group_, false));
+  showHeader();
+}
+
+void MessageWindow::showHeader() {
+  const unsigned int header = std::exchange(header_, 0);
+  const std::vector<Message>* messages = shownMessages();
+  for (std::size_t row = messages != nullptr ? messages->size() : 0; header != 0 && row-- > 0;) {
+    if ((*messages)[row].id == header) {
+      viewer_.showFrom(static_cast<int>(row));
+      return;
+    }
+  }
 }
 
 void MessageWindow::showGroup(unsigned int group) {
@@ -111,8 +135,9 @@ void MessageWindow::showGroup(unsigned int group) {
   }
   row_ = group == shown_ ? row_ : -1;
   shown_ = group;
+  header_ = 0;
+  other_group_ = true;
   catchUp();
-  viewer_.refresh(true);
 }
 
 const Message* MessageWindow::step(bool next, bool* wrapped) {
@@ -132,6 +157,7 @@ const Message* MessageWindow::step(bool next, bool* wrapped) {
     const Message& message = (*messages)[static_cast<std::size_t>(row)];
     if (!message.file.empty()) {
       row_ = row;
+      header_ = 0;
       viewer_.select(row);
       return &message;
     }

@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "ideapi/ide_identifiers.h"
 #include "workbench/windows/command_ids.h"
@@ -13,9 +14,10 @@ namespace workbench {
 namespace {
 
 constexpr std::size_t kMostShown = 260;  // characters of one node
-// What a notification of the tree set off: a command, or 0 for the context menu.
+// What a notification of the tree set off: a command, 0 for the context menu, or this.
 constexpr UINT kLater = WM_APP + 1;
 constexpr int kScroll = -1;  // back to where it was
+constexpr int kRenamed = 1;
 
 // A folder of the disk and a file are shown by their last part.
 std::string shortName(const NodeInfo& node) {
@@ -253,6 +255,8 @@ void ProjectWindow::carryOut(int command, LPARAM detail) {
     }
   } else if (command == 0) {
     contextMenu({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
+  } else if (command == kRenamed) {
+    host_.renameFromWindow(std::exchange(renamed_node_, 0), std::exchange(new_name_, {}));
   } else if (command != CM_NODE_OPEN) {
     host_.projectWindowCommand(command);
   } else if (selected() != 0) {
@@ -291,7 +295,9 @@ LRESULT ProjectWindow::notified(const NMHDR& header) {
     case TVN_ENDLABELEDITA: {
       const char* text = reinterpret_cast<const NMTVDISPINFOA*>(&header)->item.pszText;
       if (text != nullptr && *text != '\0') {
-        host_.renameFromWindow(selected(), text);
+        renamed_node_ = selected();
+        new_name_ = text;
+        later(kRenamed, 0);
       }
       return 0;  // the text follows the node
     }

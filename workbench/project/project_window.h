@@ -71,7 +71,10 @@ class ProjectWindow final : public MdiPane, public ProjectView {
   ProjectWindowHost& host_;
   HWND tree_ = nullptr;
   std::unordered_map<unsigned int, HTREEITEM> items_;  // by node
-  bool left_ = false;                                  // what follows was remembered
+  // What was typed for a node and is still to be told.
+  unsigned int renamed_node_ = 0;
+  std::string new_name_;
+  bool left_ = false;  // what follows was remembered
   std::vector<unsigned int> expanded_;
   unsigned int selected_ = 0;
   unsigned int first_visible_ = 0;

@@ -1,5 +1,7 @@
 #include "workbench/project/tool_table.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "workbench/windows/path_text.h"
@@ -24,6 +26,16 @@ const char* toolForType(const std::string& type) {
     }
   }
   return !folded.empty() && folded[0] == '.' && folded != ".lib" ? kEditTool : nullptr;
+}
+
+bool isTextType(const std::string& type) {
+  static constexpr std::string_view kOthers[] = {
+      ".a",   ".bmp", ".chm", ".com", ".csm", ".cur", ".dll", ".drv", ".exe", ".fnt",
+      ".fon", ".gif", ".hlp", ".ico", ".ide", ".jpg", ".lib", ".o",   ".obj", ".ocx",
+      ".png", ".res", ".rle", ".tds", ".tlb", ".ttf", ".vxd", ".wav", ".zip"};
+  const std::string folded = foldCase(type);
+  return !folded.empty() && folded[0] == '.' &&
+         std::find(std::begin(kOthers), std::end(kOthers), folded) == std::end(kOthers);
 }
 
 }  // namespace workbench

@@ -15,5 +15,7 @@ inline constexpr const char* kOwnTools[] = {
 
 // The tool of a node's type: null for a container that is not a file.
 const char* toolForType(const std::string& type);
+// Whether a file of the type is worth reading in an editor: all but what is known not to be.
+bool isTextType(const std::string& type);
 
 }  // namespace workbench

@@ -123,13 +123,24 @@ StepResult dumpText(StepTry& step) {
   }
   int line = 0, column = 0;
   editor->caret(&line, &column);
+  const TextView view = editor->view();
   step.stage.log.emit(Event("text")
                           .text("file", editor->file())
                           .number("line", line)
                           .number("column", column)
+                          .number("top", view.top)
+                          .number("rows", view.rows)
+                          .number("marked", view.marked)
                           .flag("modified", editor->modified())
                           .text("selection", editor->selection())
                           .text("text", editor->text()));
+  return StepResult::kDone;
+}
+
+StepResult dumpStatus(StepTry& step) {
+  MainWindow& window = step.stage.window;
+  step.stage.log.emit(
+      Event("status-line").text("text", window.status()).text("state", window.editorState()));
   return StepResult::kDone;
 }
 
@@ -140,10 +151,10 @@ StepResult stepDump(StepTry& step) {
     const char* name;
     Step dump;
   } kinds[] = {
-      {"menu", dumpMenu},          {"bar", dumpBar},           {"editors", dumpEditors},
-      {"windows", dumpWindows},    {"dialog", dumpDialog},     {"text", dumpText},
-      {"project", dumpProject},    {"messages", dumpMessages}, {"documents", dumpAllDocuments},
-      {"clipboard", dumpClipboard}};
+      {"menu", dumpMenu},           {"bar", dumpBar},           {"editors", dumpEditors},
+      {"windows", dumpWindows},     {"dialog", dumpDialog},     {"text", dumpText},
+      {"project", dumpProject},     {"messages", dumpMessages}, {"documents", dumpAllDocuments},
+      {"clipboard", dumpClipboard}, {"status", dumpStatus}};
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
       return kind.dump(step);

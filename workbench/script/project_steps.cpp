@@ -185,7 +185,14 @@ StepResult dumpMessages(StepTry& step) {
                           .number("kind", message.kind));
     }
   }
-  step.stage.log.emit(Event("messages").list("items", items));
+  MessageList& list = step.stage.messages;
+  const MessageGroupInfo* shown = list.messages().group(list.shownGroup());
+  const auto selected = static_cast<std::size_t>(list.selectedMessage());
+  const bool any = shown != nullptr && selected < shown->messages.size();
+  step.stage.log.emit(Event("messages")
+                          .text("shown", shown != nullptr ? shown->name : "")
+                          .text("selected", any ? shown->messages[selected].text : "")
+                          .list("items", items));
   return StepResult::kDone;
 }
 

@@ -53,6 +53,7 @@ void STDMETHODCALLTYPE EditorService::EndTransaction() {
     }
     child->textView().holdPainting(false);
     if (each.shown) {
+      child->textView().showHit();
       context_.log.emit(Event("editor")
                             .text("file", child->file())
                             .number("line", child->textView().caret().line + 1));

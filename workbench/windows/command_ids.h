@@ -13,6 +13,10 @@
 #define CM_FILE_NEW_PROJECT 13109
 #define CM_FILE_RELOAD 13110
 
+/* The files and projects used last, from the latest on. */
+#define CM_FIRST_RECENT 13121
+#define CM_LAST_RECENT 13128
+
 #define CM_EDIT_UNDO 13151
 #define CM_EDIT_REDO 13152
 #define CM_EDIT_CUT 13153
@@ -26,6 +30,7 @@
 #define CM_EDIT_GO_TO_LINE 13161
 #define CM_EDIT_NEXT_MESSAGE 13162
 #define CM_EDIT_FORMER_MESSAGE 13163
+#define CM_EDIT_REPLACE 13164
 
 /* The IDE is known by these two as well. */
 #define CM_WINDOW_PROJECT 13251
@@ -83,10 +88,15 @@
 #define IDC_OPTIONS_TITLE 310
 #define IDC_OPTIONS_HELP_TEXT 311
 #define IDC_LINE_RANGE 312
+#define IDC_FIND_WORD 313
+#define IDC_REPLACE_TEXT 314
+#define IDC_REPLACE_ALL 315
+#define IDC_REPLACE_SELECTED 316
 
 #define IDD_NODE 205
 #define IDD_BUILD 206
 #define IDD_MAKE 207
+#define IDD_REPLACE 208
 
 #define IDC_NODE_NAME 331
 #define IDC_NODE_TYPE 332

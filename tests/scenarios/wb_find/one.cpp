@@ -1,0 +1,4 @@
+int total;
+int subtotal = total;
+
+int sum() { return Total + total; }
