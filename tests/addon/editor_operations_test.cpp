@@ -47,45 +47,6 @@ int Client::living = 0;
 
 }  // namespace
 
-TEST_CASE("going to a line puts the caret there and shows the line after it") {
-  Session session;
-  session.create();
-  session.edit("x", 9);
-  kesto::goToLine("C:\\OTHER.CPP", 40);
-  CHECK(session.ide.editor.transactions == 0);
-  kesto::goToLine("C:\\A.CPP", 40);
-  CHECK(session.ide.editor.column == 1);
-  CHECK(session.ide.editor.line == 40);
-  CHECK(session.ide.editor.shown_line == 41);
-}
-
-TEST_CASE("the word at the caret is read and the caret stays") {
-  Session session;
-  session.create();
-  session.edit("int count;", 6);
-  char word[kesto::kWordBufferSize] = "old";
-  kesto::wordAtCursor("C:\\A.CPP", word);
-  CHECK(std::string(word) == "count");
-  CHECK(session.ide.editor.column == 6);
-  kesto::wordAtCursor("C:\\OTHER.CPP", word);
-  CHECK(std::string(word).empty());
-}
-
-TEST_CASE("completing without an engine finds nothing, and says so") {
-  Session session;
-  session.create();
-  session.edit("pri", 4);
-  kesto::completeAtCursor("C:\\A.CPP:120");
-  CHECK(session.lastStatus() == "No available completion");
-  CHECK(session.ide.editor.lines[0] == "pri");
-  session.ide.status_line.texts.clear();
-  session.ide.editor.column = 1;
-  kesto::completeAtCursor("C:\\A.CPP");
-  session.edit(std::string(100, 'w'), 101);
-  kesto::completeAtCursor("C:\\A.CPP");
-  CHECK(session.ide.status_line.texts.empty());
-}
-
 TEST_CASE("an engine's answer is inserted, and a second strike describes the word") {
   Session session;
   session.create();
@@ -147,16 +108,4 @@ TEST_CASE("a make client lives from registration to its end") {
   kesto::unregisterMakeClient();
   CHECK(session.ide.make.clients.empty());
   CHECK(Client::living == 0);
-}
-
-TEST_CASE("a node's option text is 1 or 0 by whether the node has it") {
-  Session session;
-  kesto::OptionsServiceHolder holder;
-  kesto::optionsServiceHolder = &holder;
-  kesto::String text("before");
-  CHECK(kesto::getOptionText(2, kOptionIncludePath, text) == 0);
-  CHECK(text == "before");
-  CHECK(kesto::getOptionText(1, kOptionIncludePath, text) == 1);
-  CHECK(text == "C:\\INC");
-  kesto::optionsServiceHolder = nullptr;
 }

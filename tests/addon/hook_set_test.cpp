@@ -12,29 +12,18 @@ namespace {
 class Host : public kesto::HookHost {
  public:
   bool navigation = true;
-  int button = -1;
   unsigned completion = 0;
   unsigned searches[4] = {};
-  bool follows = true;
-  bool watches = false;
-  bool on_top = false;
   int companions_shown = -1;
-  int auto_save_resets = 0;
 
   bool navigationEnabled() const override { return navigation; }
-  int titleButtonAt(HWND, POINT& point) const override {
-    if (button >= 0) {
-      point = {11, 22};
-    }
-    return button;
-  }
+  int titleButtonAt(HWND, POINT&) const override { return -1; }
   unsigned completionKey() const override { return completion; }
   unsigned searchKey(int search) const override { return searches[search]; }
-  bool barFollowsFrame() const override { return follows; }
-  bool barWatchesProjectView() const override { return watches; }
-  bool barStaysOnTop() const override { return on_top; }
+  bool barFollowsFrame() const override { return true; }
+  bool barWatchesProjectView() const override { return false; }
+  bool barStaysOnTop() const override { return false; }
   void showCompanions(bool shown) override { companions_shown = shown ? 1 : 0; }
-  void resetAutoSave() override { ++auto_save_resets; }
 };
 
 // Keys that a capturing window was sent.
@@ -118,82 +107,36 @@ LRESULT CALLBACK captureProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 
 }  // namespace
 
-TEST_CASE("clicks on an editor's title become commands and never reach the IDE") {
+TEST_CASE("a title is not clicked while a popup is open or its editor is disabled") {
   Hooked hooked;
-  const HWND editor = hooked.windows.editor("C:\\SRC\\A.CPP:2 *");
+  const HWND editor = hooked.windows.editor("C:\\SRC\\A.CPP");
   hooked.afterInput();
-
-  SUBCASE("a button") {
-    const int commands[] = {189, 187, 188};
-    const HWND other = hooked.windows.editor("C:\\SRC\\B.CPP");
-    SetWindowPos(other, HWND_TOP, 40, 160, 0, 0, SWP_NOSIZE);
-    hooked.afterInput();
-    for (int button = 0; button < 3; ++button) {
-      hooked.host.button = button;
-      hooked.click(editor, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-      const std::vector<int> ids = hooked.afterInput();
-      CHECK(std::count(ids.begin(), ids.end(), commands[button]) == 1);
-    }
-    CHECK(GetWindow(hooked.windows.client, GW_CHILD) == editor);
-    CHECK(hooked.hooks.target().window == editor);
-    CHECK(std::string(hooked.hooks.target().title) == "C:\\SRC\\A.CPP");
-    CHECK(std::string(hooked.hooks.target().file) == "C:\\SRC\\A.CPP");
-    CHECK(hooked.hooks.target().click.x == 11);
-    CHECK(hooked.hooks.target().click.y == 22);
-  }
-  SUBCASE("a title longer than the slots is cut, not written past them") {
-    for (const size_t length : {179U, 256U, 511U}) {
-      CAPTURE(length);
-      const std::string title = "C:\\" + std::string(length - 3, 'A');
-      SetWindowTextA(editor, title.c_str());
-      hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
-      std::vector<int> ids = hooked.afterInput();
-      CHECK(std::count(ids.begin(), ids.end(), 197) == 1);
-      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 178));
-      CHECK(std::string(hooked.hooks.target().documented) == title.substr(0, 510));
-      SetFocus(hooked.windows.frame);
-      hooked.host.searches[2] = VK_F5;
-      hooked.press({VK_F5});
-      ids = hooked.afterInput();
-      CHECK(std::count(ids.begin(), ids.end(), 192) == 1);
-      CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 255));
-    }
-  }
-  SUBCASE("not while a popup is open, the menus are off or the editor is disabled") {
-    hooked.host.button = 0;
-    hooked.hooks.suspend(true);
-    hooked.click(editor, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-    std::vector<int> ids = hooked.afterInput();
-    hooked.hooks.suspend(false);
-    CHECK(std::count(ids.begin(), ids.end(), 189) == 0);
-    hooked.host.navigation = false;
+  const auto clicked = [&] {
     hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
-    CHECK(hooked.afterInput().empty());
-    hooked.host.navigation = true;
-    EnableWindow(editor, FALSE);
-    hooked.click(editor, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
-    ids = hooked.afterInput();
-    CHECK(std::count(ids.begin(), ids.end(), 197) == 0);
-  }
+    const std::vector<int> ids = hooked.afterInput();
+    return std::count(ids.begin(), ids.end(), 197);
+  };
+  CHECK(clicked() == 1);
+  hooked.hooks.suspend(true);
+  CHECK(clicked() == 0);
+  hooked.hooks.suspend(false);
+  EnableWindow(editor, FALSE);
+  CHECK(clicked() == 0);
 }
 
-TEST_CASE("keys become commands when their whole code fits") {
+TEST_CASE("the completion key is for the text of an editor that can be used") {
   Hooked hooked;
   hooked.host.completion = 222;
-  hooked.host.searches[0] = 5116;  // Ctrl+Shift+F5
   hooked.host.searches[3] = 2116;  // Alt+F5
   hooked.afterInput();
-
   const auto pressed = [&](std::initializer_list<BYTE> keys) {
     hooked.press(keys);
     return hooked.afterInput();
   };
   const std::vector<int> nothing;
-  // No editor yet.
-  CHECK(pressed({222}) == nothing);
-  CHECK(pressed({VK_CONTROL, VK_SHIFT, VK_F5}) == nothing);
-  const HWND editor = hooked.windows.editor("C:\\A.CPP:1");
-  const HWND text = hooked.windows.editorText(editor);
+  CHECK(pressed({222}) == nothing);  // no editor yet
+  const std::string title = "C:\\" + std::string(508, 'A');
+  const HWND text = hooked.windows.editorText(hooked.windows.editor(title.c_str()));
   hooked.afterInput();
   CHECK(pressed({222}) == std::vector<int>{102});
   CHECK(pressed({VK_CONTROL, 222}) == nothing);
@@ -201,20 +144,14 @@ TEST_CASE("keys become commands when their whole code fits") {
   EnableWindow(hooked.windows.frame, FALSE);
   SetFocus(text);
   CHECK(pressed({222}) == nothing);
-  CHECK(pressed({VK_CONTROL, VK_SHIFT, VK_F5}) == nothing);
   EnableWindow(hooked.windows.frame, TRUE);
   SetFocus(hooked.windows.frame);
   CHECK(pressed({222}) == nothing);
   hooked.afterInput();
-  hooked.press({VK_CONTROL, VK_SHIFT, VK_F5});
-  CHECK(hooked.afterInput() == std::vector<int>{190});
-  CHECK(hooked.hooks.target().window == editor);
-  CHECK(std::string(hooked.hooks.target().title) == "C:\\A.CPP:1");
   hooked.press({VK_MENU, VK_F5});
   CHECK(hooked.afterInput() == std::vector<int>{193});
-  hooked.host.navigation = false;
-  hooked.press({VK_MENU, VK_F5});
-  CHECK(hooked.afterInput().empty());
+  // A title longer than its slot is cut, not written past it.
+  CHECK(std::string(hooked.hooks.target().title) == title.substr(0, 255));
 }
 
 TEST_CASE("a capturing window gets every key but the modifiers") {
@@ -269,27 +206,9 @@ TEST_CASE("windows that come, go and repaint are told by the host's wishes") {
   hooked.windows.drain();
   CHECK(paints_after_activation() == 0);
 
-  const auto open_and_close_project_view = [&] {
-    DestroyWindow(
-        hooked.windows.create(ideapi::kProjectClass, "", WS_CHILD, hooked.windows.client));
-    ids = hooked.windows.commands();
-    return std::count(ids.begin(), ids.end(), 103);
-  };
-  CHECK(open_and_close_project_view() == 0);
-  hooked.host.watches = true;
-  CHECK(open_and_close_project_view() == 2);
-
   // What belongs to the bar goes and comes with the frame.
   SendMessageA(hooked.windows.frame, WM_SIZE, SIZE_MINIMIZED, 0);
   CHECK(hooked.host.companions_shown == 0);
   SendMessageA(hooked.windows.frame, WM_SIZE, SIZE_RESTORED, 0);
   CHECK(hooked.host.companions_shown == 1);
-
-  PostMessageA(hooked.windows.frame, WM_COMMAND, 13104, 0);
-  PostMessageA(hooked.windows.bar, WM_COMMAND, 13104, 0);
-  hooked.windows.drain();
-  CHECK(hooked.host.auto_save_resets == 1);
-  // As a shortcut says it.
-  SendMessageA(hooked.windows.frame, WM_COMMAND, MAKEWPARAM(13104, 1), 0);
-  CHECK(hooked.host.auto_save_resets == 2);
 }

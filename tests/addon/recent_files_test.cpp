@@ -7,13 +7,6 @@
 
 namespace {
 
-void storeEntries(const char* subsection, int count, const std::string& text) {
-  for (int i = 0; i < count; ++i) {
-    kesto::settings().writeString(subsection, ("Entry" + std::to_string(i)).c_str(),
-                                  (text + std::to_string(i)).c_str());
-  }
-}
-
 std::string stored(const char* section, const char* name) {
   char text[kesto::SettingsStore::kValueSize];
   kesto::settings().readString(section, name, text, sizeof text, "(none)");
@@ -21,37 +14,6 @@ std::string stored(const char* section, const char* name) {
 }
 
 }  // namespace
-
-TEST_CASE("counts and maxima of any kind give lists of what is there") {
-  const struct {
-    const char* count;
-    const char* maximum;
-    int entries;
-    int loaded;
-  } rows[] = {{"5", "50", 3, 3},
-              {"2", "50", 3, 2},
-              {"5", "2", 5, 2},
-              {"-1", "50", 3, 0},
-              {"2000000000", "50", 3, 3},
-              {"many", "50", 3, 0},
-              {"9", "2000000000", 9, 9},
-              {"9", "-1", 9, 0},
-              {"9", "text", 9, 9},
-              {"500", "500", 250, 199},
-              {"3", "0", 3, 0}};
-  for (const auto& row : rows) {
-    const OwnSettings settings;
-    CAPTURE(row.count);
-    CAPTURE(row.maximum);
-    kesto::settings().writeString("TopBar", "NbINC", row.count);
-    kesto::settings().writeString("TopBar", "MaxINC", row.maximum);
-    storeEntries("TopBar\\INC", row.entries, "h");
-    kesto::RecentFiles files(nullptr);
-    CHECK(files.headers().count() == row.loaded);
-    CHECK(files.projects().count() == 0);
-    CHECK(files.projects().maximum() == 10);
-  }
-}
 
 TEST_CASE("lists come back as they were saved; long entries are cut or end the list") {
   const OwnSettings settings;
@@ -81,22 +43,10 @@ TEST_CASE("lists come back as they were saved; long entries are cut or end the l
   CHECK(std::string(next_run.headers().at(0)) == "C:\\a.h");
 }
 
-TEST_CASE("a header that was used shows in its submenu with its whole path") {
+TEST_CASE("a header is remembered whatever the bar has become") {
   BarSession session;
   session.create();
   kesto::RecentFiles& files = *kesto::recentFiles;
-  CHECK(files.headerUsed("C:\\p\\a.h:2", nullptr) == 1);
-  CHECK(files.headerUsed("C:\\p\\b.h", nullptr) == 1);
-  CHECK(files.headerUsed("C:\\p\\c.cpp", nullptr) == 1);
-  CHECK(files.headerUsed("C:\\P\\A.H", nullptr) == 1);
-  const HMENU headers = GetSubMenu(GetSubMenu(GetMenu(session.windows.bar), 0), 0);
-  CHECK(BarSession::texts(headers) == std::vector<std::string>{"C:\\P\\A.H", "C:\\p\\b.h"});
-  CHECK(GetMenuItemID(headers, 1) == 401);
-  kesto::barMenu->rebuild();
-  CHECK(BarSession::texts(GetSubMenu(GetSubMenu(GetMenu(session.windows.bar), 0), 0)) ==
-        std::vector<std::string>{"A.H", "b.h"});
-
-  // What a bar without these menus says; the list is in order all the same.
   const HMENU full = GetMenu(session.windows.bar);
   const HMENU bar = CreateMenu();
   const auto said = [&](HMENU menu) {
@@ -112,7 +62,7 @@ TEST_CASE("a header that was used shows in its submenu with its whole path") {
   CHECK(said(bar) == "mnu.taille=0");
   AppendMenuA(popup, MF_STRING, 199, "Options...");
   CHECK(said(bar) == "Pas de hh");
-  CHECK(files.headers().count() == 3);
+  CHECK(files.headers().count() == 1);
   SetMenu(session.windows.bar, full);
   DestroyMenu(bar);
 }

@@ -13,125 +13,19 @@
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
 
-namespace {
-
-// A bar of the given look and margins with a menu of that many entries.
-class Bar {
- public:
-  Bar(bool new_shell, int left, int right, int entries = 0) {
-    kesto::settings().writeInteger("TopBar", "LeftMargin", left);
-    kesto::settings().writeInteger("TopBar", "RightMargin", right);
-    kesto::registerBarClass(GetModuleHandleA(nullptr));
-    window = kesto::createBarWindow(GetModuleHandleA(nullptr), new_shell);
-    REQUIRE(window != nullptr);
-    kesto::topBar = new kesto::TopBar(new_shell, window);
-    setEntries(entries);
-    ShowWindow(window, SW_SHOWNA);
-  }
-  ~Bar() {
-    delete kesto::topBar;
-    kesto::topBar = nullptr;
-    DestroyWindow(window);
-    kesto::unregisterBarClass(GetModuleHandleA(nullptr));
-  }
-  Bar(const Bar&) = delete;
-  Bar& operator=(const Bar&) = delete;
-
-  void setEntries(int count) {
-    const HMENU menu = GetMenu(window);
-    while (GetMenuItemCount(menu) > 0) {
-      DeleteMenu(menu, 0, MF_BYPOSITION);
-    }
-    for (int i = 0; i < count; ++i) {
-      AppendMenuA(menu, MF_STRING, 20001U + static_cast<UINT>(i), "an entry");
-    }
-    DrawMenuBar(window);
-  }
-  RECT frame() const {
-    RECT rect = {};
-    GetWindowRect(window, &rect);
-    return rect;
-  }
-  int height() const { return frame().bottom - frame().top; }
-  int clientHeight() const {
-    RECT rect = {};
-    GetClientRect(window, &rect);
-    return rect.bottom;
-  }
-  bool showsLastEntry() const {
-    const HMENU menu = GetMenu(window);
-    RECT entry = {};
-    const UINT last = static_cast<UINT>(GetMenuItemCount(menu)) - 1;
-    return GetMenuItemRect(window, menu, last, &entry) != FALSE && entry.bottom <= frame().bottom;
-  }
-
-  HWND window = nullptr;
-};
-
-int screenWidth() {
-  return GetSystemMetrics(SM_CXSCREEN);
-}
-
-int oneRow(bool new_shell) {
-  return GetSystemMetrics(SM_CYMENU) + 1 + (new_shell ? 0 : GetSystemMetrics(SM_CYCAPTION));
-}
-
-}  // namespace
-
-TEST_CASE("the bar shows all rows of its menu while it is expanded, and else the first") {
-  OwnSettings root;
-  for (const bool new_shell : {true, false}) {
-    CAPTURE(new_shell);
-    Bar bar(new_shell, 100, screenWidth() - 400, 30);
-    HWND above = CreateWindowExA(WS_EX_TOPMOST, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 300, 50, 50,
-                                 nullptr, nullptr, nullptr, nullptr);
-    SetWindowPos(above, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    const HWND below = GetWindow(bar.window, GW_HWNDNEXT);
-    kesto::topBar->collapse();  // not expanded: stays as it was created
-    CHECK(bar.frame().right - bar.frame().left == screenWidth() + 2);
-
-    SendMessageA(bar.window, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(bar.window)), 0);
-    const int expanded = bar.height();
-    CHECK(bar.frame().left == 100);
-    CHECK(bar.frame().right == 400);
-    CHECK(bar.frame().top == (new_shell ? -2 : -2 - GetSystemMetrics(SM_CYMENU)));
-    CHECK(expanded > oneRow(new_shell) + 2 * GetSystemMetrics(SM_CYMENU));
-    CHECK(bar.clientHeight() == 0);
-    CHECK(bar.showsLastEntry());
-
-    SendMessageA(bar.window, WM_COMMAND, 20001, 0);
-    CHECK(bar.height() == oneRow(new_shell));
-    CHECK(!bar.showsLastEntry());
-    CHECK(GetWindow(above, GW_HWNDNEXT) == bar.window);
-    CHECK(GetWindow(bar.window, GW_HWNDNEXT) == below);
-
-    // Measured once, until told to forget.
-    bar.setEntries(2);
-    kesto::topBar->expand();
-    CHECK(bar.height() == expanded);
-    SendMessageA(bar.window, WM_COMMAND, 111, 0);
-    CHECK(bar.height() == expanded);
-    SendMessageA(bar.window, WM_ACTIVATE, WA_INACTIVE, 0);
-    CHECK(bar.height() == oneRow(new_shell));
-    kesto::topBar->forgetExpandedHeight();
-    kesto::topBar->expand();
-    CHECK(bar.height() < expanded);
-    CHECK(bar.showsLastEntry());
-    DestroyWindow(above);
-  }
-}
-
 TEST_CASE("the bar hands activation on and is not closed by a person") {
   OwnSettings root;
   WindowFixture windows;
-  Bar bar(true, 0, 0, 3);
-  SetActiveWindow(bar.window);
+  kesto::registerBarClass(GetModuleHandleA(nullptr));
+  const HWND bar = kesto::createBarWindow(GetModuleHandleA(nullptr), true);
+  ShowWindow(bar, SW_SHOWNA);
+  SetActiveWindow(bar);
   CHECK(GetActiveWindow() == windows.frame);
-  CHECK(GetFocus() != bar.window);
+  CHECK(GetFocus() != bar);
   // A box without owner closes, and the bar is the next window in order.
   const HWND box = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, nullptr);
-  SetWindowPos(bar.window, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  SetWindowPos(bar.window, box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(bar, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(bar, box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   CHECK(GetActiveWindow() == box);
   DestroyWindow(box);
   CHECK(GetActiveWindow() == windows.frame);
@@ -139,13 +33,15 @@ TEST_CASE("the bar hands activation on and is not closed by a person") {
   const HWND dialog = windows.create("#32770", "", WS_POPUP | WS_VISIBLE, windows.frame);
   SetActiveWindow(dialog);
   EnableWindow(windows.frame, FALSE);
-  SetActiveWindow(bar.window);
+  SetActiveWindow(bar);
   CHECK(GetActiveWindow() == dialog);
   EnableWindow(windows.frame, TRUE);
   DestroyWindow(dialog);
 
-  SendMessageA(bar.window, WM_SYSCOMMAND, SC_CLOSE, 0);
-  CHECK(IsWindow(bar.window));
+  SendMessageA(bar, WM_SYSCOMMAND, SC_CLOSE, 0);
+  CHECK(IsWindow(bar));
+  DestroyWindow(bar);
+  kesto::unregisterBarClass(GetModuleHandleA(nullptr));
 }
 
 TEST_CASE("the completion key is one while something completes") {
@@ -162,29 +58,6 @@ TEST_CASE("the completion key is one while something completes") {
   kesto::completionSource = nullptr;
   delete kesto::completionSettings;
   kesto::completionSettings = nullptr;
-}
-
-TEST_CASE("the bar takes any margins") {
-  OwnSettings root;
-  const struct {
-    int left;
-    int right;
-    int width;
-  } rows[] = {{0, 0, screenWidth()},
-              {-30, -10, screenWidth() + 40},
-              {screenWidth(), 0, 0},
-              {screenWidth(), screenWidth(), 0}};
-  for (const auto& row : rows) {
-    CAPTURE(row.left);
-    CAPTURE(row.right);
-    Bar bar(true, row.left, row.right, 3);
-    kesto::topBar->expand();
-    CHECK(bar.height() <= GetSystemMetrics(SM_CYSCREEN) - 80 + GetSystemMetrics(SM_CYMENU));
-    kesto::topBar->collapse();
-    CHECK(bar.frame().left == row.left);
-    CHECK(bar.frame().right - bar.frame().left == row.width);
-    CHECK(bar.height() == oneRow(true));
-  }
 }
 
 TEST_CASE("settings go back under their names, with the values that were read") {

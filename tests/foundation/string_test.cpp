@@ -31,18 +31,6 @@ TEST_CASE("a string holds what it is made of, assigned and appended") {
   CHECK(copy == "abc7-x");
 }
 
-TEST_CASE("a string may be assigned and appended to from its own text") {
-  String text("abcdef");
-  text += text;
-  text += text.text() + 10;
-  CHECK(text == "abcdefabcdefef");
-  text = text.text() + 4;
-  CHECK(text == "efabcdefef");
-  const String& same = text;
-  text = same;
-  CHECK(text == "efabcdefef");
-}
-
 TEST_CASE("a text shortened through its pointer is continued where it ends") {
   String text("abcdef");
   static_cast<char*>(text)[2] = '\0';
@@ -103,21 +91,6 @@ TEST_CASE("a string's file form") {
     CHECK(read == c.text);
     CHECK(read.length() == c.text.length());
   }
-}
-
-TEST_CASE("a long string and a short one are read into the same object") {
-  std::string lengthy;
-  for (int i = 0; i < 1000; ++i) {
-    lengthy += std::to_string(10000 + i);
-  }
-  const ByteFile file("\x88\x13"s + lengthy + "\0\3\0abc\0"s);
-  String read;
-  CHECK(read.fRead(file.get()) == 1);
-  CHECK(read.length() == 5000);
-  CHECK(read == lengthy.c_str());
-  CHECK(read.fRead(file.get()) == 1);
-  CHECK(read.length() == 3);
-  CHECK(read == "abc");
 }
 
 TEST_CASE("a damaged string is a failed read") {

@@ -93,25 +93,6 @@ TEST_CASE("a table emptied by a single removal is ready for the next insertion")
   CHECK(wide.capacity() == 3);
 }
 
-TEST_CASE("elements are placed, moved and found by position") {
-  Tableau<String> table;
-  fill(table, 4);
-  table.insert(new String("in"), 2);
-  CHECK(texts(table) == "0 1 in 2 3 ");
-  String* taken = table.remove(0);
-  CHECK(table.indexOf(taken) == 65535);
-  CHECK(table.indexOf(table.at(3)) == 3);
-  table.swapWithNext(0);
-  table.append(taken);
-  CHECK(texts(table) == "in 1 2 3 0 ");
-  table.removeRange(0, 2);
-  CHECK(texts(table) == "2 3 0 ");
-  table.removeRange(1, 2);
-  CHECK(texts(table) == "2 ");
-  table.removeRange(0, 99);
-  CHECK(table.count() == 0);
-}
-
 TEST_CASE("an owning table deletes what it drops, another leaves it") {
   int dead = 0;
   {
@@ -174,19 +155,6 @@ TEST_CASE("a table's file form, and a table of tables") {
   REQUIRE(read.count() == 2);
   CHECK(texts(*read.at(0)) == "ab  ");
   CHECK(read.at(1)->count() == 0);
-}
-
-TEST_CASE("a table cut off anywhere is a failed read with null slots") {
-  const std::string whole = "\2\0\0\0"s + "\1\0a\0"s + "\1\0b\0"s;
-  for (std::size_t size = 0; size < whole.size(); ++size) {
-    CAPTURE(size);
-    Tableau<String> read;
-    fill(read, 3);
-    CHECK(read.fRead(ByteFile(whole.substr(0, size)).get()) == 0);
-    CHECK(texts(read) == (size < 4 ? "" : size < 8 ? "- - " : "a - "));
-    const ByteFile file;
-    CHECK((size < 4) == (read.fWrite(file.get()) == 1));
-  }
 }
 
 TEST_CASE("a count that the file cannot hold opens no slots") {

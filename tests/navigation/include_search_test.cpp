@@ -1,50 +1,26 @@
 #include "addon/navigation/include_search.h"
 
-#include <map>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "addon/foundation/path.h"
 #include "doctest.h"
+#include "tests/foundation/played_tree.h"
 
 namespace kesto {
 
 namespace {
 
-class FakeDisk : public DirectoryLister, public FileLookup {
+class Files : public FileLookup {
  public:
-  void file(const std::string& path) { files_.insert(path); }
-  void directory(const std::string& path, std::vector<std::string> names) {
-    directories_[path] = std::move(names);
-  }
-  // Every directory of the drive C holds two more, for ever.
-  void makeEndless() { endless_ = true; }
-
-  bool isFile(const char* path) override { return files_.count(path) > 0; }
-  void list(const char* directory, const char* /*mask*/, DirectoryEntries& entries) override {
-    ++listed;
-    const std::vector<std::string> found = endless_ && directory[0] == 'C'
-                                               ? std::vector<std::string>{"loop", "more"}
-                                               : directories_[directory];
-    for (const std::string& name : found) {
-      entries.add(
-          name == "link" ? DirectoryEntries::Kind::kLink : DirectoryEntries::Kind::kDirectory,
-          name);
-    }
-  }
-  int listed = 0;
-
- private:
-  std::set<std::string> files_;
-  std::map<std::string, std::vector<std::string>> directories_;
-  bool endless_ = false;
+  bool isFile(const char* path) override { return paths.count(path) > 0; }
+  std::set<std::string> paths;
 };
 
-std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
+std::string find(PlayedTree& tree, Files& files, std::string_view path, std::string_view name) {
   String found("untouched");
-  Folders folders(disk);
-  const bool success = findInclude(folders, disk, path, name, found);
+  Folders folders(tree);
+  const bool success = findInclude(folders, files, path, name, found);
   CHECK(success == !(found == "untouched"));
   return found.text();
 }
@@ -52,16 +28,13 @@ std::string find(FakeDisk& disk, std::string_view path, std::string_view name) {
 }  // namespace
 
 TEST_CASE("a header is sought in each directory, then below it, depth first") {
-  FakeDisk disk;
-  disk.directory("C:\\P", {".git", "link", "b", "a"});
-  disk.file("C:\\P\\link\\x.h");
-  disk.directory("C:\\P\\b", {"deep"});
-  disk.file("C:\\P\\b\\deep\\x.h");
-  disk.file("C:\\P\\a\\x.h");
-  disk.file("C:\\P\\a\\y.h");
-  disk.file("C:\\P\\.git\\z.h");
-  disk.file("D:\\inc\\x.h");
-  disk.file("D:\\inc\\z.h");
+  PlayedTree tree;
+  tree.folders["C:\\P"] = {".git", "b", "a"};
+  tree.links["C:\\P"] = {"link"};
+  tree.folders["C:\\P\\b"] = {"deep"};
+  Files files;
+  files.paths = {"C:\\P\\link\\x.h", "C:\\P\\b\\deep\\x.h", "C:\\P\\a\\x.h", "C:\\P\\a\\y.h",
+                 "C:\\P\\.git\\z.h", "D:\\inc\\x.h",        "D:\\inc\\z.h"};
   const struct {
     const char *path, *name, *found;
   } cases[] = {
@@ -76,20 +49,19 @@ TEST_CASE("a header is sought in each directory, then below it, depth first") {
   for (const auto& c : cases) {
     CAPTURE(c.path);
     CAPTURE(c.name);
-    CHECK(find(disk, c.path, c.name) == c.found);
+    CHECK(find(tree, files, c.path, c.name) == c.found);
   }
 }
 
 // Those that stand on the path are looked into all the same, but for what is below them.
 TEST_CASE("directories without end leave the path's own") {
-  FakeDisk disk;
-  disk.makeEndless();
-  disk.file("D:\\inc\\x.h");
-  disk.directory("D:\\inc", {"sub"});
-  disk.file("D:\\inc\\sub\\y.h");
-  CHECK(find(disk, "C:\\P;C:\\Q;D:\\inc", "x.h") == "D:\\inc\\x.h");
-  CHECK(disk.listed == kDirectoryLimit);
-  CHECK(find(disk, "C:\\P;D:\\inc", "y.h") == "untouched");
+  PlayedTree tree;
+  tree.endless = true;
+  Files files;
+  files.paths = {"D:\\inc\\x.h", "D:\\inc\\loop\\y.h"};
+  CHECK(find(tree, files, "C:\\P;C:\\Q;D:\\inc", "x.h") == "D:\\inc\\x.h");
+  CHECK(tree.listed.size() == kDirectoryLimit);
+  CHECK(find(tree, files, "C:\\P;D:\\inc", "y.h") == "untouched");
 }
 
 TEST_CASE("the search path") {

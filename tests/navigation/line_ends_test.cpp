@@ -76,17 +76,4 @@ TEST_CASE("every search finds the same lines, whatever the text") {
   }
 }
 
-TEST_CASE("a pair, a line and a zero byte across the border of a block") {
-  for (std::size_t size = 60; size <= 68; ++size) {
-    const std::string filler(size, 'x');
-    for (const std::string& text : {filler + "\r\nyz", filler + "\n\ryz", filler + "\ry\nzz"}) {
-      CHECK(readInBlocks<LineSearch>(text) == readPlainly(text));
-    }
-    // Nothing after a zero byte is a line.
-    const std::string ended = filler + '\0' + "\nyz";
-    CHECK(readInBlocks<LineSearch>(ended) == NumberedLines{{1, filler}});
-    CHECK(readInBlocks<WordSearch>(ended) == NumberedLines{{1, filler}});
-  }
-}
-
 }  // namespace kesto

@@ -59,31 +59,8 @@ TEST_CASE("each popup starts a column after a full one") {
   }
 }
 
-TEST_CASE("entries without an identifier of their own are shown and cannot be chosen") {
-  Tableau<Fnc> functions;
-  for (int i = 0; i < 9005; ++i) {
-    functions.append(new Fnc("f", i < 8999 ? "" : "C", 1));
-  }
-  const MenuPlan plan = planFunctionsMenu(functions, 50);
-  REQUIRE(plan.size() == 9000);
-  REQUIRE(plan.back().submenu.size() == 6);
-  CHECK(plan.back().submenu[0].id == 9999);
-  for (std::size_t i = 0; i < 6; ++i) {
-    CHECK(plan.back().submenu[i].enabled == (i == 0));
-  }
-
+TEST_CASE("what is too much for a menu is told at its end") {
   Tableau<String> includes;
-  for (int i = 0; i < 103; ++i) {
-    includes.append(new String(i));
-  }
-  const MenuPlan headers = planIncludesMenu(includes);
-  REQUIRE(headers.size() == 103);
-  CHECK(headers[99].id == 799);
-  CHECK(headers[99].enabled);
-  CHECK_FALSE(headers[100].enabled);
-  CHECK(headers[102].text == "102");
-
-  // A source that a program wrote: the menu tells what it does not show.
   while (includes.count() < 5000) {
     includes.append(new String("x.h"));
   }

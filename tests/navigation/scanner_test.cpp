@@ -87,15 +87,6 @@ TEST_CASE("a scan replaces the list of the one before") {
   }
 }
 
-TEST_CASE("lines of any length") {
-  const std::string filler(10000, 'x');
-  Tableau<Fnc> functions;
-  scanFunctions(filler + "\nint " + filler + "(" + filler + ")\n" + filler + "();", functions);
-  REQUIRE(functions.count() == 1);
-  CHECK(functions[0]->line() == 2);
-  CHECK(functions[0]->name() == filler);
-}
-
 TEST_CASE("an include name is cut at 199 characters") {
   Tableau<String> includes;
   scanIncludes(

@@ -1,4 +1,3 @@
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -12,6 +11,7 @@
 #include "addon/navigation/search_plan.h"
 #include "doctest.h"
 #include "tests/foundation/byte_file.h"
+#include "tests/foundation/played_tree.h"
 
 namespace kesto {
 
@@ -24,39 +24,6 @@ std::string steps(Search search, const SearchPlaces& places) {
   }
   return text;
 }
-
-// A tree played by the test: the files, directories and links of each directory, in
-// listing order. Masks that only the system can judge fit "odd.c".
-class PlayedTree : public DirectoryLister {
- public:
-  using Kind = DirectoryEntries::Kind;
-  using Names = std::vector<std::string>;
-  std::map<std::string, Names> files;
-  std::map<std::string, Names> directories;
-  std::map<std::string, Names> links;
-  std::map<std::string, std::string> short_names;
-  bool endless = false;  // every directory holds two more
-  std::vector<std::string> listed;
-
-  void list(const char* directory, const char* mask, DirectoryEntries& entries) override {
-    listed.push_back(std::string(directory) + '|' + mask);
-    if (mask != std::string("*")) {
-      entries.add(Kind::kDirectory, "odd.d");
-      entries.add(Kind::kFile, "odd.c");
-      return;
-    }
-    add(Kind::kFile, files[directory], entries);
-    add(Kind::kLink, links[directory], entries);
-    add(Kind::kDirectory, endless ? Names{"loop", "more"} : directories[directory], entries);
-  }
-
- private:
-  void add(Kind kind, const Names& names, DirectoryEntries& entries) {
-    for (const std::string& name : names) {
-      entries.add(kind, name, short_names[name]);
-    }
-  }
-};
 
 class Visits : public FileVisitor {
  public:
@@ -109,15 +76,15 @@ TEST_CASE("where each search walks") {
 
 TEST_CASE("files come before directories, depth first in listing order") {
   PlayedTree tree;
-  tree.files["C:\\P"] = {"z.c", "a.c", "a.h"};
-  tree.files["C:\\P\\sub"] = {"s.c"};
-  tree.files["C:\\P\\sub\\deep"] = {"d.c"};
-  tree.files["C:\\P\\other"] = {"o.c"};
-  tree.files["C:\\P\\.git"] = {"g.c"};
-  tree.files["C:\\P\\link"] = {"l.c"};
+  tree.sources["C:\\P"] = {"z.c", "a.c", "a.h"};
+  tree.sources["C:\\P\\sub"] = {"s.c"};
+  tree.sources["C:\\P\\sub\\deep"] = {"d.c"};
+  tree.sources["C:\\P\\other"] = {"o.c"};
+  tree.sources["C:\\P\\.git"] = {"g.c"};
+  tree.sources["C:\\P\\link"] = {"l.c"};
   tree.links["C:\\P"] = {"link"};
-  tree.directories["C:\\P"] = {".", "..", ".git", "sub", "other"};
-  tree.directories["C:\\P\\sub"] = {".", "..", "deep"};
+  tree.folders["C:\\P"] = {".", "..", ".git", "sub", "other"};
+  tree.folders["C:\\P\\sub"] = {".", "..", "deep"};
   const std::string top = "C:\\P\\z.c C:\\P\\a.c ";
   const struct {
     bool recurse;
@@ -137,7 +104,7 @@ TEST_CASE("files come before directories, depth first in listing order") {
     CHECK(walkDirectory(folders, "C:\\P", "*.c", c.recurse, visits) == (visits.stop_at != "never"));
     CHECK(visits.paths == c.expected);
   }
-  tree.files["E:\\"] = {"root.c"};
+  tree.sources["E:\\"] = {"root.c"};
   Visits root;
   Folders folders(tree);
   walkDirectory(folders, "E:\\", "*.c", true, root);
@@ -146,10 +113,10 @@ TEST_CASE("files come before directories, depth first in listing order") {
 
 TEST_CASE("a search lists a directory once, whatever the masks and wherever it starts") {
   PlayedTree tree;
-  tree.files["P"] = {"x.html", std::string("y.c\0\0", 5)};
+  tree.sources["P"] = {"x.html", std::string("y.c\0\0", 5)};
   tree.short_names["x.html"] = "X~1.HTM";
-  tree.directories["P"] = {"sub"};
-  tree.files["P\\sub"] = {"s.h"};
+  tree.folders["P"] = {"sub"};
+  tree.sources["P\\sub"] = {"s.h"};
   Folders folders(tree);
   Visits visits;
   for (const char* mask : {"*.htm", "*.h", "*.c"}) {
@@ -214,7 +181,7 @@ TEST_CASE("directories without end and paths without end are left") {
     CHECK(tree.listed.size() == kDirectoryLimit);
   }
   // "C:\P\" and 254 characters are 259.
-  tree.files["C:\\R"] = {std::string(253, 'x') + ".c", std::string(252, 'y') + ".c"};
+  tree.sources["C:\\R"] = {std::string(253, 'x') + ".c", std::string(252, 'y') + ".c"};
   Folders others(tree);
   CHECK_FALSE(walkDirectory(others, "C:\\R", "*.c", false, visits));
   CHECK(visits.paths == "C:\\R\\" + std::string(252, 'y') + ".c ");
@@ -234,9 +201,9 @@ TEST_CASE("who looks on ends all walks of a search") {
     int most_;
   };
   PlayedTree tree;
-  tree.files["P"] = {"a.c", "b.c"};
-  tree.directories["P"] = {"sub"};
-  tree.files["P\\sub"] = {"c.c", "d.c"};
+  tree.sources["P"] = {"a.c", "b.c"};
+  tree.folders["P"] = {"sub"};
+  tree.sources["P\\sub"] = {"c.c", "d.c"};
   Watch watch(5);
   Folders folders(tree, &watch);
   Visits visits;

@@ -1,21 +1,15 @@
-// The classes made of resource scripts. data/NAME.rc is the only script of a unit NAME,
-// whose files must be data/rcNAME.h and data/rcNAME.cpp.
+// The classes made of resource scripts; whole units are compared by scenarios.
 #include <memory>
 #include <string>
 
-#include "addon/rcgen/class_unit.h"
 #include "addon/rcgen/rc_fields.h"
 #include "addon/rcgen/rc_reader.h"
 #include "doctest.h"
-#include "tests/data_file.h"
-#include "tests/rcgen/played_files.h"
 #include "tests/rcgen/text_count.h"
 
 namespace kesto {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 struct Texts {
   std::string header;
@@ -38,29 +32,6 @@ std::string many(int n, const std::string& before, const std::string& after) {
 }
 
 }  // namespace
-
-TEST_CASE("each unit's files are those written out for it") {
-  int cases = 0;
-  for (const auto& entry : fs::directory_iterator(TEST_DATA_DIR "/rcgen/data")) {
-    const fs::path& path = entry.path();
-    if (path.extension() != ".rc") {
-      continue;
-    }
-    const std::string unit = path.stem().string();
-    CAPTURE(unit);
-    PlayedFiles files;
-    files.scripts["P"] = {path.filename().string()};
-    files.put("P\\" + unit + ".rc", tests::contents(path));
-    Folders folders(files);
-    updateClassUnit(files.host(), folders, {"P", String(unit.c_str())});
-    for (const char* extension : {".h", ".cpp"}) {
-      const std::string name = "rc" + unit + extension;
-      tests::checkFile(path.parent_path() / name, files.files["P\\" + name].text);
-    }
-    ++cases;
-  }
-  CHECK(cases == 2);
-}
 
 TEST_CASE("fields of a line") {
   struct Row {

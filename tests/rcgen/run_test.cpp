@@ -71,7 +71,7 @@ TEST_CASE("classes longer than their scripts are written in pieces") {
     script += "D DIALOG 1\nMENU M\n{\n}\n";
   }
   PlayedFiles files;
-  files.scripts["P"] = {"a.rc"};
+  files.sources["P"] = {"a.rc"};
   files.put("P\\a.rc", script);
   std::int32_t build_number = 0;
   const std::string done = ran(files, kClasses, build_number);
@@ -96,11 +96,11 @@ TEST_CASE("classes longer than their scripts are written in pieces") {
 TEST_CASE("units are made in order, each when something of its own changed") {
   PlayedFiles files;
   std::int32_t build_number = 0;
-  files.subdirectories["P"] = {".", "..", "src", "res"};
+  files.folders["P"] = {".", "..", "src", "res"};
   files.links["P"] = {"link"};
-  files.subdirectories["P\\src"] = {"deeper"};
-  files.scripts["P"] = {"a.rc", ".b.rc"};
-  files.scripts["P\\res"] = {"c.rc", "d.rc"};
+  files.folders["P\\src"] = {"deeper"};
+  files.sources["P"] = {"a.rc", ".b.rc"};
+  files.sources["P\\res"] = {"c.rc", "d.rc"};
   files.put("P\\a.rc", "A DIALOG 1\n}\n");
   files.put("P\\res\\c.rc", "C DIALOG 1\n}\n");
   files.put("P\\res\\d.rc", "D DIALOG 1\n}\n");
@@ -180,8 +180,8 @@ TEST_CASE("lines and numbers of a version resource") {
 TEST_CASE("the version files of a tree") {
   PlayedFiles files;
   std::int32_t build_number = 0;
-  files.subdirectories["P"] = {".", "..", "a", "b"};
-  files.subdirectories["P\\a"] = {".", "..", "c"};
+  files.folders["P"] = {".", "..", "a", "b"};
+  files.folders["P\\a"] = {".", "..", "c"};
   files.links["P\\a"] = {"link"};
   files.put("P\\VERSION.RC", "FILEVERSION 1,0,0,41\n");
   files.put("P\\a\\VERSION.RC", "FILEVERSION 1,0,0,2\n");
@@ -223,31 +223,6 @@ TEST_CASE("the version files of a tree") {
   CHECK(files.takeDone() == "list P\nlist P\\a\n");
 }
 
-TEST_CASE("what is UTF-16 is left alone") {
-  PlayedFiles files;
-  std::int32_t build_number = 0;
-  const std::string wide("\xFF\xFE#\0d\0", 6);
-  const std::string narrow = "FILEVERSION 1,0,0,5\n";
-  files.scripts["P"] = {"a.rc", "b.rc"};
-  files.put("P\\a.rc", wide);
-  files.put("P\\b.rc", "B DIALOG 1\n}\n");
-  files.subdirectories["P"] = {"s"};
-  files.put("P\\VERSION.RC", "\xFE\xFF");
-  files.put("P\\s\\VERSION.RC", narrow);
-  files.put("P\\s\\VERSION.BAK", wide);
-  ran(files, {true, true}, build_number);
-  CHECK(count(files.files["P\\rc.h"].text, "class ") == 1);
-  CHECK(files.files["P\\a.rc"].text == wide);
-  CHECK(files.files["P\\VERSION.RC"].text == "\xFE\xFF");
-  CHECK(files.files["P\\s\\VERSION.RC"].text == narrow);
-  CHECK(files.files.count("P\\VERSION.BAK") == 0);
-  CHECK(build_number == 1);
-  CHECK(files.notices ==
-        "P\\a.rc is UTF-16: no classes are made of it\n"
-        "P\\s\\VERSION.BAK is UTF-16: the version is not stamped\n"
-        "P\\VERSION.RC is UTF-16: the version is not stamped\n");
-}
-
 TEST_CASE("a text that a backup from elsewhere replaces is kept once") {
   PlayedFiles files;
   std::int32_t build_number = 0;
@@ -283,7 +258,7 @@ using Texts = std::map<std::string, std::string>;
 // A project before a make: its files in the order of their times.
 PlayedFiles project(const std::vector<std::pair<std::string, std::string>>& before) {
   PlayedFiles files;
-  files.scripts["P"] = {"a.rc"};
+  files.sources["P"] = {"a.rc"};
   for (const auto& [name, text] : before) {
     ++files.now;
     files.put("P\\" + name, text);
@@ -375,15 +350,6 @@ TEST_CASE("a step that fails leaves every file as it was, and an ended process a
       CHECK(files.texts() == after);
     }
   }
-}
-
-TEST_CASE("directories without end") {
-  PlayedFiles files;
-  files.endless = true;
-  std::int32_t build_number = std::numeric_limits<std::int32_t>::max();
-  const std::string done = ran(files, kVersions, build_number);
-  CHECK(std::count(done.begin(), done.end(), '\n') == kDirectoryLimit);
-  CHECK(build_number == std::numeric_limits<std::int32_t>::min());
 }
 
 }  // namespace kesto

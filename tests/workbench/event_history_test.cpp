@@ -64,6 +64,9 @@ TEST_CASE("A query compares one field of an event") {
       {{"menu", "item", "Open..."}, true},
       {{"menu", "item", "&Open...\tF3"}, true},
       {{"menu", "item", "Close"}, false},
+      {{"menu", "all.id", "7"}, true},
+      {{"menu", "all.text", "&Open...\tF3|Quit"}, true},
+      {{"menu", "all.text", "&Open...\tF3"}, false},
       {{"menu", "count", "2"}, true},
       {{"menu", "count", "1"}, false},
   };

@@ -69,18 +69,6 @@ TEST_CASE("A JSON string is escaped") {
   }
 }
 
-TEST_CASE("An event is one line of JSON, its fields in the order given") {
-  CHECK(Event("quiet").toJson() == R"({"event":"quiet"})");
-  Event event("menu");
-  event.text("name", "a \"b\"")
-      .number("id", -7)
-      .flag("on", true)
-      .list("items", {Event("left out").text("text", "x").flag("popup", false), Event("")})
-      .list("none", {});
-  CHECK(event.toJson() == R"({"event":"menu","name":"a \"b\"","id":-7,"on":true,)"
-                          R"("items":[{"text":"x","popup":false},{}],"none":[]})");
-}
-
 TEST_CASE("An event emitted by the listener follows the current one") {
   EventLog log;
   log.setOutput(false);

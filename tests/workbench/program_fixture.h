@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,16 @@ class ScratchFolder {
   std::string path_;
 };
 
+// What is given back at the end.
+struct Releases {
+  template <typename Interface>
+  void operator()(Interface* held) const {
+    held->Release();
+  }
+};
+template <typename Interface>
+using Taken = std::unique_ptr<Interface, Releases>;
+
 // The program without its message loop, its events kept.
 class Program {
  public:
@@ -87,9 +98,12 @@ class Program {
     REQUIRE(ide()->QueryInterface(id, &result) == 0);
     return static_cast<Interface*>(result);
   }
-  // A string that the caller releases.
-  IIdeString* text(const std::string& value) {
-    IIdeString* string = ide()->CreateIdeString();
+  template <typename Interface>
+  Taken<Interface> held(const GUID& id) {
+    return Taken<Interface>(service<Interface>(id));
+  }
+  Taken<IIdeString> text(const std::string& value) {
+    Taken<IIdeString> string(ide()->CreateIdeString());
     string->SetText(value.c_str());
     return string;
   }
@@ -104,6 +118,15 @@ class Program {
 
   Application application;
   std::vector<Event> events;
+};
+
+// The program with a folder open.
+struct OpenFolder {
+  OpenFolder() { REQUIRE(application.openPath(folder.path())); }
+
+  ScratchFolder folder;
+  Program program;
+  Application& application = program.application;
 };
 
 }  // namespace workbench

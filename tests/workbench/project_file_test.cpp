@@ -71,23 +71,6 @@ TEST_CASE("a file comes back as it was, and edits leave the rest in its place") 
   }
 }
 
-TEST_CASE("what a file says arrives in the project") {
-  Project project;
-  project.load("C:\\work\\app\\app.ide", readGood(dataFile("kept.ide")));
-  CHECK(project.build() == "make -f \"my file\"");
-  CHECK(*project.option("Name") == std::string("a\\b\0", 4));
-  CHECK(*project.option("Old") == std::string("\0\xFF", 2));
-  const unsigned int util = project.find("C:\\work\\common\\util.cpp");
-  REQUIRE(util != 0);
-  CHECK(project.depth(util) == 1);
-  CHECK(project.node(project.node(util)->parent)->description == "The program");
-  CHECK(project.find("#notes") != 0);
-  std::string folders;
-  CHECK(project.nodeFolders(util, kSourcePathKind, &folders));
-  CHECK(folders == "C:\\work\\app\\src");
-  CHECK_FALSE(project.nodeFolders(util, kIncludePathKind, &folders));
-}
-
 TEST_CASE("damaged files are refused with line and reason") {
   const struct {
     std::string bytes;

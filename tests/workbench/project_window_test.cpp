@@ -43,11 +43,7 @@ TEST_CASE("a new project is saved at once") {
   CHECK(bytes.find("node \".\" \"Folder\" {") != std::string::npos);
 }
 
-TEST_CASE("the project window follows the tree") {
-  ScratchFolder folder;
-  Program program;
-  Application& application = program.application;
-  REQUIRE(application.openPath(folder.path()));
+TEST_CASE_FIXTURE(OpenFolder, "the project window follows the tree") {
   SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowProject, 0);
   HWND pane = child(application.mdiClient(), ideapi::kProjectClass);
   REQUIRE(pane != nullptr);
@@ -71,11 +67,7 @@ TEST_CASE("the project window follows the tree") {
   CHECK(TreeView_GetCount(child(pane, WC_TREEVIEWA)) == 5);
 }
 
-TEST_CASE("the project window comes back as it was left") {
-  ScratchFolder folder;
-  Program program;
-  Application& application = program.application;
-  REQUIRE(application.openPath(folder.path()));
+TEST_CASE_FIXTURE(OpenFolder, "the project window comes back as it was left") {
   unsigned int group = 0;
   for (int i = 0; i < 60; ++i) {
     group = application.addNode(0, "Group " + std::to_string(i), "Group");
@@ -120,16 +112,13 @@ TEST_CASE("the project window comes back as it was left") {
   CHECK(look(tree) == left);
 }
 
-TEST_CASE("the message window shows one group; its first tab and its clearing") {
-  ScratchFolder folder;
-  Program program;
-  Application& application = program.application;
-  REQUIRE(application.openPath(folder.path()));
-  auto* service = program.service<IMessageService>(ideapi::kMessageService);
-  IIdeString* name = program.text("Uses");
-  IIdeString* menu = program.text("&Uses");
-  IIdeString* file = program.text(folder.file("a.cpp"));
-  const MessageGroup group = service->CreateGroup(name, menu);
+TEST_CASE_FIXTURE(OpenFolder,
+                  "the message window shows one group; its first tab and its clearing") {
+  const auto service = program.held<IMessageService>(ideapi::kMessageService);
+  const auto name = program.text("Uses");
+  const auto menu = program.text("&Uses");
+  const auto file = program.text(folder.file("a.cpp"));
+  const MessageGroup group = service->CreateGroup(name.get(), menu.get());
   // A frame that was never shown has not laid out what is in it.
   SendMessageA(application.frame(), WM_SIZE, SIZE_RESTORED, 0);
   SendMessageA(application.frame(), WM_COMMAND, ideapi::kCommandShowMessages, 0);
@@ -140,11 +129,11 @@ TEST_CASE("the message window shows one group; its first tab and its clearing") 
   REQUIRE(tabs != nullptr);
   REQUIRE(viewer != nullptr);
 
-  const MessageHandle head = service->AddMessage(group, 0, name);
+  const MessageHandle head = service->AddMessage(group, 0, name.get());
   for (int i = 0; i < 10000; ++i) {
-    service->AddLocatedMessage(group, head, name, file, 2, 3, 5);
+    service->AddLocatedMessage(group, head, name.get(), file.get(), 2, 3, 5);
   }
-  CHECK(service->AddMessage(group + 1, 0, name) == 0);
+  CHECK(service->AddMessage(group + 1, 0, name.get()) == 0);
   CHECK(*program.last("message")->find("group") == "Uses");
   CHECK(*program.last("message")->find("kind") == "5");
   deliverPosted();
@@ -153,7 +142,7 @@ TEST_CASE("the message window shows one group; its first tab and its clearing") 
   CHECK(SendMessageA(viewer, LB_GETCURSEL, 0, 0) == 0);
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 11));
   CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
-  service->AddLocatedMessage(group, head, name, file, 2, 3, 5);
+  service->AddLocatedMessage(group, head, name.get(), file.get(), 2, 3, 5);
   deliverPosted();
   CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
   SendMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(80, 11));
@@ -177,27 +166,4 @@ TEST_CASE("the message window shows one group; its first tab and its clearing") 
   CHECK(application.messages().group(group)->messages.empty());
   deliverPosted();
   CHECK(SendMessageA(viewer, LB_GETCOUNT, 0, 0) == 0);
-  file->Release();
-  menu->Release();
-  name->Release();
-  service->Release();
-}
-
-TEST_CASE("nodes are opened by the tool of their type") {
-  ScratchFolder folder;
-  Program program;
-  Application& application = program.application;
-  REQUIRE(application.openPath(folder.path()));
-  auto* service = program.service<IProjectService>(ideapi::kProjectService);
-  const unsigned int file = application.findNode("a.cpp");
-  CHECK(service->OpenNode(file, 0) == kToolDone);
-  CHECK(application.findEditor("a.cpp") != nullptr);
-  CHECK(service->OpenNode(service->GetTopNode(), 0) == kToolNotHandled);
-  CHECK(service->OpenNode(9999, 0) == kToolNotHandled);
-  const unsigned int program_node = application.addNode(0, "new.exe", ".exe");
-  // The alternative form is the text, whatever the type.
-  CHECK(service->OpenNode(program_node, 1) == kToolDone);
-  CHECK(application.findEditor("new.exe") != nullptr);
-  CHECK(*program.last("tool")->find("name") == "EditText");
-  service->Release();
 }

@@ -89,12 +89,3 @@ TEST_CASE("A script is refused as a whole, with the line of its first fault") {
     CHECK(read(row.text) == row.fault);
   }
 }
-
-TEST_CASE("No bytes upset the reader") {
-  const std::string line = "expect menu item \"a \"\"b\"\"\"\xC3\xA9\r\n# \xE9\necho \"\"";
-  for (size_t cut = 0; cut <= line.size(); ++cut) {
-    read(std::string_view(line).substr(0, cut));
-    read(std::string_view(line).substr(cut));
-  }
-  read(std::string_view("\0\0\n\0", 4));
-}

@@ -98,14 +98,12 @@ TEST_CASE("every service answers for itself, and an unknown one is not there") {
 
 TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {
   Program program;
-  IIdeString* kept = program.text("kept");
-  program.text("released")->Release();
+  IIdeString* kept = program.text("kept").release();
+  program.text("released");
   IFileStream* stream = program.ide()->CreateFileStream();
   stream->AddRef();
   MakeClientFake client;
-  auto* make = program.service<IMakeService>(ideapi::kMakeService);
-  make->AddClient(&client);
-  make->Release();
+  program.held<IMakeService>(ideapi::kMakeService)->AddClient(&client);
   program.close();
   std::string leaks;
   for (const Event& event : program.events) {
@@ -119,15 +117,12 @@ TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {
   stream->Release();
 }
 
-TEST_CASE("an editor is found, moved, read and changed in one step of undo") {
-  ScratchFolder folder;
-  Program program;
-  REQUIRE(program.application.openPath(folder.path()));
-  auto* editor = program.service<IEditorService>(ideapi::kEditorService);
-  IIdeString* name = program.text(foldCase(folder.file("a.cpp")));
-  CHECK(editor->FindView(name) == 0);
+TEST_CASE_FIXTURE(OpenFolder, "an editor is found, moved, read and changed in one step of undo") {
+  const auto editor = program.held<IEditorService>(ideapi::kEditorService);
+  const auto name = program.text(foldCase(folder.file("a.cpp")));
+  CHECK(editor->FindView(name.get()) == 0);
   REQUIRE(program.application.editFile("a.cpp", 3) != nullptr);
-  const EditorView view = editor->FindView(name);
+  const EditorView view = editor->FindView(name.get());
   REQUIRE(view != 0);
 
   int column = 7;
@@ -147,8 +142,8 @@ TEST_CASE("an editor is found, moved, read and changed in one step of undo") {
   CHECK(editor->GetLine(5) == nullptr);
   CHECK(editor->GetLine(0) == nullptr);
   editor->SetCursor(8, 2);
-  IIdeString* insertion = program.text("new ");
-  editor->InsertText(insertion);
+  const auto insertion = program.text("new ");
+  editor->InsertText(insertion.get());
   editor->EndTransaction();
   editor->GetCursor(&column, &line);  // before the new text
   CHECK(column == 8);
@@ -158,7 +153,7 @@ TEST_CASE("an editor is found, moved, read and changed in one step of undo") {
   editor->GetCursor(&column, &line);  // past the end of its line
   CHECK(column == 40);
   editor->SetCursor(1, 99);
-  editor->InsertText(insertion);
+  editor->InsertText(insertion.get());
   editor->SetCursor(1, -5);
   editor->GetCursor(&column, &line);
   CHECK(line == 1);
@@ -188,23 +183,17 @@ TEST_CASE("an editor is found, moved, read and changed in one step of undo") {
   DiskStore store;
   CHECK(store.read(folder.file("a.cpp"), kLargestText, &bytes) == FileFault::kNone);
   CHECK(bytes == "first!\r\n\r\nsecond word\r\nthird\r\n");
-  insertion->Release();
-  name->Release();
-  editor->Release();
 }
 
-TEST_CASE("a stream reads the editor's text before the file's") {
-  ScratchFolder folder;
-  Program program;
-  REQUIRE(program.application.openPath(folder.path()));
-  IFileStream* stream = program.ide()->CreateFileStream();
-  IIdeString* name = program.text(folder.file("a.cpp"));
+TEST_CASE_FIXTURE(OpenFolder, "a stream reads the editor's text before the file's") {
+  const Taken<IFileStream> stream(program.ide()->CreateFileStream());
+  const auto name = program.text(folder.file("a.cpp"));
   char buffer[64] = {};
   CHECK(stream->Read(buffer, 1) < 0);
   CHECK(stream->Seek(0, kStreamFromStart) == -1);
-  CHECK(stream->Open(name, kStreamBuffer) == 0);
+  CHECK(stream->Open(name.get(), kStreamBuffer) == 0);
   CHECK(stream->GetState() == 0);
-  CHECK(stream->Open(name, kStreamBufferOrFile) == 1);
+  CHECK(stream->Open(name.get(), kStreamBufferOrFile) == 1);
   CHECK(stream->Read(buffer, 5) == 5);
   CHECK(std::string(buffer, 5) == "first");
   CHECK(stream->Seek(-4, kStreamFromEnd) == 23);
@@ -216,7 +205,7 @@ TEST_CASE("a stream reads the editor's text before the file's") {
 
   program.application.editFile("a.cpp", 1)->type("unsaved ");
   for (const int mode : {kStreamBuffer, kStreamBufferOrFile, kStreamFile}) {
-    CHECK(stream->Open(name, mode) == 1);
+    CHECK(stream->Open(name.get(), mode) == 1);
     CHECK(stream->GetState() != 0);
     CHECK(stream->Read(buffer, 5) == 5);
     CHECK(std::string(buffer, 5) == (mode == kStreamFile ? "first" : "unsav"));
@@ -225,11 +214,9 @@ TEST_CASE("a stream reads the editor's text before the file's") {
   CHECK(stream->Read(buffer, 1) < 0);
   for (const std::string& wrong : {folder.path(), folder.file("none.cpp"), std::string()}) {
     name->SetText(wrong.c_str());
-    CHECK(stream->Open(name, kStreamBufferOrFile) == 0);
+    CHECK(stream->Open(name.get(), kStreamBufferOrFile) == 0);
     CHECK(stream->GetState() == 0);
   }
-  name->Release();
-  stream->Release();
 }
 
 TEST_CASE("clients hear of projects and makes until they are removed") {
@@ -237,9 +224,9 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   Program program;
   ProjectClientFake client;
   MakeClientFake maker;
-  auto* service = program.service<IProjectService>(ideapi::kProjectService);
-  auto* make = program.service<IMakeService>(ideapi::kMakeService);
-  client.service = service;
+  const auto service = program.held<IProjectService>(ideapi::kProjectService);
+  const auto make = program.held<IMakeService>(ideapi::kMakeService);
+  client.service = service.get();
   service->AddClient(&client);
   service->AddClient(&client);
   make->AddClient(&maker);
@@ -250,10 +237,10 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   CHECK(client.calls == "opened " + file + " ");
   CHECK(fileName(file) == std::string(fileName(folder.path())) + ".ide");
 
-  IIdeString* name = program.text("C:\\NEW.CPP");
-  IIdeString* type = program.text(".cpp");
-  const ProjectNode node = service->AddNode(service->GetTopNode(), name, type);
-  CHECK(service->FindNode(name) == node);
+  const auto name = program.text("C:\\NEW.CPP");
+  const auto type = program.text(".cpp");
+  const ProjectNode node = service->AddNode(service->GetTopNode(), name.get(), type.get());
+  CHECK(service->FindNode(name.get()) == node);
   program.application.describeNode(node, "new");
   program.application.setNodePath(node, kOptionSourcePath, "src");
   const unsigned int group = program.application.addNode(0, "Group", "Group");
@@ -270,16 +257,15 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
 
   name->SetText("Option");
   const void* data = nullptr;
-  CHECK(service->GetOption(name, &data) == 0);
-  service->CommitOption(service->SetOption(name, "a\0b", 3));
-  CHECK(service->GetOption(name, &data) == 3);
+  CHECK(service->GetOption(name.get(), &data) == 0);
+  service->CommitOption(service->SetOption(name.get(), "a\0b", 3));
+  CHECK(service->GetOption(name.get(), &data) == 3);
   CHECK(std::string(static_cast<const char*>(data), 3) == std::string("a\0b", 3));
 
-  auto* options = program.service<IOptionsService>(ideapi::kOptionsService);
+  const auto options = program.held<IOptionsService>(ideapi::kOptionsService);
   CHECK(take(options->GetNodeOption(service->GetTopNode(), kOptionIncludePath)) ==
         folder.file("inc"));
   CHECK(options->GetNodeOption(service->GetTopNode(), kOptionSourcePath) == nullptr);
-  options->Release();
 
   REQUIRE(program.application.saveProject());
   program.application.closeProject();
@@ -290,36 +276,29 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   CHECK(client.references == 1);
   REQUIRE(program.application.openPath(folder.path()));
   ProjectClientFake late;
-  late.service = service;
+  late.service = service.get();
   service->AddClient(&late);
   CHECK(late.calls == "opened " + file + " ");
   service->RemoveClient(&late);
-  name->Release();
-  type->Release();
-  make->Release();
-  service->Release();
 }
 
-TEST_CASE("tools") {
-  ScratchFolder folder;
-  Program program;
-  REQUIRE(program.application.openPath(folder.path()));
-  auto* tools = program.service<IToolService>(ideapi::kToolService);
-  IIdeString* name = program.text("EditText");
-  IIdeString* file = program.text(folder.file("inc\\b.h"));
-  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+TEST_CASE_FIXTURE(OpenFolder, "tools") {
+  const auto tools = program.held<IToolService>(ideapi::kToolService);
+  const auto name = program.text("EditText");
+  const auto file = program.text(folder.file("inc\\b.h"));
+  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
   CHECK(program.application.findEditor("inc\\b.h") != nullptr);
   CHECK(*program.last("tool")->find("name") == "EditText");
   CHECK(*program.last("tool")->find("result") == "0");
-  CHECK(tools->RunTool(tools->FindTool(name), nullptr) == kToolNotHandled);
+  CHECK(tools->RunTool(tools->FindTool(name.get()), nullptr) == kToolNotHandled);
 
   ToolFake tool;
-  CHECK(tools->AddTool(name, name, &tool) == 0);
+  CHECK(tools->AddTool(name.get(), name.get(), &tool) == 0);
   name->SetText("Deliver");
-  const ToolHandle handle = tools->AddTool(name, name, &tool);
-  CHECK(tools->FindTool(name) == handle);
+  const ToolHandle handle = tools->AddTool(name.get(), name.get(), &tool);
+  CHECK(tools->FindTool(name.get()) == handle);
   CHECK(tool.references == 2);
-  CHECK(tools->RunTool(handle, file) == kToolWarnings);
+  CHECK(tools->RunTool(handle, file.get()) == kToolWarnings);
   SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
   // From the menu it gets the file of the active editor, and none without one.
   CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h"));
@@ -328,50 +307,21 @@ TEST_CASE("tools") {
   CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h") + "(none)");
   tools->RemoveTool(handle);
   CHECK(tool.references == 1);
-  CHECK(tools->RunTool(handle, file) == kToolNotHandled);
+  CHECK(tools->RunTool(handle, file.get()) == kToolNotHandled);
 
   // A project's file stands for its folder.
   name->SetText("Project");
   file->SetText(folder.file("whatever.ide").c_str());
-  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
   CHECK(program.application.findEditor(folder.file("inc\\b.h")) == nullptr);
 
   // The text editor's second run is a second view; within the program it is brought forward.
   name->SetText("EditText");
   file->SetText(folder.file("a.cpp").c_str());
-  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
-  CHECK(tools->RunTool(tools->FindTool(name), file) == kToolDone);
+  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
+  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
   EditorWindow* view = program.application.editFile("a.cpp", 0);
   char title[300] = {};
   GetWindowTextA(view->window(), title, sizeof title);
   CHECK(title == folder.file("a.cpp") + ":2");
-  file->Release();
-  name->Release();
-  tools->Release();
-}
-
-TEST_CASE("views of one file share it and are numbered while there are several") {
-  ScratchFolder folder;
-  Program program;
-  REQUIRE(program.application.openPath(folder.path()));
-  EditorWindow* first = program.application.editFile("a.cpp", 1);
-  SendMessageA(program.application.frame(), WM_COMMAND, 13506, 0);
-  EditorWindow* second = program.application.activeEditor();
-  REQUIRE(first != second);
-  first->setCaret(3, 2);
-  second->select(1, 1, 2, 1);
-  second->type("");
-  CHECK(first->text() == "second word\r\nthird\r\n");
-  int line = 0;
-  int column = 0;
-  first->caret(&line, &column);
-  CHECK(line == 2);
-  CHECK(column == 2);
-  char title[300] = {};
-  GetWindowTextA(second->window(), title, sizeof title);
-  CHECK(title == folder.file("a.cpp") + ":2 *");
-  // The last view would ask; this one is not the last.
-  SendMessageA(first->window(), WM_CLOSE, 0, 0);
-  GetWindowTextA(second->window(), title, sizeof title);
-  CHECK(title == folder.file("a.cpp") + " *");
 }

@@ -19,6 +19,17 @@ bool anyItem(const Event& event, std::string_view key_pattern, const std::string
   return false;
 }
 
+// That field of every item that has it.
+std::string ofAllItems(const Event& event, std::string_view name) {
+  std::string all;
+  for (const EventField& field : event.itemFields()) {
+    if (wildcardMatch(std::string("items.*.").append(name), field.key)) {
+      all.append(field.text).append("|");
+    }
+  }
+  return all.substr(0, all.rfind('|'));
+}
+
 }  // namespace
 
 std::string plainItemText(std::string_view text) {
@@ -67,6 +78,9 @@ bool EventQuery::matches(const Event& event) const {
   }
   if (*key == "item") {
     return anyItem(event, "items.*.text", value, true);
+  }
+  if (key->starts_with("all.")) {
+    return wildcardMatch(value, ofAllItems(event, std::string_view(*key).substr(4)));
   }
   if (*key == "count") {
     const std::string* count = event.find("items");
