@@ -251,6 +251,8 @@ void ProjectWindow::later(int command, LPARAM detail) {
 void ProjectWindow::carryOut(int command, LPARAM detail) {
   if (command == kScroll) {
     if (const HTREEITEM first = itemOf(first_visible_)) {
+      // Opening branches has scrolled the tree, and Wine goes only down from there.
+      SendMessageA(tree_, WM_VSCROLL, SB_TOP, 0);
       SendMessageA(tree_, TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(first));
     }
   } else if (command == 0) {
