@@ -382,6 +382,19 @@ TEST_CASE(
     CHECK(document.undo(&caret) == (before != after));
     CHECK(document.bytes() == before);
   }
+  // The encoding and the mark come and go with the text, even where they alone differ.
+  const std::string forms[] = {"\xE9\n", "\xEF\xBB\xBF\xC3\xA9\n", "\xC3\xA9\n"};
+  Document formed = documentOf(forms[0]);
+  formed.renew(forms[1]);
+  formed.renew(forms[2]);
+  Place undone;
+  for (const int form : {2, 1, 0}) {
+    CAPTURE(form);
+    CHECK(formed.bytes() == forms[form]);
+    CHECK((formed.encoding() == workbench::Encoding::kUtf8) == (form > 0));
+    CHECK(formed.undo(&undone) == (form > 0));
+  }
+  CHECK((formed.redo(&undone) && formed.bytes() == forms[1]));
   Document document = documentOf("a\nb\nc\nd\n");
   Recorder recorder;
   document.addListener(&recorder);

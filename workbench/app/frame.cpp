@@ -235,6 +235,10 @@ int Frame::run() {
   const bool wide = (GetVersion() & 0x80000000U) == 0;
   MSG message = {};
   while ((wide ? GetMessageW(&message, nullptr, 0, 0) : GetMessageA(&message, nullptr, 0, 0)) > 0) {
+    if (message.message == WM_KEYDOWN && window_ != nullptr) {
+      // What time brings may ask, and the keys of a person who types would answer it.
+      SetTimer(window_, kTimer, kTimerMs, nullptr);
+    }
     HWND dialog = handler_.modelessDialog();
     if (dialog != nullptr && IsDialogMessageA(dialog, &message) != 0) {
       continue;

@@ -66,25 +66,24 @@ Fragment Document::split(std::string_view text, LineEnd all_ends) {
   }
 }
 
-std::string_view Document::takeEncoding(std::string_view bytes) {
-  encoding_ = encodingOf(bytes);
-  marked_ = bytes.starts_with(kUtf8Mark);
-  return bytes.substr(marked_ ? kUtf8Mark.size() : 0);
+std::string_view Document::takeForm(std::string_view bytes) {
+  form_ = {encodingOf(bytes), bytes.starts_with(kUtf8Mark)};
+  return bytes.substr(form_.marked ? kUtf8Mark.size() : 0);
 }
 
 bool Document::becomeUtf8() {
   const bool plain = std::all_of(lines_.begin(), lines_.end(),
                                  [](const TextLine& each) { return isAscii(each.text); });
   if (plain) {
-    encoding_ = Encoding::kUtf8;
+    form_.encoding = Encoding::kUtf8;
   }
-  return encoding_ == Encoding::kUtf8;
+  return form_.encoding == Encoding::kUtf8;
 }
 
 void Document::load(std::string_view bytes) {
   const bool was_modified = modified();
   const Place old_end = endPlace();
-  lines_ = split(takeEncoding(bytes), LineEnd::kNone);
+  lines_ = split(takeForm(bytes), LineEnd::kNone);
   prevailing_ = mostCommonEnd(lines_);
   steps_.clear();
   position_ = 0;
@@ -96,7 +95,8 @@ void Document::load(std::string_view bytes) {
 }
 
 DocumentChange Document::renew(std::string_view bytes) {
-  const Fragment wanted = split(takeEncoding(bytes), LineEnd::kNone);
+  const TextForm old_form = form_;
+  const Fragment wanted = split(takeForm(bytes), LineEnd::kNone);
   const auto differ = [](const TextLine& a, const TextLine& b) {
     return a.end != b.end || a.text != b.text;
   };
@@ -118,7 +118,8 @@ DocumentChange Document::renew(std::string_view bytes) {
     ++old_last;
     ++new_last;
   }
-  if (old_last == before && new_last == before && lines_[before].text == wanted[before].text) {
+  if (old_last == before && new_last == before && lines_[before].text == wanted[before].text &&
+      form_ == old_form) {
     return {};
   }
   const Place from = {static_cast<int>(before), 0};
@@ -127,7 +128,7 @@ DocumentChange Document::renew(std::string_view bytes) {
                  wanted.begin() + static_cast<std::ptrdiff_t>(new_last) + 1);
   added.back().end = LineEnd::kNone;
   const DocumentChange result = {from, to, endOf(from, added)};
-  Change change = {from, copy(from, to), std::move(added)};
+  Change change = {from, copy(from, to), std::move(added), true, old_form, form_};
   replace(change.at, change.removed, change.added);
   record(std::move(change), Edit::kSingle);
   prevailing_ = mostCommonEnd(lines_);
@@ -135,7 +136,7 @@ DocumentChange Document::renew(std::string_view bytes) {
 }
 
 std::string Document::bytes() const {
-  return std::string(marked_ ? kUtf8Mark : "") + textBetween({0, 0}, endPlace());
+  return std::string(form_.marked ? kUtf8Mark : "") + textBetween({0, 0}, endPlace());
 }
 
 Place Document::endPlace() const {
@@ -322,6 +323,7 @@ bool Document::undo(Place* caret) {
   run_ = Edit::kSingle;
   const Step& step = steps_[position_];
   for (auto change = step.rbegin(); change != step.rend(); ++change) {
+    form_ = change->renews ? change->old_form : form_;
     replace(change->at, change->added, change->removed);
     *caret = endOf(change->at, change->removed);
   }
@@ -336,6 +338,7 @@ bool Document::redo(Place* caret) {
   const bool was_modified = modified();
   run_ = Edit::kSingle;
   for (const Change& change : steps_[position_]) {
+    form_ = change.renews ? change.new_form : form_;
     replace(change.at, change.removed, change.added);
     *caret = endOf(change.at, change.added);
   }

@@ -41,6 +41,13 @@ struct DocumentChange {
   Place new_end;
 };
 
+// What the bytes are read as, and whether the mark stands before them.
+struct TextForm {
+  Encoding encoding = Encoding::kAnsi;
+  bool marked = false;
+  friend bool operator==(const TextForm&, const TextForm&) = default;
+};
+
 class DocumentListener {
  public:
   virtual void documentChanged(const DocumentChange& change) = 0;
@@ -66,7 +73,7 @@ class Document {
   std::string bytes() const;
 
   // What the bytes are read as; a mark at the file's start is none of the lines'.
-  Encoding encoding() const { return encoding_; }
+  Encoding encoding() const { return form_.encoding; }
   // Lets characters beyond the code page in. False for a text that has bytes of it.
   bool becomeUtf8();
 
@@ -116,11 +123,15 @@ class Document {
     Place at;
     Fragment removed;
     Fragment added;
+    // A renewed text brings a form of its own.
+    bool renews = false;
+    TextForm old_form = {};
+    TextForm new_form = {};
   };
   using Step = std::vector<Change>;
 
   // Notes encoding and mark; returns what follows the mark.
-  std::string_view takeEncoding(std::string_view bytes);
+  std::string_view takeForm(std::string_view bytes);
   static Fragment split(std::string_view text, LineEnd all_ends);
   static Place endOf(Place at, const Fragment& fragment);
   Fragment cut(Place from, Place to);
@@ -133,8 +144,7 @@ class Document {
   void notifyState(bool was_modified);
 
   std::vector<TextLine> lines_;
-  Encoding encoding_ = Encoding::kAnsi;
-  bool marked_ = false;
+  TextForm form_;
   // What a new line ends with: the end most lines have, CR LF in a text without one.
   LineEnd prevailing_ = LineEnd::kCrLf;
   std::vector<Step> steps_;

@@ -140,7 +140,9 @@ void EditorSet::reload(OpenFile& file) {
 }
 
 void EditorSet::askToReload(OpenFile& file, const char* question) {
-  if (ask(file.path + question + "changes made here?", MB_YESNO | MB_ICONQUESTION) == IDYES &&
+  // It may come up under typing fingers.
+  if (ask(file.path + question + "changes made here?",
+          MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES &&
       !viewsOf(file).empty()) {
     readAgain(file);
   }
