@@ -41,7 +41,7 @@ class MemoryStore final : public FileStore {
   std::string target(const std::string& path) override {
     return path == "link.cpp" ? "a.cpp" : path;
   }
-  bool losesByReplacing(const std::string&) override { return loses; }
+  bool losesByReplacing(const std::string&, const std::string&) override { return loses; }
   std::vector<std::string> beginningWith(const std::string& prefix) override {
     std::vector<std::string> result;
     for (const auto& [path, bytes] : files) {

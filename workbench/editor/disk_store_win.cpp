@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "workbench/editor/unix_mode.h"
 #include "workbench/windows/handles.h"
 #include "workbench/windows/path_text.h"
 
@@ -197,19 +198,16 @@ std::string DiskStore::target(const std::string& path) {
   return index != 0 && index == fileIndex(path) ? last : path;
 }
 
-bool DiskStore::losesByReplacing(const std::string& path) {
+bool DiskStore::losesByReplacing(const std::string& path, const std::string& by) {
   const OwnedFile file = openFile(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
   BY_HANDLE_FILE_INFORMATION info = {};
   if (!file || GetFileInformationByHandle(file.get(), &info) == 0) {
     return false;
   }
-  // Wine has no call that tells or sets the mode of a file; the last name differs when
-  // this one is short.
-  static const bool on_wine =
-      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+  // The last name differs when this one is short.
   const std::string last = finalPath(path);
-  return on_wine || info.nNumberOfLinks > 1 ||
-         (!last.empty() && !samePath(fileName(last), fileName(path)));
+  return info.nNumberOfLinks > 1 || (!last.empty() && !samePath(fileName(last), fileName(path))) ||
+         (isOnWine() && !takeMode(by, path));
 }
 
 std::vector<std::string> DiskStore::beginningWith(const std::string& prefix) {

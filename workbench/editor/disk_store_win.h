@@ -12,7 +12,7 @@ class DiskStore final : public FileStore {
   FileFault write(const std::string& path, const std::string& bytes) override;
   FileFault overwrite(const std::string& path, const std::string& bytes, bool* begun) override;
   std::string target(const std::string& path) override;
-  bool losesByReplacing(const std::string& path) override;
+  bool losesByReplacing(const std::string& path, const std::string& by) override;
   std::vector<std::string> beginningWith(const std::string& prefix) override;
   FileFault replace(const std::string& from, const std::string& to) override;
   FileFault move(const std::string& from, const std::string& to) override;

@@ -80,7 +80,7 @@ FileFault saveFile(FileStore& store, const std::string& path, const std::string&
   }
   FileFault fault = store.write(temporary, bytes);
   bool begun = false;
-  if (fault == FileFault::kNone && stamp.exists && store.losesByReplacing(target)) {
+  if (fault == FileFault::kNone && stamp.exists && store.losesByReplacing(target, temporary)) {
     fault = store.overwrite(target, bytes, &begun);
     if (fault == FileFault::kNone || !begun) {
       store.remove(temporary);

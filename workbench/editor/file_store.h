@@ -46,9 +46,9 @@ class FileStore {
   virtual FileFault overwrite(const std::string& path, const std::string& bytes, bool* begun) = 0;
   // The file that the path leads to when it is a link; else the path.
   virtual std::string target(const std::string& path) = 0;
-  // Whether a file in the place of this one would lack what people gave to it, such
-  // as its mode or its other names.
-  virtual bool losesByReplacing(const std::string& path) = 0;
+  // Whether the new file in the place of this one would lack what people gave to it, such
+  // as its mode or its other names; what can be handed on to the new one is, before.
+  virtual bool losesByReplacing(const std::string& path, const std::string& by) = 0;
   // The files, by full path, whose name begins with that of the prefix.
   virtual std::vector<std::string> beginningWith(const std::string& prefix) = 0;
   // Puts one file in the place of another, which may be missing, in one step;
