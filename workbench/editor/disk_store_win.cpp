@@ -232,10 +232,10 @@ std::vector<std::string> DiskStore::beginningWith(const std::string& prefix) {
 
 FileFault DiskStore::replace(const std::string& from, const std::string& to) {
   using ReplaceCall = BOOL(WINAPI*)(LPCSTR, LPCSTR, LPCSTR, DWORD, LPVOID, LPVOID);
-  // Newer systems have a call that keeps what belongs to the old file.
+  // Newer systems have a call that keeps what belongs to the old file; Wine's takes two steps.
   const auto replace_file = lateBound<ReplaceCall>("ReplaceFileA");
   const DWORD attributes = GetFileAttributesA(to.c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES && replace_file != nullptr &&
+  if (attributes != INVALID_FILE_ATTRIBUTES && replace_file != nullptr && !isOnWine() &&
       replace_file(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr) != 0) {
     return FileFault::kNone;
   }
