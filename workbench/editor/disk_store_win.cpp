@@ -8,6 +8,7 @@
 #include "workbench/editor/unix_mode.h"
 #include "workbench/windows/handles.h"
 #include "workbench/windows/path_text.h"
+#include "workbench/windows/wine.h"
 
 namespace workbench {
 namespace {

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "workbench/windows/wine.h"
+
 namespace workbench {
 namespace {
 
@@ -47,12 +49,6 @@ bool readMode(const std::string& unix_path, std::uint32_t* mode) {
 }
 
 }  // namespace
-
-bool isOnWine() {
-  static const bool on_wine =
-      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
-  return on_wine;
-}
 
 bool takeMode(const std::string& path, const std::string& other) {
   if (!isOnWine()) {

@@ -5,8 +5,6 @@
 
 namespace workbench {
 
-// Whether the program runs under Wine.
-bool isOnWine();
 // Gives the first file the mode of the second. False when that could not be done, as on
 // Windows, where files have none.
 bool takeMode(const std::string& path, const std::string& other);

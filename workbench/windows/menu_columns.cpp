@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "workbench/windows/wine.h"
+
 namespace workbench {
 namespace {
 
@@ -60,7 +62,7 @@ void fitColumns(HMENU popup, int rows) {
 }
 
 MenuColumns::MenuColumns() {
-  if (GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr) {
+  if (isOnWine()) {
     hook_ = SetWindowsHookExA(WH_CALLWNDPROCRET, onReturned, nullptr, GetCurrentThreadId());
   }
 }

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "workbench/windows/wine.h"
+
 namespace workbench {
 namespace {
 
@@ -35,7 +37,7 @@ LRESULT CALLBACK onSent(int code, WPARAM wparam, LPARAM lparam) {
 }  // namespace
 
 TopmostOrder::TopmostOrder() {
-  if (GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr) {
+  if (isOnWine()) {
     hook_ = SetWindowsHookExA(WH_CALLWNDPROC, onSent, nullptr, GetCurrentThreadId());
   }
 }
