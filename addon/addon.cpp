@@ -19,6 +19,7 @@
 #include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/tool_table.h"
+#include "addon/mail/mail.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
@@ -115,6 +116,8 @@ void startAddon(IIde* ide) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
+  create(mail);
+  runOnOpenProject(readMailRecipients);
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -130,6 +133,7 @@ void stopAddon() {
     recentFiles->save();
   }
   destroy(recentFiles);
+  destroy(mail);
   destroy(quickFind);
   destroy(hookSet);
   destroy(helpFile);

@@ -1,7 +1,6 @@
 #include "addon/project_order.h"
 
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/documentation_run.h"
@@ -9,6 +8,8 @@
 #include "addon/html/project_options.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/make_registration.h"
+#include "addon/mail/mail.h"
+#include "addon/mail/project_options.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/rcgen/rc_generator.h"
 #include "addon/topbar/bar_menu.h"
@@ -70,6 +71,19 @@ void rebuildBarMenu(Work) {
   }
 }
 
+// Without the object the project keeps what it has.
+void writeMailRecipients(Work work) {
+  if (mail != nullptr) {
+    writeRecipients(work.options, mail->recipients());
+  }
+}
+
+void forgetMailRecipients(Work) {
+  if (mail != nullptr) {
+    mail->recipients().clear();
+  }
+}
+
 constexpr ProjectStep kAnnounced[] = {placeBar, forgetRecentProject, resetAutoSave,
                                       readBarSettings};
 
@@ -88,7 +102,7 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { deliveryProjectOptions.tool_present.read(work.options); },
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
-    [](Work work) { mailProjectOptions.read(work.options); },
+    readMailRecipients,
 };
 
 constexpr ProjectStep kSettled[] = {rebuildBarMenu};
@@ -98,7 +112,7 @@ constexpr ProjectStep kClosing[] = {collapseBar};
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
                                           recordRecentProject};
 
-constexpr ProjectStep kClosed[] = {[](Work) { mailProjectOptions.recipients.clear(); }};
+constexpr ProjectStep kClosed[] = {forgetMailRecipients};
 
 // The project's own menus go with it.
 constexpr ProjectStep kGone[] = {rebuildBarMenu};
@@ -108,7 +122,7 @@ constexpr ProjectStep kSaved[] = {
     [](Work work) { writeBarHidesWithView(work.options); },
     [](Work work) { deliveryProjectOptions.tool_present.write(work.options); },
     [](Work work) { deliveryProjectOptions.writeGroups(work.options); },
-    [](Work work) { mailProjectOptions.write(work.options); },
+    writeMailRecipients,
     [](Work work) { groupwareProjectOptions.server_directory.write(work.options); },
     [](Work work) { rcgenProjectOptions.dialog_classes.write(work.options); },
     [](Work work) { rcgenProjectOptions.version_stamping.write(work.options); },
@@ -158,6 +172,12 @@ constexpr MakeStep kMakeStarted[] = {actOnMakeStart, generateFromResources};
 constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace
+
+void readMailRecipients(const ProjectWork& work) {
+  if (mail != nullptr) {
+    readRecipients(work.options, mail->recipients());
+  }
+}
 
 constinit const ProjectOrder kProjectOrder = {kAnnounced,     kOpened,    kSettled, kClosing,
                                               kClosingLoaded, kClosed,    kGone,    kSaved,
