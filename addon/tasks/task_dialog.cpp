@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/message_box.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/dialog_place.h"
@@ -28,11 +27,6 @@ int selectedRow(HWND dialog) {
   return static_cast<int>(SendDlgItemMessageA(dialog, TASKS_LIST, LB_GETCURSEL, 0, 0));
 }
 
-// Null without a selection.
-Task* taskAt(int row) {
-  return row >= 0 && row < taskList->view().count() ? taskList->view()[row] : nullptr;
-}
-
 void mailEnd(HWND dialog, const Task& task) {
   const std::string subject = endOfTaskSubject(task, projectName());
   const bool sent =
@@ -43,9 +37,8 @@ void mailEnd(HWND dialog, const Task& task) {
   }
 }
 
-void keepForDelivery(HWND dialog, const Task& task) {
-  FileSystemWin files;
-  if (!appendNotification(files, notificationPath(projectFile()).text(), task)) {
+void keepForDelivery(FileSystem& files, HWND dialog, const Task& task) {
+  if (!appendNotification(files, notificationPath(projectFile()), task)) {
     showMessage(dialog, "Impossible to store informations for future mail", kErrorTitle,
                 kMessageIconExclamation);
   }
@@ -53,9 +46,10 @@ void keepForDelivery(HWND dialog, const Task& task) {
 
 }  // namespace
 
+TaskDialog::TaskDialog(FileSystem& files, TaskList& tasks) : files_(files), tasks_(tasks) {}
+
 bool TaskDialog::isStillOpen(unsigned opening) {
-  return taskDialog != nullptr && taskDialog->isOpen() && taskDialog->opening_ == opening &&
-         taskList != nullptr;
+  return taskDialog != nullptr && taskDialog->isOpen() && taskDialog->opening_ == opening;
 }
 
 void TaskDialog::open(HWND owner) {
@@ -63,9 +57,9 @@ void TaskDialog::open(HWND owner) {
     SetWindowPos(window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     return;
   }
-  if (taskList == nullptr || taskList->path().empty()) {
-    // What is written here would be kept nowhere.
-    showStatus("Tasks belong to a project: none is open");
+  if (!isProjectOpen()) {
+    // What is written then would be kept nowhere.
+    showStatus("No project is open");
     return;
   }
   modified_ = false;
@@ -80,16 +74,14 @@ INT_PTR TaskDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       centreOnOwner(dialog);
       return TRUE;
     case WM_COMMAND:
-      if (taskList != nullptr) {
-        command(dialog, LOWORD(wParam), HIWORD(wParam));
-      }
+      command(dialog, LOWORD(wParam), HIWORD(wParam));
       return TRUE;
     case WM_WININICHANGE:
       dates_.forget();
       return FALSE;
     case WM_DESTROY:
-      if (modified_ && taskList != nullptr) {
-        taskList->save();
+      if (modified_) {
+        tasks_.save();
       }
       return TRUE;
     default:
@@ -135,11 +127,11 @@ void TaskDialog::command(HWND dialog, int id, int notification) {
 void TaskDialog::changeOrder(HWND dialog, int id) {
   const Task* selected = taskAt(selectedRow(dialog));
   if (id == TASKS_ORDER) {
-    taskList->order = static_cast<int>(SendDlgItemMessageA(dialog, id, CB_GETCURSEL, 0, 0));
+    tasks_.order = static_cast<int>(SendDlgItemMessageA(dialog, id, CB_GETCURSEL, 0, 0));
   } else if (id == TASKS_REVERSE) {
-    taskList->reverse = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
+    tasks_.reverse = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
   } else {
-    taskList->show[id - TASKS_SHOW_FIRST] = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
+    tasks_.show[id - TASKS_SHOW_FIRST] = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
   }
   modified_ = true;
   refreshAndKeep(dialog, selected);
@@ -147,10 +139,10 @@ void TaskDialog::changeOrder(HWND dialog, int id) {
 
 void TaskDialog::create(HWND dialog) {
   Task* const task = new Task(localNow());
-  taskList->append(task);
+  tasks_.append(task);
   modified_ = true;
-  if (taskList->show[task->state] == 0) {
-    taskList->show[task->state] = 1;
+  if (tasks_.show[task->state] == 0) {
+    tasks_.show[task->state] = 1;
     CheckDlgButton(dialog, TASKS_SHOW_FIRST + task->state, BST_CHECKED);
   }
   refreshAndKeep(dialog, task);
@@ -166,14 +158,14 @@ void TaskDialog::remove(HWND dialog) {
   const std::string question = "Remove " + std::string(task->name.view()) + " ?";
   const int answer =
       showMessage(dialog, question.c_str(), kWarningTitle, kMessageYesNo | kMessageIconQuestion);
-  if (answer != kAnswerYes || !isStillOpen(opening) || taskList->indexOf(task) == kErrTab) {
+  if (answer != kAnswerYes || !isStillOpen(opening) || tasks_.indexOf(task) == kErrTab) {
     return;
   }
   modified_ = true;
-  taskList->removeTask(task);
-  taskList->rebuildView();
+  tasks_.removeTask(task);
+  tasks_.rebuildView();
   refresh(dialog);
-  const int last = taskList->view().count() - 1;
+  const int last = tasks_.view().count() - 1;
   selectRow(dialog, row < last ? row : last);
 }
 
@@ -185,7 +177,7 @@ void TaskDialog::apply(HWND dialog) {
     return;
   }
   const bool had_ended = task->state == kEnded;
-  if (had_ended && taskList->settings.ended_read_only != 0) {
+  if (had_ended && tasks_.settings.ended_read_only != 0) {
     const unsigned opening = opening_;
     showMessage(dialog, "You cannot modify an ended task (read-only) !", kWarningTitle,
                 kMessageIconExclamation);
@@ -196,14 +188,13 @@ void TaskDialog::apply(HWND dialog) {
   }
   takeForm(*task, shown_, fieldsOf(dialog), {isDayFirst(dates_), localNow()});
   refreshAndKeep(dialog, task);
-  if (had_ended || task->state != kEnded || taskList->settings.mail_on == 0 ||
-      task->is_public == 0) {
+  if (had_ended || task->state != kEnded || tasks_.settings.mail_on == 0 || task->is_public == 0) {
     return;
   }
   // The list may be another when a mail or a box is done with.
   const Task ended(*task);
-  if (taskList->settings.key_is_delivery != 0) {
-    keepForDelivery(dialog, ended);
+  if (tasks_.settings.key_is_delivery != 0) {
+    keepForDelivery(files_, dialog, ended);
   } else {
     mailEnd(dialog, ended);
   }

@@ -13,9 +13,10 @@
 
 namespace kesto {
 
-class TaskDialog : public ModelessDialog {
+class TaskDialog final : public ModelessDialog {
  public:
-  TaskDialog() = default;
+  // Both must outlive it.
+  TaskDialog(FileSystem& files, TaskList& tasks);
   ~TaskDialog() { close(); }
 
   // Shows it over its owner, or brings the one that is open to the top.
@@ -28,6 +29,7 @@ class TaskDialog : public ModelessDialog {
   void changeOrder(HWND dialog, int id);
 
   // The list: rows count in the view, -1 is none.
+  Task* taskAt(int row) const;  // null when there is none
   void refresh(HWND dialog);
   void refreshAndKeep(HWND dialog, const Task* task);
   void selectRow(HWND dialog, int row, bool force = false);
@@ -36,15 +38,18 @@ class TaskDialog : public ModelessDialog {
   // task of a row may be edited.
   void show(HWND dialog, int row);
   void enable(HWND dialog, int row, bool force);
+  void showCounts(HWND dialog) const;
   void put(HWND dialog, const TaskForm& form);
 
-  // A box or a mail lets the IDE go on, even end: whether this opening still is, and the list.
+  // A box or a mail lets the IDE go on, even end: whether this opening still is.
   static bool isStillOpen(unsigned opening);
   // These may find the dialog, the list or this object gone in the end.
   void create(HWND dialog);
   void remove(HWND dialog);
   void apply(HWND dialog);
 
+  FileSystem& files_;
+  TaskList& tasks_;
   SystemDateFormat system_dates_;
   KnownDates dates_{system_dates_};
   TaskForm shown_;  // the fields as they were filled

@@ -65,18 +65,6 @@ void switchControls(HWND dialog, bool enabled) {
   }
 }
 
-void showCounts(HWND dialog) {
-  int counts[kTaskStates] = {};
-  for (int i = 0; i < taskList->count(); ++i) {
-    ++counts[taskList->at(i)->state];
-  }
-  for (int state = 0; state < kTaskStates; ++state) {
-    char caption[40] = "";
-    wsprintfA(caption, kCounts[state], counts[state]);
-    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
-  }
-}
-
 // The tab stops of a list in pixels, and what else tells how wide its rows are.
 class ListMetrics {
  public:
@@ -108,28 +96,44 @@ void TaskDialog::fill(HWND dialog) {
   limitFields(dialog);
   for (int state = 0; state < kTaskStates; ++state) {
     CheckDlgButton(dialog, TASKS_SHOW_FIRST + state,
-                   taskList->show[state] != 0 ? BST_CHECKED : BST_UNCHECKED);
+                   tasks_.show[state] != 0 ? BST_CHECKED : BST_UNCHECKED);
     addTo(dialog, TASKS_STATE, taskStateWord(state));
   }
-  CheckDlgButton(dialog, TASKS_REVERSE, taskList->reverse != 0 ? BST_CHECKED : BST_UNCHECKED);
+  CheckDlgButton(dialog, TASKS_REVERSE, tasks_.reverse != 0 ? BST_CHECKED : BST_UNCHECKED);
   for (const char* order : kOrders) {
     addTo(dialog, TASKS_ORDER, order);
   }
-  SendDlgItemMessageA(dialog, TASKS_ORDER, CB_SETCURSEL, static_cast<WPARAM>(taskList->order), 0);
-  for (int i = 0; i < taskList->types.count(); ++i) {
-    addTo(dialog, TASKS_TYPE, taskList->types[i]->text());
+  SendDlgItemMessageA(dialog, TASKS_ORDER, CB_SETCURSEL, static_cast<WPARAM>(tasks_.order), 0);
+  for (int i = 0; i < tasks_.types.count(); ++i) {
+    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
   }
   SendDlgItemMessageA(dialog, TASKS_LIST, LB_SETTABSTOPS, std::size(kStops),
                       reinterpret_cast<LPARAM>(kStops));
   refresh(dialog);
-  selectRow(dialog, taskList->view().count() > 0 ? 0 : -1, true);
+  selectRow(dialog, tasks_.view().count() > 0 ? 0 : -1, true);
   modified_ = false;
+}
+
+void TaskDialog::showCounts(HWND dialog) const {
+  int counts[kTaskStates] = {};
+  for (int i = 0; i < tasks_.count(); ++i) {
+    ++counts[tasks_.at(i)->state];
+  }
+  for (int state = 0; state < kTaskStates; ++state) {
+    char caption[40] = "";
+    wsprintfA(caption, kCounts[state], counts[state]);
+    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
+  }
+}
+
+Task* TaskDialog::taskAt(int row) const {
+  return row >= 0 && row < tasks_.view().count() ? tasks_.view()[row] : nullptr;
 }
 
 void TaskDialog::refresh(HWND dialog) {
   const HWND list = GetDlgItem(dialog, TASKS_LIST);
   const ListMetrics metrics(list);
-  const Tableau<Task>& view = taskList->view();
+  const Tableau<Task>& view = tasks_.view();
   int extent = 0;
   SendMessageA(list, WM_SETREDRAW, FALSE, 0);
   SendMessageA(list, LB_RESETCONTENT, 0, 0);
@@ -147,10 +151,10 @@ void TaskDialog::refresh(HWND dialog) {
 
 // After a change: the task stays selected while it is in view, else the first is.
 void TaskDialog::refreshAndKeep(HWND dialog, const Task* task) {
-  taskList->rebuildView();
+  tasks_.rebuildView();
   refresh(dialog);
-  const int row = task != nullptr ? taskList->view().indexOf(task) : kErrTab;
-  selectRow(dialog, row != kErrTab ? row : std::min(0, taskList->view().count() - 1));
+  const int row = task != nullptr ? tasks_.view().indexOf(task) : kErrTab;
+  selectRow(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
 }
 
 void TaskDialog::selectRow(HWND dialog, int row, bool force) {
@@ -160,9 +164,8 @@ void TaskDialog::selectRow(HWND dialog, int row, bool force) {
 }
 
 void TaskDialog::show(HWND dialog, int row) {
-  const Tableau<Task>& view = taskList->view();
-  if (row >= 0 && row < view.count()) {
-    put(dialog, formOf(*view[row], dates_));
+  if (const Task* task = taskAt(row)) {
+    put(dialog, formOf(*task, dates_));
   }
 }
 
@@ -193,15 +196,15 @@ TaskForm fieldsOf(HWND dialog) {
 }
 
 void TaskDialog::enable(HWND dialog, int row, bool force) {
-  const Tableau<Task>& view = taskList->view();
-  const bool read_only = taskList->settings.ended_read_only != 0 && row >= 0 &&
-                         row < view.count() && view[row]->state == kEnded;
-  const bool enabled = view.count() > 0 && !read_only;
+  const Task* task = taskAt(row);
+  const bool read_only =
+      tasks_.settings.ended_read_only != 0 && task != nullptr && task->state == kEnded;
+  const bool enabled = tasks_.view().count() > 0 && !read_only;
   if (force || enabled != enabled_) {
     enabled_ = enabled;
     switchControls(dialog, enabled);
   }
-  if (view.count() == 0) {
+  if (tasks_.view().count() == 0) {
     put(dialog, {});
   }
 }
