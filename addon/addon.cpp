@@ -8,6 +8,7 @@
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
 #include "addon/delivery/delivery.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
@@ -25,6 +26,10 @@
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_dialog.h"
+#include "addon/tasks/task_flash.h"
+#include "addon/tasks/task_list.h"
+#include "addon/tasks/task_settings.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -38,6 +43,7 @@ constexpr char kSettingsRoot[] = R"(SOFTWARE\Borland\Borland C++\5.0\Ide\AddOns\
 HWND barWindow = nullptr;
 bool oleInitialised = false;
 AddonHookHost hookHost;
+FileSystemWin fileSystem;
 
 class AddonMenuFeatures : public MenuFeatures {
  public:
@@ -124,6 +130,12 @@ void startAddon(IIde* ide) {
   create(optionsServiceHolder);
   create(mail);
   runOnOpenProject(readMailRecipients);
+  create(taskList, fileSystem);
+  if (taskList != nullptr) {
+    readTaskSettings(*taskList);
+    create(taskFlash, barWindow, fileSystem, *taskList);
+    create(taskDialog, fileSystem, *taskList);
+  }
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -153,6 +165,12 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
+  destroy(taskDialog);
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
   destroy(documentationRun);
   destroy(htmlSettings);
   DestroyWindow(barWindow);

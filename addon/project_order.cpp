@@ -13,6 +13,9 @@
 #include "addon/mail/project_options.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_dialog.h"
+#include "addon/tasks/task_flash.h"
+#include "addon/tasks/task_list.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/project_options.h"
 #include "addon/topbar/recent_files.h"
@@ -45,6 +48,38 @@ void forgetRecentProject(Work work) {
 void recordRecentProject(Work work) {
   if (recentFiles != nullptr) {
     recentFiles->projects().addNew(work.file);
+  }
+}
+
+void emptyTasks(Work) {
+  if (taskList != nullptr) {
+    taskList->clear();
+  }
+}
+
+void loadTasks(Work work) {
+  if (taskList != nullptr) {
+    taskList->setPath(taskFilePath(work.file).view());
+    taskList->load();
+  }
+}
+
+void flashWhenDue(Work) {
+  if (taskFlash != nullptr) {
+    taskFlash->postWhenDue();
+  }
+}
+
+// It writes the tasks, while they and their file are still those of its project.
+void closeTaskDialog(Work) {
+  if (taskDialog != nullptr) {
+    taskDialog->close();
+  }
+}
+
+void closeFlash(Work) {
+  if (taskFlash != nullptr) {
+    taskFlash->close();
   }
 }
 
@@ -97,10 +132,11 @@ void unregisterDeliveryTool(Work) {
   }
 }
 
-constexpr ProjectStep kAnnounced[] = {placeBar, forgetRecentProject, resetAutoSave,
-                                      readBarSettings};
+constexpr ProjectStep kAnnounced[] = {closeTaskDialog,     emptyTasks,    placeBar,
+                                      forgetRecentProject, resetAutoSave, readBarSettings};
 
 constexpr ProjectStep kOpened[] = {
+    loadTasks,
     enterProjectDirectory,
     viewProject,
     [](Work) { registerMakeClient(createMakeClient); },
@@ -117,11 +153,12 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
     readMailRecipients,
+    flashWhenDue,
 };
 
 constexpr ProjectStep kSettled[] = {rebuildBarMenu};
 
-constexpr ProjectStep kClosing[] = {collapseBar};
+constexpr ProjectStep kClosing[] = {collapseBar, closeTaskDialog, closeFlash};
 
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
                                           unregisterDeliveryTool, recordRecentProject};
