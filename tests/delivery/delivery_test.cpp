@@ -64,7 +64,7 @@ std::string listed(PlayedCopies& disk, const std::vector<DeliveryNode>& nodes,
 }  // namespace
 
 TEST_CASE("a file is delivered when its copy is missing or differs by a byte") {
-  const std::string long_text(200000, 'x');
+  const std::string long_text(200003, 'x');
   const auto with = [&](std::size_t at) {
     std::string text = long_text;
     text[at] = 'y';
@@ -91,7 +91,7 @@ TEST_CASE("a file is delivered when its copy is missing or differs by a byte") {
               {{long_text}, {with(255)}, true},
               {{long_text}, {with(256)}, true},
               {{long_text}, {with(65536)}, true},
-              {{long_text}, {with(199999)}, true},
+              {{long_text}, {with(200002)}, true},
               {closed("abc"), {"abc"}, false},
               {closed("abc"), {"ab"}, true},
               {closed("abc"), none, true},
@@ -156,14 +156,20 @@ TEST_CASE("the groups are those of the nodes below the first DELIVERY") {
   CHECK(typesOf(options.groups) == ".EXE= .dll= .exe=D- ");
 
   // Without the node there are none, but what is known of them comes back with it.
-  options.rebuild(findDeliveryNodes(Outline({{0, "demo.exe", ".exe"}})));
+  const DeliveryNodes none = findDeliveryNodes(Outline({{0, "demo.exe", ".exe"}}));
+  options.rebuild(none);
   CHECK(options.groups.count() == 0);
   nodes.nodes.resize(2);
   options.rebuild(nodes);
   CHECK(typesOf(options.groups) == ".dll= .exe=D- ");
-  options.rebuild(DeliveryNodes());
-  options.rebuild(nodes);
-  CHECK(typesOf(options.groups) == ".dll= .exe= ");
+  // Without a project, not.
+  for (const DeliveryNodes& before : {nodes, none}) {
+    options.groups[1]->directory = "E";
+    options.rebuild(before);
+    options.rebuild(DeliveryNodes());
+    options.rebuild(nodes);
+    CHECK(typesOf(options.groups) == ".dll= .exe= ");
+  }
 }
 
 TEST_CASE("a delivery from the selection to the report") {

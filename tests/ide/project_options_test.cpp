@@ -153,8 +153,12 @@ TEST_CASE("delivery groups without a type are skipped; without their node they a
     CHECK(saved.stored("Kesto_ODR_ACT_0") == std::string("\x01\0\0\0", 4));
     CHECK(saved.stored("Kesto_ODR_ACT_1") == std::string(4, '\0'));
   }
-  options.readGroups(store);
-  CHECK(options.groups.count() == 2);
+  // Those of another project are not this one's.
+  Store other;
+  options.readCount(other);
+  options.readGroups(other);
+  options.writeGroups(other);
+  CHECK(other.stored("Kesto_NB_ODR") == std::string(4, '\0'));
 }
 
 TEST_CASE("recipients, and counts that no project has") {
