@@ -60,6 +60,31 @@ void destroy(T*& slot) {
   slot = nullptr;
 }
 
+void createTasks() {
+  create(taskList, fileSystem);
+  if (taskList == nullptr) {
+    return;
+  }
+  readTaskSettings(*taskList);
+  create(taskFlash, barWindow, fileSystem, *taskList);
+  // The clients may have been told of an open project before.
+  if (isProjectOpen()) {
+    taskList->setPath(taskFilePath(projectFile()).view());
+    taskList->load();
+    if (taskFlash != nullptr) {
+      taskFlash->postWhenDue();
+    }
+  }
+}
+
+void destroyTasks() {
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
+}
+
 }  // namespace
 
 bool attachModule(HINSTANCE instance) {
@@ -120,11 +145,7 @@ void startAddon(IIde* ide) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
-  create(taskList, fileSystem);
-  if (taskList != nullptr) {
-    readTaskSettings(*taskList);
-    create(taskFlash, barWindow, fileSystem, *taskList);
-  }
+  createTasks();
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -152,11 +173,7 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
-  destroy(taskFlash);
-  if (taskList != nullptr) {
-    writeTaskSettings(*taskList);
-  }
-  destroy(taskList);
+  destroyTasks();
   destroy(documentationRun);
   destroy(htmlSettings);
   DestroyWindow(barWindow);
