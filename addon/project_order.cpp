@@ -1,6 +1,7 @@
 #include "addon/project_order.h"
 
 #include "addon/behaviours/general_behaviours.h"
+#include "addon/delivery/delivery.h"
 #include "addon/delivery/project_options.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/documentation_run.h"
@@ -119,6 +120,18 @@ void forgetMailRecipients(Work) {
   }
 }
 
+void applyDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->applyTool();
+  }
+}
+
+void unregisterDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->unregisterTool();
+  }
+}
+
 constexpr ProjectStep kAnnounced[] = {closeTaskDialog,     emptyTasks,    placeBar,
                                       forgetRecentProject, resetAutoSave, readBarSettings};
 
@@ -136,6 +149,7 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { htmlProjectOptions.filters.read(work.options); },
     [](Work work) { deliveryProjectOptions.readCount(work.options); },
     [](Work work) { deliveryProjectOptions.tool_present.read(work.options); },
+    applyDeliveryTool,
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
     readMailRecipients,
@@ -147,7 +161,7 @@ constexpr ProjectStep kSettled[] = {rebuildBarMenu};
 constexpr ProjectStep kClosing[] = {collapseBar, closeTaskDialog, closeFlash};
 
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
-                                          recordRecentProject};
+                                          unregisterDeliveryTool, recordRecentProject};
 
 constexpr ProjectStep kClosed[] = {forgetMailRecipients};
 
@@ -166,6 +180,7 @@ constexpr ProjectStep kSaved[] = {
     [](Work work) { htmlProjectOptions.enabled.write(work.options); },
     [](Work work) { htmlProjectOptions.automatic.write(work.options); },
     [](Work work) { htmlProjectOptions.filters.write(work.options); },
+    [](Work work) { deliveryProjectOptions.writeActive(work.options); },
 };
 
 void nodeChanged(ProjectNode node, const char* name) {
