@@ -57,7 +57,7 @@ struct Loaded {
       : disk(std::move(played)), list(disk) {
     disk.put(kPath, bytes);
     list.setTypes("own");
-    list.append(new Task);
+    list.append(new Task(TaskDate{}));
     list.setPath(kPath);
     list.load();
     CHECK(disk.texts()[kPath] == bytes);
@@ -199,7 +199,7 @@ TEST_CASE("files that are kept beside stay; without a file there is nothing to k
 
   PlayedDisk empty;
   TaskList list(empty);
-  list.append(new Task);
+  list.append(new Task(TaskDate{}));
   list.setPath(kPath);
   list.load();
   CHECK(list.count() == 1);
