@@ -7,6 +7,7 @@
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
+#include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/html/documentation_run.h"
@@ -20,10 +21,13 @@
 #include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/tool_table.h"
+#include "addon/mail/mail.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/notifications.h"
+#include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/tasks/task_list.h"
 #include "addon/tasks/task_settings.h"
@@ -48,6 +52,13 @@ class AddonMenuFeatures : public MenuFeatures {
 };
 AddonMenuFeatures menuFeatures;
 
+// Only where the end of a task is told to others, and not at once.
+std::string pendingNotifications(const std::string& project_file) {
+  const bool with_delivery = taskList != nullptr && taskList->settings.mail_on != 0 &&
+                             taskList->settings.key_is_delivery != 0;
+  return with_delivery ? notificationPath(project_file).text() : "";
+}
+
 // A slot that memory was too short for stays null, and the start goes on.
 template <class T, class... Arguments>
 void create(T*& slot, Arguments&&... arguments) {
@@ -67,6 +78,7 @@ void createTasks() {
   }
   readTaskSettings(*taskList);
   create(taskFlash, barWindow, fileSystem, *taskList);
+  create(taskDialog, fileSystem, *taskList);
   // The clients may have been told of an open project before.
   if (isProjectOpen()) {
     taskList->setPath(taskFilePath(projectFile()).view());
@@ -78,6 +90,7 @@ void createTasks() {
 }
 
 void destroyTasks() {
+  destroy(taskDialog);
   destroy(taskFlash);
   if (taskList != nullptr) {
     writeTaskSettings(*taskList);
@@ -127,6 +140,8 @@ void startAddon(IIde* ide) {
   create(completionSettings);
   create(generalBehaviours);
   create(rcGenerator);
+  create(delivery);
+  notificationsToMail = pendingNotifications;
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -139,12 +154,18 @@ void startAddon(IIde* ide) {
   if (projectTestA != nullptr) {
     projectTestA->registerClients();
   }
+  // A project that is open by now has said whether it wants the tool.
+  if (delivery != nullptr && !isProjectOpen()) {
+    delivery->registerTool();
+  }
   create(recentFiles, barWindow);
   // The clients may have been told of an open project before the lists were there.
   if (recentFiles != nullptr && isProjectOpen()) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
+  create(mail);
+  runOnOpenProject(readMailRecipients);
   createTasks();
   create(htmlSettings);
   create(documentationRun, barWindow);
@@ -161,7 +182,9 @@ void stopAddon() {
     recentFiles->save();
   }
   destroy(recentFiles);
+  destroy(mail);
   destroy(quickFind);
+  destroy(delivery);
   destroy(hookSet);
   destroy(helpFile);
   destroy(editorNavigation);
