@@ -55,12 +55,20 @@ class EditorTransaction {
   bool aimed_ = false;
 };
 
-void insertAtCursor(const EditorTransaction& editor, const std::string& text, int column,
+// False when nothing came of it: the IDE may ask about a file that is not to be changed.
+bool insertAtCursor(const EditorTransaction& editor, const std::string& text, int column,
                     int line) {
-  if (const ComPtr<IIdeString> string = makeIdeString(text.c_str())) {
-    editor->InsertText(string.get());
-    editor->SetCursor(column + static_cast<int>(text.size()), line);
+  const ComPtr<IIdeString> string = makeIdeString(text.c_str());
+  if (!string) {
+    return false;
   }
+  const std::string before = editor.line(line);
+  editor->InsertText(string.get());
+  if (editor.line(line) == before) {
+    return false;
+  }
+  editor->SetCursor(column + static_cast<int>(text.size()), line);
+  return true;
 }
 
 }  // namespace
@@ -107,8 +115,8 @@ void completeAtCursor(const char* file) {
   }
   const CompletionStep step =
       completionSource != nullptr ? completionSource->strike(word) : CompletionStep{};
-  if (!step.text.empty()) {
-    insertAtCursor(editor, step.text, column, line);
+  if (!step.text.empty() && !insertAtCursor(editor, step.text, column, line)) {
+    return;
   }
   showStatus(step.status.c_str());
 }

@@ -63,8 +63,13 @@ TEST_CASE("what completes a word is inserted at the caret, which moves behind it
   kesto::completeAtCursor("C:\\A.CPP:2");
   CHECK(session.ide.editor.lines[0] == "x = print;");
   CHECK(session.lastStatus() == "100% formatted");
-  // No word, or one of 100 characters, is none to complete.
   const size_t told = session.ide.status_line.texts.size();
+  session.ide.editor.refuses = true;
+  engine.step.text = "er";
+  kesto::completeAtCursor("C:\\A.CPP");
+  CHECK(session.ide.editor.column == 10);
+  CHECK(session.ide.status_line.texts.size() == told);
+  // No word, or one of 100 characters, is none to complete.
   engine.asked.clear();
   session.edit("a " + std::string(100, 'w'), 103);
   for (const int column : {1, 3, 103}) {
