@@ -64,11 +64,7 @@ void KeywordList::load(FileSystem& files, const Tableau<String>& paths) {
   for (const std::string& text : texts_) {
     readKeywords(text, keywords_);
   }
-  const std::vector<std::uint32_t> order = keywordOrder(keywords_);
-  sorted_.openGap(0, static_cast<int>(order.size()));
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    sorted_.set(static_cast<int>(i), &keywords_[order[i]]);
-  }
+  sortKeywords(keywords_, sorted_);
 }
 
 KeywordList::Range KeywordList::beginningWith(std::string_view prefix) const {

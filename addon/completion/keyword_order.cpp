@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -13,105 +14,114 @@ namespace kesto {
 
 namespace {
 
-constexpr std::size_t kCharacters = 8;  // of a key
+constexpr std::size_t kKeySize = 8;  // characters of each key
+constexpr std::size_t kCharacters = 2 * kKeySize;
 constexpr unsigned kByteBits = 8;
-constexpr std::size_t kByteValues = 256;
+constexpr std::uint64_t kByteMask = 0xFF;
+constexpr unsigned kDigitBits = 16;
+constexpr std::size_t kDigitValues = std::size_t{1} << kDigitBits;
+constexpr std::size_t kDigitsOfKey = 64 / kDigitBits;
 // Below it comparing is faster than counting.
-constexpr std::size_t kFewItems = 96;
+constexpr std::size_t kFewItems = 1024;
 
 struct Item {
-  std::uint64_t key;
+  std::uint64_t high;  // the first of its characters
+  std::uint64_t low;
   std::uint32_t index;
 };
 
 // The characters from at, the first one highest; zeros behind the text's end.
 std::uint64_t keyOf(std::string_view text, std::size_t at) {
   std::uint64_t key = 0;
-  for (std::size_t i = at; i < at + kCharacters; ++i) {
+  if (at + kKeySize <= text.size()) {
+    for (std::size_t i = 0; i < kKeySize; ++i) {
+      key = key << kByteBits | static_cast<unsigned char>(text[at + i]);
+    }
+    return key;
+  }
+  for (std::size_t i = at; i < at + kKeySize; ++i) {
     key = key << kByteBits | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0U);
   }
   return key;
 }
 
-// Texts that end have equal keys only if they are equal.
-bool goesOn(std::uint64_t key) {
-  return (key & (kByteValues - 1)) != 0;
+std::size_t digitOf(const Item& item, std::size_t digit) {
+  const std::uint64_t key = digit < kDigitsOfKey ? item.low : item.high;
+  return (key >> (digit % kDigitsOfKey * kDigitBits)) & (kDigitValues - 1);
+}
+
+bool isBefore(const Item& left, const Item& right) {
+  if (left.high != right.high) {
+    return left.high < right.high;
+  }
+  return left.low != right.low ? left.low < right.low : left.index < right.index;
 }
 
 class Sorting {
  public:
   explicit Sorting(const std::vector<Keyword>& keywords)
-      : keywords_(keywords), items_(keywords.size()), room_(keywords.size()) {
-    for (std::size_t i = 0; i < items_.size(); ++i) {
+      : keywords_(keywords),
+        items_(std::make_unique_for_overwrite<Item[]>(keywords.size())),
+        room_(std::make_unique_for_overwrite<Item[]>(keywords.size())) {
+    for (std::size_t i = 0; i < keywords.size(); ++i) {
       items_[i].index = static_cast<std::uint32_t>(i);
     }
-    sort(items_, 0);
+    sort(items(), 0);
   }
 
-  std::vector<std::uint32_t> order() const {
-    std::vector<std::uint32_t> indices(items_.size());
-    std::transform(items_.begin(), items_.end(), indices.begin(),
-                   [](const Item& item) { return item.index; });
-    return indices;
-  }
+  std::span<const Item> items() const { return {items_.get(), keywords_.size()}; }
 
  private:
-  // Items that are equal up to the characters from depth; at most a line's length deep.
+  std::span<Item> items() { return {items_.get(), keywords_.size()}; }
+
+  // Items that are equal in the characters before depth, in the order of their indices.
   void sort(std::span<Item> items, std::size_t depth) {  // NOLINT(misc-no-recursion)
     for (Item& item : items) {
-      item.key = keyOf(keywords_[item.index].text(), depth);
+      const std::string_view text = keywords_[item.index].text();
+      item.high = keyOf(text, depth);
+      item.low = keyOf(text, depth + kKeySize);
     }
-    if (items.size() < kFewItems) {
-      sortFew(items, depth);
-      return;
+    // Whoever writes lists of words keeps them in order.
+    if (!std::is_sorted(items.begin(), items.end(), isBefore)) {
+      if (items.size() < kFewItems) {
+        std::sort(items.begin(), items.end(), isBefore);
+      } else {
+        sortByDigits(items);
+      }
     }
-    sortByKey(items);
     for (std::size_t from = 0; from < items.size();) {
+      const Item& first = items[from];
       std::size_t to = from + 1;
-      while (to < items.size() && items[to].key == items[from].key) {
+      while (to < items.size() && items[to].high == first.high && items[to].low == first.low) {
         ++to;
       }
-      if (to - from > 1 && goesOn(items[from].key)) {
+      // Texts that have ended are equal.
+      if (to - from > 1 && (first.low & kByteMask) != 0) {
         sort(items.subspan(from, to - from), depth + kCharacters);
       }
       from = to;
     }
   }
 
-  void sortFew(std::span<Item> items, std::size_t depth) const {
-    std::sort(items.begin(), items.end(), [this, depth](const Item& left, const Item& right) {
-      if (left.key != right.key) {
-        return left.key < right.key;
-      }
-      const int rest = goesOn(left.key) ? rest_(left, depth).compare(rest_(right, depth)) : 0;
-      return rest != 0 ? rest < 0 : left.index < right.index;
-    });
-  }
-
-  std::string_view rest_(const Item& item, std::size_t depth) const {
-    return keywords_[item.index].text().substr(depth + kCharacters);
-  }
-
-  // A pass for each byte from the lowest up, none where all have the same.
-  void sortByKey(std::span<Item> items) {
-    std::array<std::array<std::uint32_t, kByteValues>, kCharacters> counts = {};
-    for (const Item& item : items) {
-      for (std::size_t i = 0; i < kCharacters; ++i) {
-        ++counts[i][byteOf(item, i)];
-      }
-    }
+  // From the lowest digit up, none where all have the same.
+  void sortByDigits(std::span<Item> items) {
     std::span<Item> from = items;
-    std::span<Item> to = std::span(room_).first(items.size());
-    for (std::size_t i = 0; i < kCharacters; ++i) {
-      if (counts[i][byteOf(items[0], i)] == items.size()) {
+    std::span<Item> to(room_.get(), items.size());
+    std::vector<std::uint32_t> ends(kDigitValues);
+    for (std::size_t digit = 0; digit < 2 * kDigitsOfKey; ++digit) {
+      std::fill(ends.begin(), ends.end(), 0);
+      for (const Item& item : from) {
+        ++ends[digitOf(item, digit)];
+      }
+      if (ends[digitOf(from[0], digit)] == items.size()) {
         continue;
       }
       std::uint32_t place = 0;
-      for (std::uint32_t& count : counts[i]) {
-        place += std::exchange(count, place);
+      for (std::uint32_t& end : ends) {
+        place += std::exchange(end, place);
       }
       for (const Item& item : from) {
-        to[counts[i][byteOf(item, i)]++] = item;
+        to[ends[digitOf(item, digit)]++] = item;
       }
       std::swap(from, to);
     }
@@ -120,19 +130,21 @@ class Sorting {
     }
   }
 
-  static std::size_t byteOf(const Item& item, std::size_t byte) {
-    return (item.key >> (byte * kByteBits)) & (kByteValues - 1);
-  }
-
   const std::vector<Keyword>& keywords_;
-  std::vector<Item> items_;
-  std::vector<Item> room_;
+  std::unique_ptr<Item[]> items_;
+  std::unique_ptr<Item[]> room_;
 };
 
 }  // namespace
 
-std::vector<std::uint32_t> keywordOrder(const std::vector<Keyword>& keywords) {
-  return Sorting(keywords).order();
+void sortKeywords(std::vector<Keyword>& keywords, Tableau<Keyword>& sorted) {
+  const Sorting sorting(keywords);
+  sorted.clear();
+  sorted.openGap(0, static_cast<int>(keywords.size()));
+  int place = 0;
+  for (const Item& item : sorting.items()) {
+    sorted.set(place++, &keywords[item.index]);
+  }
 }
 
 }  // namespace kesto
