@@ -6,7 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "addon/foundation/identifier.h"
 #include "doctest.h"
+#include "tests/data_file.h"
 #include "tests/foundation/played_disk.h"
 
 namespace kesto {
@@ -130,6 +132,33 @@ TEST_CASE("the list in the status line stops before 1,024 characters") {
   // 10 + 396 + 2 + 396 + 2 + 217 = 1,023
   CHECK(listed(217).size() == 1023);
   CHECK(listed(218).size() == 804);
+}
+
+TEST_CASE("the keyword files that come along can be completed and describe every word") {
+  std::initializer_list<std::string> none;
+  Completing all(none);
+  for (const char* name : {"c++", "c-library", "win32-messages", "win32-notifications"}) {
+    const std::string path = std::string(TEST_DATA_DIR "/../examples/keywords/") + name + ".kwd";
+    all.disk.put(name, tests::contents(path));
+    all.paths.append(new String(name));
+  }
+  all.completion.load(all.disk, all.paths);
+  CHECK(all.completion.keywords().count() > 1000);
+  std::string before;
+  for (const auto& keyword : all.keywords()) {
+    const std::string& text = keyword.first;
+    const std::string& description = keyword.second;
+    CAPTURE(text);
+    CHECK(text != before);
+    CHECK(std::all_of(text.begin(), text.end(), isIdentifierCharacter));
+    CHECK(!description.empty());
+    CHECK(description.size() < 200);
+    const auto percents = std::count(description.begin(), description.end(), '%');
+    CHECK(percents % 2 == 0);
+    CHECK(description.size() - formattedAlone(description).size() ==
+          static_cast<std::size_t>(percents / 2));
+    before = text;
+  }
 }
 
 }  // namespace kesto
