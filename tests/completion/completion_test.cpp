@@ -69,6 +69,7 @@ TEST_CASE("a keyword file's lines become keywords") {
 TEST_CASE("all files are one list in byte order, equal keywords in the order of the files") {
   Completing files({"b\nZ|1\n\xe9t\n_\n", "gone\n", "Z|2\nZ0\na|3\na|4\nZ|0\n"});
   files.disk.files.erase("F1");
+  CHECK(files.completion.complete("a").result == 2);
   files.completion.load(files.disk, files.paths);
   const Pairs sorted = {{"Z", "1"}, {"Z", "2"}, {"Z", "0"}, {"Z0", ""},   {"_", ""},
                         {"a", "3"}, {"a", "4"}, {"b", ""},  {"\xe9t", ""}};
@@ -97,8 +98,8 @@ TEST_CASE("all files are one list in byte order, equal keywords in the order of 
 }
 
 TEST_CASE("a strike completes as far as the keywords agree, another one describes") {
-  Completing words(
-      {"print|writes 100%% of it, %d %s %n %\nprivate\n", "printf|formats\nprintf|again\n"});
+  Completing words({"print|writes 100%% of it, %d %s %n %\nprivate|mine\nzero\n",
+                    "printf|formats\nprintf|again\n"});
   const char* const none = "No available completion";
   words.expect("x", "", none);
   words.expect("prints", "", none);
@@ -113,8 +114,9 @@ TEST_CASE("a strike completes as far as the keywords agree, another one describe
   words.expect("printf", "", "formats");
   words.expect("priv", "ate", "Completion done");
   CHECK(words.completion.lastMatch() == 3);
-  words.expect("private", "", "Completion complete");
-  words.expect("private", "", "Completion complete");
+  words.expect("private", "", "mine");
+  words.expect("zero", "", "Completion complete");
+  words.expect("zero", "", "Completion complete");
   words.expect("printf", "", "Possible :printf, printf");
   Completing nothing({});
   nothing.expect("pri", "", none);
