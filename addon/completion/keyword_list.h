@@ -21,7 +21,7 @@ inline constexpr std::size_t kKeywordLineSize = 399;
 // What is held at most, of however many and long files: a process of 32 bits has no more
 // to spare. What is beyond goes as unread.
 inline constexpr std::size_t kKeywordLimit = 1'000'000;
-inline constexpr std::size_t kKeywordTextLimit = 64U * 1024 * 1024;
+inline constexpr std::size_t kKeywordTextLimit = std::size_t{64} * 1024 * 1024;
 
 // A line of a keyword file; refers to the characters it was made of.
 class Keyword : public Basic {
