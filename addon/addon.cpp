@@ -7,6 +7,8 @@
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_engine.h"
+#include "addon/delivery/delivery.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
@@ -19,10 +21,16 @@
 #include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/tool_table.h"
+#include "addon/mail/mail.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/notifications.h"
+#include "addon/tasks/task_dialog.h"
+#include "addon/tasks/task_flash.h"
+#include "addon/tasks/task_list.h"
+#include "addon/tasks/task_settings.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -36,12 +44,20 @@ constexpr char kSettingsRoot[] = R"(SOFTWARE\Borland\Borland C++\5.0\Ide\AddOns\
 HWND barWindow = nullptr;
 bool oleInitialised = false;
 AddonHookHost hookHost;
+FileSystemWin fileSystem;
 
 class AddonMenuFeatures : public MenuFeatures {
  public:
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
 };
 AddonMenuFeatures menuFeatures;
+
+// Only where the end of a task is told to others, and not at once.
+std::string pendingNotifications(const std::string& project_file) {
+  const bool with_delivery = taskList != nullptr && taskList->settings.mail_on != 0 &&
+                             taskList->settings.key_is_delivery != 0;
+  return with_delivery ? notificationPath(project_file).text() : "";
+}
 
 // A slot that memory was too short for stays null, and the start goes on.
 template <class T, class... Arguments>
@@ -53,6 +69,33 @@ template <class T>
 void destroy(T*& slot) {
   delete slot;
   slot = nullptr;
+}
+
+void createTasks() {
+  create(taskList, fileSystem);
+  if (taskList == nullptr) {
+    return;
+  }
+  readTaskSettings(*taskList);
+  create(taskFlash, barWindow, fileSystem, *taskList);
+  create(taskDialog, fileSystem, *taskList);
+  // The clients may have been told of an open project before.
+  if (isProjectOpen()) {
+    taskList->setPath(taskFilePath(projectFile()).view());
+    taskList->load();
+    if (taskFlash != nullptr) {
+      taskFlash->postWhenDue();
+    }
+  }
+}
+
+void destroyTasks() {
+  destroy(taskDialog);
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
 }
 
 }  // namespace
@@ -97,6 +140,8 @@ void startAddon(IIde* ide) {
   create(completionEngine);
   create(generalBehaviours);
   create(rcGenerator);
+  create(delivery);
+  notificationsToMail = pendingNotifications;
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -109,12 +154,19 @@ void startAddon(IIde* ide) {
   if (projectTestA != nullptr) {
     projectTestA->registerClients();
   }
+  // A project that is open by now has said whether it wants the tool.
+  if (delivery != nullptr && !isProjectOpen()) {
+    delivery->registerTool();
+  }
   create(recentFiles, barWindow);
   // The clients may have been told of an open project before the lists were there.
   if (recentFiles != nullptr && isProjectOpen()) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
+  create(mail);
+  runOnOpenProject(readMailRecipients);
+  createTasks();
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -130,7 +182,9 @@ void stopAddon() {
     recentFiles->save();
   }
   destroy(recentFiles);
+  destroy(mail);
   destroy(quickFind);
+  destroy(delivery);
   destroy(hookSet);
   destroy(helpFile);
   destroy(editorNavigation);
@@ -142,6 +196,7 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
+  destroyTasks();
   destroy(documentationRun);
   destroy(htmlSettings);
   DestroyWindow(barWindow);

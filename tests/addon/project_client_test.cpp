@@ -2,12 +2,12 @@
 
 #include <cstring>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/project_options.h"
 #include "addon/ide/current_project.h"
+#include "addon/mail/mail.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
@@ -85,7 +85,8 @@ TEST_CASE("saving a project gives back what it stores, in order") {
       {"Kesto_ODR_REP_0", text("+D:\\out")}, {"Kesto_ODR_TYP_1", text("+.dll")},
       {"Kesto_ODR_REP_1", text("+")},        {"KestoGroupwareServer", text("~Z:\\srv")},
       {"Kesto_NB_MAIL", number(2)},          {"Kesto_MAIL_PJ_0", text("+anna")},
-      {"Kesto_MAIL_PJ_1", text("+bert")},    {"Other", "untouched"}};
+      {"Kesto_MAIL_PJ_1", text("+bert")},    {"Other", "untouched"},
+      {"Kesto_ODR_ACT_0", number(0)},        {"Kesto_ODR_ACT_1", number(1)}};
   session.ide.project.options = options;
   session.openProject("C:\\p.ide");
   REQUIRE(session.ide.project_save.clients.size() == 1);
@@ -95,9 +96,10 @@ TEST_CASE("saving a project gives back what it stores, in order") {
         Names{"Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_WITHDELIVERY", "Kesto_NB_ODR",
               "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_ODR_TYP_1", "Kesto_ODR_REP_1",
               "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0", "Kesto_MAIL_PJ_1", "KestoGroupwareServer",
-              "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI"});
+              "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI",
+              "Kesto_ODR_ACT_0", "Kesto_ODR_ACT_1"});
   session.ide.project.close();
-  CHECK(kesto::mailProjectOptions.recipients.empty());
+  CHECK(kesto::mail->recipients().count() == 0);
 }
 
 TEST_CASE("a project that is told of but not loaded is none") {

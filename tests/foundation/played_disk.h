@@ -2,6 +2,8 @@
 // and one step can fail, as on a full disk, or be the last before the process is ended.
 #pragma once
 
+#include <cstdint>
+#include <cstdio>
 #include <map>
 #include <optional>
 #include <set>
@@ -57,6 +59,20 @@ class PlayedDisk : public FileSystem {
     return found != files.end() && found->second.text == text;
   }
   bool write(const char* path, std::string_view text) override { return put(path, "", text); }
+  bool writeRecord(const char* path, const Basic& record) override {
+    const Bytes bytes;
+    return record.fWrite(bytes.file) != 0 && write(path, bytes.take());
+  }
+  bool readRecord(const char* path, Basic& record) override {
+    const auto found = files.find(path);
+    if (found == files.end()) {
+      return false;
+    }
+    const Bytes bytes;
+    fwrite(found->second.text.data(), 1, found->second.text.size(), bytes.file);
+    rewind(bytes.file);
+    return record.fRead(bytes.file) != 0;
+  }
   bool append(const char* path, std::string_view text) override {
     note("append", path);
     return put(path, files[path].text, text);
@@ -97,6 +113,26 @@ class PlayedDisk : public FileSystem {
   virtual void placed(const std::string& /*path*/) {}
 
  private:
+  // A stream for records, on a file of the current directory that goes with it.
+  struct Bytes {
+    Bytes() = default;
+    Bytes(const Bytes&) = delete;
+    Bytes& operator=(const Bytes&) = delete;
+    ~Bytes() {
+      fclose(file);
+      ::remove(name.c_str());
+    }
+    std::string take() const {
+      std::string all(static_cast<std::size_t>(ftell(file)), '\0');
+      rewind(file);
+      all.resize(fread(all.data(), 1, all.size(), file));
+      return all;
+    }
+    const std::string name =
+        "played" + std::to_string(reinterpret_cast<std::uintptr_t>(this)) + ".tmp";
+    FILE* const file = fopen(name.c_str(), "w+b");
+  };
+
   void note(const char* what, const char* path) { done += std::string(what) + ' ' + path + '\n'; }
   bool ended() const { return ends && failing != 0 && changes >= failing; }
   bool change() {

@@ -3,8 +3,8 @@
 #include <map>
 #include <memory>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
+#include "addon/mail/project_options.h"
 #include "doctest.h"
 
 namespace {
@@ -116,7 +116,7 @@ TEST_CASE("texts start behind their marker and end in time") {
   CHECK(store.stored("T") == std::string("~default\0", 9));
 }
 
-TEST_CASE("delivery groups without a type are skipped") {
+TEST_CASE("delivery groups without a type are skipped; without their node they are stored") {
   Store store;
   store.plantNumber("Kesto_NB_ODR", 3);
   store.plantText("Kesto_ODR_TYP_0", "+.exe");
@@ -124,15 +124,41 @@ TEST_CASE("delivery groups without a type are skipped") {
   store.plantText("Kesto_ODR_TYP_1", "+");
   store.plantText("Kesto_ODR_REP_1", "+D:\\lost");
   store.plantText("Kesto_ODR_TYP_2", "+.dll");
+  store.plantNumber("Kesto_ODR_ACT_2", 0);
   kesto::DeliveryProjectOptions options;
-  options.groups = {{"of another", "project"}};
+  options.groups.append(new kesto::OneDelRep("of another", "project"));
   options.readCount(store);
   options.readGroups(store);
-  REQUIRE(options.groups.size() == 2);
-  CHECK(options.groups[0].directory == "D:\\out");
-  CHECK(options.groups[1].type == ".dll");
-  CHECK(options.groups[1].directory.empty());
+  REQUIRE(options.groups.count() == 2);
+  CHECK(options.groups[0]->directory == "D:\\out");
+  CHECK(options.groups[0]->active == 1);
+  CHECK(options.groups[1]->type == ".dll");
+  CHECK(options.groups[1]->directory.empty());
+  CHECK(options.groups[1]->active == 0);
   CHECK(options.table_name == "Delivery");
+
+  for (const bool found : {true, false}) {
+    if (!found) {
+      kesto::DeliveryNodes nodes;
+      nodes.loaded = true;
+      options.rebuild(nodes);
+      options.rebuild(nodes);
+      CHECK(options.groups.count() == 0);
+    }
+    Store saved;
+    options.writeGroups(saved);
+    options.writeActive(saved);
+    CHECK(saved.stored("Kesto_NB_ODR") == std::string("\x02\0\0\0", 4));
+    CHECK(saved.stored("Kesto_ODR_TYP_1") == std::string("+.dll\0", 6));
+    CHECK(saved.stored("Kesto_ODR_ACT_0") == std::string("\x01\0\0\0", 4));
+    CHECK(saved.stored("Kesto_ODR_ACT_1") == std::string(4, '\0'));
+  }
+  // Those of another project are not this one's.
+  Store other;
+  options.readCount(other);
+  options.readGroups(other);
+  options.writeGroups(other);
+  CHECK(other.stored("Kesto_NB_ODR") == std::string(4, '\0'));
 }
 
 TEST_CASE("recipients, and counts that no project has") {
@@ -144,19 +170,19 @@ TEST_CASE("recipients, and counts that no project has") {
     store.plantText("Kesto_MAIL_PJ_10000", "+one too many");
     store.plantText("Kesto_ODR_TYP_9999", "+.exe");
     store.plantText("Kesto_ODR_TYP_10000", "+.dll");
-    kesto::MailProjectOptions mail;
-    mail.recipients = {"of another project"};
-    mail.read(store);
+    kesto::Ensemble<kesto::String> recipients;
+    recipients.append(new kesto::String("of another project"));
+    kesto::readRecipients(store, recipients);
     const std::size_t kept = count > 0 ? 1 : 0;
-    CHECK(mail.recipients.size() == kept);
+    CHECK(recipients.count() == static_cast<int>(kept));
     kesto::DeliveryProjectOptions delivery;
     delivery.readCount(store);
     delivery.readGroups(store);
-    CHECK(delivery.groups.size() == kept);
+    CHECK(delivery.groups.count() == static_cast<int>(kept));
   }
   Store uncounted;
   uncounted.plantText("Kesto_MAIL_PJ_0", "+anna");
-  kesto::MailProjectOptions mail;
-  mail.read(uncounted);
-  CHECK(mail.recipients.empty());
+  kesto::Ensemble<kesto::String> recipients;
+  kesto::readRecipients(uncounted, recipients);
+  CHECK(recipients.count() == 0);
 }
