@@ -6,7 +6,7 @@
 
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/completion/completion_settings.h"
+#include "addon/completion/completion_engine.h"
 #include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
@@ -137,7 +137,7 @@ void startAddon(IIde* ide) {
   create(editorNavigation, barWindow, new_shell);
   create(topBar, new_shell, barWindow);
   create(barMenu, barWindow, menuFeatures);
-  create(completionSettings);
+  create(completionEngine);
   create(generalBehaviours);
   create(rcGenerator);
   create(delivery);
@@ -190,7 +190,7 @@ void stopAddon() {
   destroy(editorNavigation);
   destroy(barMenu);
   destroy(topBar);
-  destroy(completionSettings);
+  destroy(completionEngine);
   destroy(editorServiceHolder);
   destroy(rcGenerator);
   destroy(generalBehaviours);

@@ -91,8 +91,11 @@ class Editor : public Counted<IEditorService> {
                : nullptr;
   }
   void STDMETHODCALLTYPE InsertText(IIdeString* text) override {
-    lines[static_cast<size_t>(line) - 1].insert(static_cast<size_t>(column) - 1, text->GetText());
+    if (!refuses) {
+      lines[static_cast<size_t>(line) - 1].insert(static_cast<size_t>(column) - 1, text->GetText());
+    }
   }
+  bool refuses = false;  // as its user answers about a file that is not to be changed
   int STDMETHODCALLTYPE SaveModified(IIdeString** names) override {
     ++savings;
     if (modified.empty()) {
