@@ -3,8 +3,8 @@
 #include <map>
 #include <memory>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
+#include "addon/mail/project_options.h"
 #include "doctest.h"
 
 namespace {
@@ -144,11 +144,11 @@ TEST_CASE("recipients, and counts that no project has") {
     store.plantText("Kesto_MAIL_PJ_10000", "+one too many");
     store.plantText("Kesto_ODR_TYP_9999", "+.exe");
     store.plantText("Kesto_ODR_TYP_10000", "+.dll");
-    kesto::MailProjectOptions mail;
-    mail.recipients = {"of another project"};
-    mail.read(store);
+    kesto::Ensemble<kesto::String> recipients;
+    recipients.append(new kesto::String("of another project"));
+    kesto::readRecipients(store, recipients);
     const std::size_t kept = count > 0 ? 1 : 0;
-    CHECK(mail.recipients.size() == kept);
+    CHECK(recipients.count() == static_cast<int>(kept));
     kesto::DeliveryProjectOptions delivery;
     delivery.readCount(store);
     delivery.readGroups(store);
@@ -156,7 +156,7 @@ TEST_CASE("recipients, and counts that no project has") {
   }
   Store uncounted;
   uncounted.plantText("Kesto_MAIL_PJ_0", "+anna");
-  kesto::MailProjectOptions mail;
-  mail.read(uncounted);
-  CHECK(mail.recipients.empty());
+  kesto::Ensemble<kesto::String> recipients;
+  kesto::readRecipients(uncounted, recipients);
+  CHECK(recipients.count() == 0);
 }
