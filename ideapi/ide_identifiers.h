@@ -23,6 +23,10 @@ inline constexpr GUID kToolService = serviceId(0x707240D9);
 inline constexpr GUID kUnknown{
     0x00000000, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
+// What the tools of add-ons answer for.
+inline constexpr GUID kToolImplementor{
+    0x94D38B60, 0xE488, 0x11CE, {0xBA, 0x8F, 0x00, 0x00, 0xC0, 0xF4, 0xA3, 0x55}};
+
 inline constexpr char kFrameClass[] = "CPPFRAME";
 inline constexpr char kMdiClientClass[] = "MDIClient";
 inline constexpr char kEditorClass[] = "BCW5Editor";
@@ -32,6 +36,9 @@ inline constexpr char kMessageClass[] = "BCW5Message";
 inline constexpr char kOwlWindowClass[] = "OWL_Window";
 inline constexpr char kNoteTabClass[] = "OWL_NoteTab";
 inline constexpr char kMessageViewerClass[] = "MsgViewer";
+// A child of the frame, with the status line in it. What the IDE itself calls the class is
+// not known here; this is the Workbench's name for it.
+inline constexpr char kStatusClass[] = "BCW5Status";
 
 // Menu commands, sent as WM_COMMAND to the frame unless noted.
 inline constexpr int kCommandSaveAll = 13104;

@@ -248,21 +248,46 @@ enum ToolResult : int {
   kToolFatal = 3,
 };
 
-// What an add-on supplies to be a tool of the Tool menu.
+// Bits of a tool's flags.
+enum ToolFlag : unsigned int {
+  kToolInMenu = 0x0100,       // the Tool menu offers it
+  kToolWithoutFile = 0x2000,  // it is run without a file, whatever is being worked on
+};
+
+// What an add-on supplies to be a tool; it answers for ideapi::kToolImplementor.
 struct IToolImplementor : IUnknown {
-  // Runs the tool on a file (null when it was chosen without one).
+  // Runs the tool on a file (null when it was chosen without one); a ToolResult.
   virtual int STDMETHODCALLTYPE Run(IIdeString* file) = 0;
 };
 
+// The tools of the IDE and those of add-ons. A new tool is put together step by step and
+// then added: only from then on it is found, run and offered, and its parts stay as they are.
+// Each step returns 1, or 0 for a tool that is gone, has been added or is the IDE's own.
 struct IToolService : IUnknown {
   // The tool of that name, or 0.
   virtual ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) = 0;
+  // A new tool without any of its parts, at position 0; its creator adds or deletes it.
+  virtual ToolHandle STDMETHODCALLTYPE CreateTool() = 0;
+  // The place in the Tool menu: from 0 on counted from its start, below 0 from its end, where
+  // -1 is the last. Tools of one position stand in the order in which they were added.
+  virtual int STDMETHODCALLTYPE SetPosition(ToolHandle tool, int position) = 0;
+  virtual int STDMETHODCALLTYPE SetName(ToolHandle tool, IIdeString* name) = 0;
+  // ToolFlag bits; others mean nothing.
+  virtual int STDMETHODCALLTYPE SetFlags(ToolHandle tool, unsigned int flags) = 0;
+  // What the status line says while the tool is highlighted in the menu.
+  virtual int STDMETHODCALLTYPE SetDescription(ToolHandle tool, IIdeString* description) = 0;
+  // The text of the menu's item, "&" included; the name serves when it is empty.
+  virtual int STDMETHODCALLTYPE SetMenuText(ToolHandle tool, IIdeString* menu_text) = 0;
+  // What stands where a program's tool has its command line.
+  virtual int STDMETHODCALLTYPE SetText(ToolHandle tool, IIdeString* text) = 0;
+  // The service keeps a reference until the tool is deleted or gets another one.
+  virtual int STDMETHODCALLTYPE SetImplementor(ToolHandle tool, IToolImplementor* implementor) = 0;
+  // Returns 0, and leaves the tool as it was, when it has no name or no implementor, or when
+  // a tool of its name is there.
+  virtual int STDMETHODCALLTYPE AddTool(ToolHandle tool) = 0;
+  // Returns 1, or 0 for a tool that is gone or is the IDE's own. It may be running.
+  virtual int STDMETHODCALLTYPE DeleteTool(ToolHandle tool) = 0;
   // A ToolResult; a tool that is gone answers kToolNotHandled. "EditText" opens one more
   // view of a file that an editor shows already.
   virtual int STDMETHODCALLTYPE RunTool(ToolHandle tool, IIdeString* file) = 0;
-  // Adds a tool to the Tool menu; the service keeps a reference of the
-  // implementor until the tool is removed. Returns 0 when the name is taken.
-  virtual ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menu_text,
-                                               IToolImplementor* implementor) = 0;
-  virtual void STDMETHODCALLTYPE RemoveTool(ToolHandle tool) = 0;
 };

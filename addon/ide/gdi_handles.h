@@ -20,6 +20,20 @@ class WindowDc {
   HDC dc_;
 };
 
+// The device context of a window's inner area.
+class ClientDc {
+ public:
+  explicit ClientDc(HWND window) : window_(window), dc_(GetDC(window)) {}
+  ~ClientDc() { ReleaseDC(window_, dc_); }
+  ClientDc(const ClientDc&) = delete;
+  ClientDc& operator=(const ClientDc&) = delete;
+  HDC get() const { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
+
 class MemoryDc {
  public:
   explicit MemoryDc(HDC like) : dc_(CreateCompatibleDC(like)) {}

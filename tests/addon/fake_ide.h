@@ -223,10 +223,12 @@ class ProjectSave : public Counted<IProjectSaveService> {
   }
 };
 
-// Every name is a tool; what was run is "NAME FILE".
+// Every name is a tool; what was run is "NAME FILE". The steps by which a tool of an add-on,
+// one at a time, came and went are lines.
 class Tools : public Counted<IToolService> {
  public:
   std::vector<std::string> runs;
+  std::string steps;
   int result = kToolDone;
   ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) override {
     name_ = name->GetText();
@@ -236,13 +238,52 @@ class Tools : public Counted<IToolService> {
     runs.push_back(name_ + ' ' + file->GetText());
     return result;
   }
-  ToolHandle STDMETHODCALLTYPE AddTool(IIdeString*, IIdeString*, IToolImplementor*) override {
-    return 0;
+  ToolHandle STDMETHODCALLTYPE CreateTool() override {
+    steps += "create\n";
+    return 2;
   }
-  void STDMETHODCALLTYPE RemoveTool(ToolHandle) override {}
+  int STDMETHODCALLTYPE SetPosition(ToolHandle, int position) override {
+    return step("position " + std::to_string(position));
+  }
+  int STDMETHODCALLTYPE SetName(ToolHandle, IIdeString* name) override {
+    return step(std::string("name ") + name->GetText());
+  }
+  int STDMETHODCALLTYPE SetFlags(ToolHandle, unsigned int flags) override {
+    return step("flags " + std::to_string(flags));
+  }
+  int STDMETHODCALLTYPE SetDescription(ToolHandle, IIdeString* description) override {
+    return step(std::string("description ") + description->GetText());
+  }
+  int STDMETHODCALLTYPE SetMenuText(ToolHandle, IIdeString* menu_text) override {
+    return step(std::string("menu ") + menu_text->GetText());
+  }
+  int STDMETHODCALLTYPE SetText(ToolHandle, IIdeString* text) override {
+    return step(std::string("text ") + text->GetText());
+  }
+  int STDMETHODCALLTYPE SetImplementor(ToolHandle, IToolImplementor* implementor) override {
+    if (implementor != nullptr) {
+      implementor->AddRef();
+    }
+    implementor_ = implementor;
+    return step("implementor");
+  }
+  int STDMETHODCALLTYPE AddTool(ToolHandle) override { return step("add"); }
+  int STDMETHODCALLTYPE DeleteTool(ToolHandle) override {
+    if (implementor_ != nullptr) {
+      implementor_->Release();
+      implementor_ = nullptr;
+    }
+    return step("delete");
+  }
 
  private:
+  int step(const std::string& text) {
+    steps += text + '\n';
+    return 1;
+  }
+
   std::string name_;
+  IToolImplementor* implementor_ = nullptr;
 };
 
 class Options : public Counted<IOptionsService> {

@@ -88,7 +88,7 @@ class Program {
       UnregisterClassA(ideapi::kFrameClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorClass, GetModuleHandleA(nullptr));
       UnregisterClassA(ideapi::kEditorTextClass, GetModuleHandleA(nullptr));
-      UnregisterClassA("WorkbenchStatus", GetModuleHandleA(nullptr));
+      UnregisterClassA(ideapi::kStatusClass, GetModuleHandleA(nullptr));
     }
   }
   IIde* ide() { return application.ide(); }

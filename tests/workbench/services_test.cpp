@@ -104,6 +104,7 @@ TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {
   stream->AddRef();
   MakeClientFake client;
   program.held<IMakeService>(ideapi::kMakeService)->AddClient(&client);
+  program.held<IToolService>(ideapi::kToolService)->CreateTool();
   program.close();
   std::string leaks;
   for (const Event& event : program.events) {
@@ -111,7 +112,7 @@ TEST_CASE("what an add-on forgets is told at exit, what it gave back is not") {
       leaks += *event.find("kind") + "=" + *event.find("count") + " ";
     }
   }
-  CHECK(leaks == "file stream=2 make client=1 string=1 ");
+  CHECK(leaks == "file stream=2 make client=1 string=1 tool=1 ");
   kept->Release();
   stream->Release();
   stream->Release();
@@ -292,23 +293,6 @@ TEST_CASE_FIXTURE(OpenFolder, "tools") {
   CHECK(*program.last("tool")->find("result") == "0");
   CHECK(tools->RunTool(tools->FindTool(name.get()), nullptr) == kToolNotHandled);
 
-  ToolFake tool;
-  CHECK(tools->AddTool(name.get(), name.get(), &tool) == 0);
-  name->SetText("Deliver");
-  const ToolHandle handle = tools->AddTool(name.get(), name.get(), &tool);
-  CHECK(tools->FindTool(name.get()) == handle);
-  CHECK(tool.references == 2);
-  CHECK(tools->RunTool(handle, file.get()) == kToolWarnings);
-  SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
-  // From the menu it gets the file of the active editor, and none without one.
-  CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h"));
-  SendMessageA(program.application.activeEditor()->window(), WM_CLOSE, 0, 0);
-  SendMessageA(program.application.frame(), WM_COMMAND, 14000 + handle, 0);
-  CHECK(tool.calls == folder.file("inc\\b.h") + folder.file("inc\\b.h") + "(none)");
-  tools->RemoveTool(handle);
-  CHECK(tool.references == 1);
-  CHECK(tools->RunTool(handle, file.get()) == kToolNotHandled);
-
   // A project's file stands for its folder.
   name->SetText("Project");
   file->SetText(folder.file("whatever.ide").c_str());
@@ -324,4 +308,112 @@ TEST_CASE_FIXTURE(OpenFolder, "tools") {
   char title[300] = {};
   GetWindowTextA(view->window(), title, sizeof title);
   CHECK(title == folder.file("a.cpp") + ":2");
+}
+
+namespace {
+
+struct ToolOfAddon {
+  const char* name;
+  int position;
+  unsigned int flags;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(OpenFolder, "a tool of an add-on is put together, added, offered and deleted") {
+  const auto tools = program.held<IToolService>(ideapi::kToolService);
+  const auto text = program.text("");
+  const auto file = program.text(folder.file("a.cpp"));
+  ToolFake implementor;
+  std::vector<ToolHandle> handles;
+  // Counted from the start, then from the end, and by age where the places are equal.
+  for (const ToolOfAddon& each :
+       {ToolOfAddon{"Last", -1, 0x100}, ToolOfAddon{"Deliver", -3, 0x2100},
+        ToolOfAddon{"Second", 1, 0x100}, ToolOfAddon{"Hidden", 0, 0x2000},
+        ToolOfAddon{"First", 0, 0x100}, ToolOfAddon{"Other", -3, 0x2100}}) {
+    const ToolHandle tool = tools->CreateTool();
+    handles.push_back(tool);
+    CHECK(tools->AddTool(tool) == 0);
+    CHECK(tools->SetPosition(tool, each.position) == 1);
+    text->SetText(each.name);
+    CHECK(tools->SetName(tool, text.get()) == 1);
+    CHECK(tools->SetFlags(tool, each.flags) == 1);
+    text->SetText((std::string("Does ") + each.name).c_str());
+    CHECK(tools->SetDescription(tool, text.get()) == 1);
+    text->SetText(each.position == -3 ? (std::string("&") + each.name).c_str() : "");
+    CHECK(tools->SetMenuText(tool, text.get()) == 1);
+    CHECK(tools->AddTool(tool) == 0);
+    CHECK(tools->SetImplementor(tool, &implementor) == 1);
+    CHECK(tools->SetImplementor(tool, &implementor) == 1);
+    CHECK(tools->RunTool(tool, file.get()) == kToolNotHandled);
+    text->SetText(each.name);
+    CHECK(tools->FindTool(text.get()) == 0);
+    CHECK(tools->AddTool(tool) == 1);
+    CHECK(tools->FindTool(text.get()) == tool);
+    // From now on it stays as it is.
+    CHECK(tools->SetName(tool, file.get()) + tools->SetImplementor(tool, nullptr) == 0);
+    CHECK(tools->AddTool(tool) == 0);
+  }
+  CHECK(implementor.references == 1 + 6);
+  const HMENU bar = GetMenu(application.frame());
+  HMENU menu = nullptr;
+  std::string shown;
+  for (int i = 0; i < GetMenuItemCount(bar); ++i) {
+    const HMENU popup = GetSubMenu(bar, i);
+    menu = GetMenuItemID(popup, 0) == 14000 ? popup : menu;
+  }
+  REQUIRE(menu != nullptr);
+  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+    char item[20] = {};
+    GetMenuStringA(menu, static_cast<UINT>(i), item, sizeof item, MF_BYPOSITION);
+    shown += item;
+    shown += ' ';
+  }
+  CHECK(shown == "First Second &Deliver &Other Last ");
+
+  // A name that is taken, the IDE's own tools, and a tool that was never added.
+  const ToolHandle taken = tools->CreateTool();
+  text->SetText("EditText");
+  tools->SetName(taken, text.get());
+  tools->SetImplementor(taken, &implementor);
+  CHECK(tools->AddTool(taken) == 0);
+  CHECK(tools->DeleteTool(tools->FindTool(text.get())) == 0);
+  CHECK(tools->DeleteTool(taken) == 1);
+  CHECK(tools->DeleteTool(taken) == 0);
+  CHECK(implementor.references == 1 + 6);
+
+  // From the menu it gets the file in work; what needs none never does, and nothing else runs
+  // without one.
+  const HWND frame = application.frame();
+  SendMessageA(frame, WM_COMMAND, 14000, 0);
+  SendMessageA(frame, WM_COMMAND, 14002, 0);
+  CHECK(implementor.calls == "(none)");
+  application.editFile("a.cpp", 0);
+  SendMessageA(frame, WM_COMMAND, 14000, 0);
+  SendMessageA(frame, WM_COMMAND, 14002, 0);
+  SendMessageA(frame, WM_COMMAND, 14005, 0);
+  CHECK(implementor.calls == "(none)" + folder.file("a.cpp") + "(none)");
+  CHECK(tools->RunTool(handles[3], file.get()) == kToolWarnings);
+
+  // Its description is there while it is highlighted, then the text before.
+  application.setStatus("before");
+  SendMessageA(frame, WM_MENUSELECT, MAKEWPARAM(14002, 0), reinterpret_cast<LPARAM>(menu));
+  CHECK(application.status() == "Does Deliver");
+  SendMessageA(frame, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+  CHECK(application.status() == "before");
+
+  for (std::size_t i = 0; i + 1 < handles.size(); ++i) {
+    CHECK(tools->DeleteTool(handles[i]) == 1);
+  }
+  CHECK(implementor.references == 2);
+  CHECK(tools->RunTool(handles[0], file.get()) == kToolNotHandled);
+  // However many came and went, the menu still reaches the ones that are there.
+  for (int i = 0; i < 2000; ++i) {
+    tools->DeleteTool(tools->CreateTool());
+  }
+  implementor.calls.clear();
+  SendMessageA(frame, WM_COMMAND, 14000, 0);
+  CHECK(implementor.calls == "(none)");
+  tools->DeleteTool(handles.back());
+  CHECK(implementor.references == 1);
 }

@@ -69,17 +69,6 @@ bool Application::createFrame(HINSTANCE instance, bool keep_settings) {
   return true;
 }
 
-void Application::showTools() {
-  if (frame_.window() == nullptr) {
-    return;
-  }
-  std::vector<ToolItem> items;
-  for (const ToolService::MenuTool& tool : root_.tools().menuTools()) {
-    items.push_back({CM_FIRST_TOOL + static_cast<int>(tool.handle), tool.text});
-  }
-  frame_.setTools(items);
-}
-
 void Application::noteRecent(const std::string& path) {
   if (recent_.add(path)) {
     showRecent();
@@ -140,12 +129,13 @@ void Application::frameClosing() {
     return;
   }
   closed_ = true;
+  // A menu that is still open keeps its items.
+  root_.tools().setMenuListener({});
   make_.close();
   editors_.destroyAll();
   unloadProject();
   root_.project().setView(nullptr);
   addon_.shutDown();
-  root_.tools().setMenuListener({});
 }
 
 void Application::showError(const std::string& text) {

@@ -96,6 +96,7 @@ class Application final : public Workbench,
 
   void frameCommand(int id) override;
   bool commandEnabled(int id) override;
+  void commandHighlighted(int id) override;
   bool mayCloseFrame() override {
     return mayStopMake() && editors_.askToSaveAll() && askToSaveProject();
   }
@@ -131,7 +132,6 @@ class Application final : public Workbench,
   void openRecent(std::size_t position);
   void showRecent();
   void showTitle();
-  void showTools();
   void showEditorState();
   void messagesChanged(const MessageGroupInfo& group, const Message* added);
   bool showPlace(const Message& message);
@@ -157,7 +157,15 @@ class Application final : public Workbench,
   std::string projectName();
   // Asks when a make is running; false leaves it so.
   bool mayStopMake();
-  void runTool(ToolHandle tool);
+  // tool_commands.cpp
+  void showTools();
+  // The tool of a menu command, or null.
+  const ToolService::MenuTool* toolOf(int id) const;
+  // The file that is being worked on: that of the active editor, or the one selected in the
+  // project window while that is active; empty for none.
+  std::string fileInWork();
+  bool toolEnabled(const ToolService::MenuTool& tool);
+  bool toolCommand(int id);
   // find_commands.cpp
   void findCommand(int id, EditorChild& child);
   void findNext(bool backward);
@@ -181,6 +189,7 @@ class Application final : public Workbench,
   LiveObjects live_;
   IdeRoot root_;
   Frame frame_;
+  std::vector<ToolService::MenuTool> menu_tools_;
   MessageWindow message_window_;
   ProjectWindow project_window_;
   MakeRun make_;

@@ -19,7 +19,8 @@ namespace workbench {
 void Application::frameCommand(int id) {
   frame_.statusBar().passText();
   EditorChild* child = editors_.active();
-  if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id)) {
+  if (fileCommand(id, child) || windowCommand(id, child) || projectCommand(id) || nodeCommand(id) ||
+      toolCommand(id)) {
     return;
   }
   if (child != nullptr) {
@@ -74,8 +75,10 @@ bool Application::commandEnabled(int id) {
     case CM_NODE_REMOVE:
     case CM_NODE_PROPERTIES:
       return project_window_.selected() != 0;
-    default:
-      return true;
+    default: {
+      const ToolService::MenuTool* tool = toolOf(id);
+      return tool == nullptr || toolEnabled(*tool);
+    }
   }
 }
 
@@ -274,13 +277,8 @@ bool Application::projectCommand(int id) {
       showAbout();
       return true;
     default:
-      break;
+      return false;
   }
-  if (id > CM_FIRST_TOOL && id <= CM_LAST_TOOL) {
-    runTool(static_cast<ToolHandle>(id - CM_FIRST_TOOL));
-    return true;
-  }
-  return false;
 }
 
 void Application::openProjectFile() {

@@ -81,6 +81,11 @@ LRESULT Frame::handleMessage(UINT message, WPARAM w, LPARAM l) {
         enableItems(reinterpret_cast<HMENU>(w));
       }
       break;
+    case WM_MENUSELECT: {
+      const bool command = (HIWORD(w) & (MF_POPUP | MF_SYSMENU)) == 0;
+      handler_.commandHighlighted(command ? LOWORD(w) : 0);
+      break;
+    }
     case WM_ACTIVATEAPP:
       if (w != 0) {
         // Asking from within the activation would fight over the focus.
@@ -185,7 +190,7 @@ void Frame::enableItems(HMENU menu) {
   }
 }
 
-void Frame::setTools(const std::vector<ToolItem>& items) {
+void Frame::setTools(const std::vector<std::string>& texts) {
   HMENU bar = GetMenu(window_);
   // A maximized child puts its own menu first, so positions are looked up.
   int window_position = 0;
@@ -199,10 +204,10 @@ void Frame::setTools(const std::vector<ToolItem>& items) {
       window_position = i;
     }
   }
-  if (!items.empty()) {
+  if (!texts.empty()) {
     tool_menu_ = CreatePopupMenu();
-    for (const ToolItem& item : items) {
-      AppendMenuA(tool_menu_, MF_STRING, static_cast<UINT_PTR>(item.id), item.text.c_str());
+    for (UINT i = 0; i < texts.size() && CM_FIRST_TOOL + i <= CM_LAST_TOOL; ++i) {
+      AppendMenuA(tool_menu_, MF_STRING, CM_FIRST_TOOL + i, texts[i].c_str());
     }
     InsertMenuA(bar, static_cast<UINT>(window_position), MF_BYPOSITION | MF_POPUP,
                 reinterpret_cast<UINT_PTR>(tool_menu_), "&Tool");

@@ -20,6 +20,8 @@ class FrameHandler {
   virtual void frameCommand(int id) = 0;
   // Whether the command can be given now.
   virtual bool commandEnabled(int id) = 0;
+  // The entry of the frame's menus that is highlighted; 0 for none that gives a command.
+  virtual void commandHighlighted(int id) = 0;
   // False keeps the frame open.
   virtual bool mayCloseFrame() = 0;
   // The editors are gone, the frame's windows still stand.
@@ -37,11 +39,6 @@ class FrameHandler {
   ~FrameHandler() = default;
 };
 
-struct ToolItem {
-  int id;  // CM_FIRST_TOOL and up
-  std::string text;
-};
-
 class Frame {
  public:
   explicit Frame(FrameHandler& handler) : handler_(handler) {}
@@ -52,8 +49,9 @@ class Frame {
   HWND mdiClient() const { return mdi_client_; }
   StatusBar& statusBar() { return status_; }
   void setTitle(const std::string& title);
-  // The items of the Tool menu, which is there while it has any.
-  void setTools(const std::vector<ToolItem>& items);
+  // The items of the Tool menu, which is there while it has any; the ids are CM_FIRST_TOOL
+  // and up, at most as many as there are.
+  void setTools(const std::vector<std::string>& texts);
   // The texts at the end of the File menu, at most as many as there are ids for them.
   void setRecent(const std::vector<std::string>& texts);
   // Runs the message loop until the program ends; returns its exit code.

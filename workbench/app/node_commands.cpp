@@ -194,17 +194,4 @@ void Application::editBuild() {
   }
 }
 
-// On the file that is being worked on: that of the active editor, or the one
-// selected in the project window while that is active.
-void Application::runTool(ToolHandle tool) {
-  std::string file;
-  if (EditorChild* child = editors_.active()) {
-    file = child->file();
-  } else if (project_window_.active()) {
-    const NodeInfo* info = project_.node(project_window_.selected());
-    file = info != nullptr ? info->name : std::string();
-  }
-  root_.tools().runFromMenu(tool, file);
-}
-
 }  // namespace workbench

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "ideapi/ide_identifiers.h"
 #include "workbench/windows/window_class.h"
 
 namespace workbench {
 namespace {
 
-constexpr char kClass[] = "WorkbenchStatus";
 constexpr int kFieldWidth = 84;  // pixels
 constexpr int kGap = 3;
 constexpr UINT kTimer = 1;
@@ -24,7 +24,7 @@ void drawField(HDC dc, RECT area, const std::string& text) {
 }  // namespace
 
 bool StatusBar::registerClass(HINSTANCE instance) {
-  WNDCLASSA info = windowClass(kClass, windowProc, instance, kNoBackground);
+  WNDCLASSA info = windowClass(ideapi::kStatusClass, windowProc, instance, kNoBackground);
   info.style = CS_HREDRAW | CS_VREDRAW;
   return RegisterClassA(&info) != 0;
 }
@@ -35,8 +35,8 @@ bool StatusBar::create(HWND parent, HINSTANCE instance) {
   if (SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) != 0) {
     font_.reset(CreateFontIndirectA(&metrics.lfStatusFont));
   }
-  window_ = CreateWindowExA(0, kClass, "", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent, nullptr,
-                            instance, this);
+  window_ = CreateWindowExA(0, ideapi::kStatusClass, "", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
+                            nullptr, instance, this);
   return window_ != nullptr;
 }
 
@@ -100,7 +100,7 @@ void StatusBar::paint() {
     const RECT box = fieldArea(field);
     RECT shared = {};
     if (IntersectRect(&shared, &box, &info.rcPaint) != 0) {
-      drawField(dc.get(), box, texts_[field]);
+      drawField(dc.get(), box, field == 0 ? text() : texts_[field]);
     }
   }
   const RECT& part = info.rcPaint;
@@ -112,7 +112,7 @@ void StatusBar::paint() {
 }
 
 void StatusBar::passText() {
-  if (text().empty() || passing_ || window_ == nullptr) {
+  if (texts_[0].empty() || passing_ || window_ == nullptr) {
     return;
   }
   passing_ = true;
@@ -126,7 +126,7 @@ void StatusBar::passText() {
 
 void StatusBar::textLeaves() {
   if (passing_) {
-    const std::string leaving = text();
+    const std::string leaving = texts_[0];
     setText("");
     if (left_) {
       left_(leaving);
@@ -139,11 +139,22 @@ bool StatusBar::change(int field, const std::string& text) {
     return false;
   }
   texts_[field] = text;
+  paintAnew(field);
+  return true;
+}
+
+void StatusBar::paintAnew(int field) {
   if (window_ != nullptr) {
     const RECT box = fieldArea(field);
     InvalidateRect(window_, &box, FALSE);
   }
-  return true;
+}
+
+void StatusBar::setHint(const std::string& hint) {
+  if (hint_ != hint) {
+    hint_ = hint;
+    paintAnew(0);
+  }
 }
 
 void StatusBar::setText(const std::string& text) {

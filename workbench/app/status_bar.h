@@ -25,7 +25,10 @@ class StatusBar {
   // Something else has happened than what the text tells: it leaves, though not before it
   // was there long enough to be read.
   void passText();
-  const std::string& text() const { return texts_[0]; }
+  // Stands in place of the text, which comes back when the hint is empty again.
+  void setHint(const std::string& hint);
+  // What stands there now.
+  const std::string& text() const { return hint_.empty() ? texts_[0] : hint_; }
   const std::string& state() const { return texts_[2]; }
   // "line:column", "Modified", "New file" or empty, "Insert" or "Overwrite", how the file is
   // encoded; all empty without an editor.
@@ -42,12 +45,14 @@ class StatusBar {
   RECT fieldArea(int field) const;
   // Returns whether it is another text than before; the field is then painted anew.
   bool change(int field, const std::string& text);
+  void paintAnew(int field);
 
   HWND window_ = nullptr;
   OwnedFont font_;
   std::function<void(const std::string&)> left_;
   DWORD shown_at_ = 0;    // the system's milliseconds
   bool passing_ = false;  // the text leaves when its time is over
+  std::string hint_;
   std::string texts_[kFields];
 };
 

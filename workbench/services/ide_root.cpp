@@ -58,7 +58,7 @@ void IdeRoot::reportLeaks() {
   counts["make client"] = static_cast<long>(make_.clients().size());
   counts["project client"] = static_cast<long>(project_.clients().size());
   counts["project save client"] = static_cast<long>(project_save_.clients().size());
-  counts["tool"] = static_cast<long>(tools_.implementors());
+  counts["tool"] = static_cast<long>(tools_.addonTools());
   for (const auto& [kind, count] : counts) {
     if (count != 0) {
       context_.log.emit(Event("leak").text("kind", kind).number("count", count));

@@ -20,19 +20,25 @@ namespace workbench {
 ToolService::ToolService(const ServiceContext& context)
     : Service(context.live, "tool service", ideapi::kToolService), context_(context) {
   for (const char* name : kOwnTools) {
-    tools_.push_back({++last_handle_, name, "", nullptr});
+    Tool tool;
+    tool.handle = ++last_handle_;
+    tool.name = name;
+    tool.own = tool.added = true;
+    tools_.push_back(tool);
   }
 }
 
 const ToolService::Tool* ToolService::find(const std::string& name) const {
-  const auto found = std::find_if(tools_.begin(), tools_.end(),
-                                  [&name](const Tool& tool) { return tool.name == name; });
+  const auto found = std::find_if(tools_.begin(), tools_.end(), [&name](const Tool& tool) {
+    return tool.added && tool.name == name;
+  });
   return found == tools_.end() ? nullptr : &*found;
 }
 
 const ToolService::Tool* ToolService::find(ToolHandle handle) const {
-  const auto found = std::find_if(tools_.begin(), tools_.end(),
-                                  [handle](const Tool& tool) { return tool.handle == handle; });
+  const auto found = std::find_if(tools_.begin(), tools_.end(), [handle](const Tool& tool) {
+    return tool.added && tool.handle == handle;
+  });
   return found == tools_.end() ? nullptr : &*found;
 }
 
@@ -131,45 +137,144 @@ bool ToolService::openWithSystem(const std::string& file) {
   return ShellExecuteExA(&info) != 0;
 }
 
-ToolHandle STDMETHODCALLTYPE ToolService::AddTool(IIdeString* name, IIdeString* menu_text,
-                                                  IToolImplementor* implementor) {
-  const std::string tool_name = textOf(name);
-  if (tool_name.empty() || implementor == nullptr || find(tool_name) != nullptr) {
-    return 0;
-  }
-  implementor->AddRef();
-  tools_.push_back({++last_handle_, tool_name, textOf(menu_text), implementor});
-  if (menu_changed_) {
-    menu_changed_();
-  }
-  return last_handle_;
+std::vector<ToolService::Tool>::iterator ToolService::place(ToolHandle handle) {
+  return std::find_if(tools_.begin(), tools_.end(),
+                      [handle](const Tool& tool) { return tool.handle == handle; });
 }
 
-void STDMETHODCALLTYPE ToolService::RemoveTool(ToolHandle handle) {
-  const Tool* tool = find(handle);
-  if (tool == nullptr || tool->implementor == nullptr) {
-    return;
+ToolService::Tool* ToolService::unfinished(ToolHandle handle) {
+  const auto found = place(handle);
+  return found == tools_.end() || found->added ? nullptr : &*found;
+}
+
+ToolHandle STDMETHODCALLTYPE ToolService::CreateTool() {
+  Tool tool;
+  tool.handle = ++last_handle_;
+  tools_.push_back(tool);
+  return tool.handle;
+}
+
+int STDMETHODCALLTYPE ToolService::SetPosition(ToolHandle handle, int position) {
+  Tool* tool = unfinished(handle);
+  if (tool != nullptr) {
+    tool->position = position;
   }
-  IToolImplementor* implementor = tool->implementor;
-  std::erase_if(tools_, [handle](const Tool& each) { return each.handle == handle; });
-  implementor->Release();
+  return tool != nullptr ? 1 : 0;
+}
+
+int STDMETHODCALLTYPE ToolService::SetFlags(ToolHandle handle, unsigned int flags) {
+  Tool* tool = unfinished(handle);
+  if (tool != nullptr) {
+    tool->flags = flags;
+  }
+  return tool != nullptr ? 1 : 0;
+}
+
+int ToolService::setText(ToolHandle handle, std::string Tool::*part, IIdeString* text) {
+  Tool* tool = unfinished(handle);
+  if (tool != nullptr) {
+    tool->*part = textOf(text);
+  }
+  return tool != nullptr ? 1 : 0;
+}
+
+int STDMETHODCALLTYPE ToolService::SetName(ToolHandle tool, IIdeString* name) {
+  return setText(tool, &Tool::name, name);
+}
+
+int STDMETHODCALLTYPE ToolService::SetDescription(ToolHandle tool, IIdeString* description) {
+  return setText(tool, &Tool::description, description);
+}
+
+int STDMETHODCALLTYPE ToolService::SetMenuText(ToolHandle tool, IIdeString* menu_text) {
+  return setText(tool, &Tool::menu_text, menu_text);
+}
+
+int STDMETHODCALLTYPE ToolService::SetText(ToolHandle tool, IIdeString* text) {
+  return setText(tool, &Tool::text, text);
+}
+
+int STDMETHODCALLTYPE ToolService::SetImplementor(ToolHandle handle,
+                                                  IToolImplementor* implementor) {
+  Tool* tool = unfinished(handle);
+  if (tool == nullptr) {
+    return 0;
+  }
+  IToolImplementor* former = tool->implementor;
+  tool->implementor = implementor;
+  if (implementor != nullptr) {
+    implementor->AddRef();
+  }
+  if (former != nullptr) {
+    former->Release();
+  }
+  return 1;
+}
+
+int STDMETHODCALLTYPE ToolService::AddTool(ToolHandle handle) {
+  Tool* tool = unfinished(handle);
+  if (tool == nullptr || tool->name.empty() || tool->implementor == nullptr ||
+      find(tool->name) != nullptr) {
+    return 0;
+  }
+  tool->added = true;
+  // Tools of one position stand in the order of adding, which is not that of creating.
+  std::rotate(place(handle), place(handle) + 1, tools_.end());
+  const Tool& last = tools_.back();
+  context_.log.emit(Event("tool-added")
+                        .text("name", last.name)
+                        .number("position", last.position)
+                        .number("flags", static_cast<long>(last.flags))
+                        .text("description", last.description)
+                        .text("menu", last.menu_text)
+                        .text("text", last.text));
   if (menu_changed_) {
     menu_changed_();
   }
+  return 1;
+}
+
+int STDMETHODCALLTYPE ToolService::DeleteTool(ToolHandle handle) {
+  const auto found = place(handle);
+  if (found == tools_.end() || found->own) {
+    return 0;
+  }
+  const Tool gone = *found;
+  tools_.erase(found);
+  if (gone.added) {
+    context_.log.emit(Event("tool-deleted").text("name", gone.name));
+  }
+  if (gone.added && menu_changed_) {
+    menu_changed_();
+  }
+  if (gone.implementor != nullptr) {
+    gone.implementor->Release();
+  }
+  return 1;
 }
 
 std::vector<ToolService::MenuTool> ToolService::menuTools() const {
-  std::vector<MenuTool> result;
+  std::vector<const Tool*> shown;
   for (const Tool& tool : tools_) {
-    if (tool.implementor != nullptr) {
-      result.push_back({tool.handle, tool.menu_text.empty() ? tool.name : tool.menu_text});
+    if (tool.added && (tool.flags & kToolInMenu) != 0) {
+      shown.push_back(&tool);
     }
+  }
+  // As unsigned numbers those counted from the end come behind the others, -1 last.
+  std::stable_sort(shown.begin(), shown.end(), [](const Tool* one, const Tool* other) {
+    return static_cast<unsigned>(one->position) < static_cast<unsigned>(other->position);
+  });
+  std::vector<MenuTool> result;
+  for (const Tool* tool : shown) {
+    result.push_back({tool->handle, tool->menu_text.empty() ? tool->name : tool->menu_text,
+                      tool->description, (tool->flags & kToolWithoutFile) != 0});
   }
   return result;
 }
 
-std::size_t ToolService::implementors() const {
-  return menuTools().size();
+std::size_t ToolService::addonTools() const {
+  return static_cast<std::size_t>(
+      std::count_if(tools_.begin(), tools_.end(), [](const Tool& tool) { return !tool.own; }));
 }
 
 }  // namespace workbench

@@ -16,34 +16,56 @@ class ToolService final : public Service<IToolService> {
   struct MenuTool {
     ToolHandle handle;
     std::string text;
+    std::string description;
+    bool without_file;
   };
 
   explicit ToolService(const ServiceContext& context);
 
   ToolHandle STDMETHODCALLTYPE FindTool(IIdeString* name) override;
+  ToolHandle STDMETHODCALLTYPE CreateTool() override;
+  int STDMETHODCALLTYPE SetPosition(ToolHandle tool, int position) override;
+  int STDMETHODCALLTYPE SetName(ToolHandle tool, IIdeString* name) override;
+  int STDMETHODCALLTYPE SetFlags(ToolHandle tool, unsigned int flags) override;
+  int STDMETHODCALLTYPE SetDescription(ToolHandle tool, IIdeString* description) override;
+  int STDMETHODCALLTYPE SetMenuText(ToolHandle tool, IIdeString* menu_text) override;
+  int STDMETHODCALLTYPE SetText(ToolHandle tool, IIdeString* text) override;
+  int STDMETHODCALLTYPE SetImplementor(ToolHandle tool, IToolImplementor* implementor) override;
+  int STDMETHODCALLTYPE AddTool(ToolHandle tool) override;
+  int STDMETHODCALLTYPE DeleteTool(ToolHandle tool) override;
   int STDMETHODCALLTYPE RunTool(ToolHandle tool, IIdeString* file) override;
-  ToolHandle STDMETHODCALLTYPE AddTool(IIdeString* name, IIdeString* menu_text,
-                                       IToolImplementor* implementor) override;
-  void STDMETHODCALLTYPE RemoveTool(ToolHandle tool) override;
 
   int run(const std::string& name, const std::string& file);
   // Runs a tool of the menu; an empty file is none.
   void runFromMenu(ToolHandle tool, const std::string& file);
+  // In the order of the menu.
   std::vector<MenuTool> menuTools() const;
   // Called when a tool of the menu came or went.
   void setMenuListener(std::function<void()> listener) { menu_changed_ = std::move(listener); }
-  std::size_t implementors() const;
+  // The tools that add-ons have made and not deleted.
+  std::size_t addonTools() const;
 
  private:
   struct Tool {
-    ToolHandle handle;
+    ToolHandle handle = 0;
     std::string name;
+    bool own = false;  // the IDE's
+    bool added = false;
+    int position = 0;
+    unsigned int flags = 0;
+    std::string description;
     std::string menu_text;
-    IToolImplementor* implementor;  // null for the IDE's own
+    std::string text;
+    IToolImplementor* implementor = nullptr;
   };
 
+  // Those that were added.
   const Tool* find(const std::string& name) const;
   const Tool* find(ToolHandle handle) const;
+  std::vector<Tool>::iterator place(ToolHandle handle);
+  // The tool that is still being put together, or null.
+  Tool* unfinished(ToolHandle handle);
+  int setText(ToolHandle handle, std::string Tool::*part, IIdeString* text);
   int runOwn(const std::string& name, const std::string& file);
   void addView(const std::string& file);
   int runTool(const Tool* tool, IIdeString* file);

@@ -61,7 +61,7 @@
 
 #define CM_HELP_ABOUT 13601
 
-/* Tools of add-ons: this plus the tool's handle. */
+/* The tools of the Tool menu, in its order. */
 #define CM_FIRST_TOOL 14000
 #define CM_LAST_TOOL 14999
 
