@@ -3,7 +3,7 @@
 #include <string>
 
 #include "addon/ide/gdi_handles.h"
-#include "addon/tasks/row_extent.h"
+#include "addon/ide/row_extent.h"
 #include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_ids.h"
 
