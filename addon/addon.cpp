@@ -7,6 +7,7 @@
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
+#include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/groupware_project.h"
@@ -109,6 +110,7 @@ void startAddon(IIde* ide) {
   create(completionSettings);
   create(generalBehaviours);
   create(rcGenerator);
+  create(delivery);
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -120,6 +122,10 @@ void startAddon(IIde* ide) {
   create(projectTestA);
   if (projectTestA != nullptr) {
     projectTestA->registerClients();
+  }
+  // A project that is open by now has said whether it wants the tool.
+  if (delivery != nullptr && !isProjectOpen()) {
+    delivery->registerTool();
   }
   create(recentFiles, barWindow);
   // The clients may have been told of an open project before the lists were there.
@@ -154,6 +160,7 @@ void stopAddon() {
   destroy(recentFiles);
   destroy(mail);
   destroy(quickFind);
+  destroy(delivery);
   destroy(hookSet);
   destroy(helpFile);
   destroy(editorNavigation);

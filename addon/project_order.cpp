@@ -1,6 +1,7 @@
 #include "addon/project_order.h"
 
 #include "addon/behaviours/general_behaviours.h"
+#include "addon/delivery/delivery.h"
 #include "addon/delivery/project_options.h"
 #include "addon/groupware/groupware_project.h"
 #include "addon/groupware/project_options.h"
@@ -120,6 +121,18 @@ void forgetMailRecipients(Work) {
   }
 }
 
+void applyDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->applyTool();
+  }
+}
+
+void unregisterDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->unregisterTool();
+  }
+}
+
 void tellGroupware(Work) {
   if (groupwareProject != nullptr) {
     groupwareProject->projectChanged();
@@ -144,6 +157,7 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { htmlProjectOptions.filters.read(work.options); },
     [](Work work) { deliveryProjectOptions.readCount(work.options); },
     [](Work work) { deliveryProjectOptions.tool_present.read(work.options); },
+    applyDeliveryTool,
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
     readMailRecipients,
@@ -155,7 +169,7 @@ constexpr ProjectStep kSettled[] = {rebuildBarMenu};
 constexpr ProjectStep kClosing[] = {collapseBar, closeTaskDialog, closeFlash};
 
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
-                                          recordRecentProject};
+                                          unregisterDeliveryTool, recordRecentProject};
 
 constexpr ProjectStep kClosed[] = {tellGroupware, forgetMailRecipients};
 
@@ -174,6 +188,7 @@ constexpr ProjectStep kSaved[] = {
     [](Work work) { htmlProjectOptions.enabled.write(work.options); },
     [](Work work) { htmlProjectOptions.automatic.write(work.options); },
     [](Work work) { htmlProjectOptions.filters.write(work.options); },
+    [](Work work) { deliveryProjectOptions.writeActive(work.options); },
 };
 
 void nodeChanged(ProjectNode node, const char* name) {

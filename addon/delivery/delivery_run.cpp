@@ -16,8 +16,8 @@ std::uint64_t measure(Tableau<Livrage>& deliveries, CopyFiles& files) {
   std::uint64_t total = 0;
   for (int i = 0; i < deliveries.count(); ++i) {
     Livrage& delivery = *deliveries[i];
-    delivery.size = static_cast<std::uint32_t>(
-        std::min(files.size(delivery.source).value_or(0), kLargestSize));
+    delivery.size =
+        static_cast<std::uint32_t>(std::min(files.size(delivery.source).value_or(0), kLargestSize));
     total += delivery.size;
   }
   return total;

@@ -87,8 +87,8 @@ void Session::run() {
     groups_.append(std::make_unique<OneDelRep>(*deliveryProjectOptions.groups[i]).release());
   }
   if (const OneDelRep* lost = groupWithoutDirectory(groups_, files_)) {
-    const std::string text = "Directory " + std::string(lost->directory.view()) +
-                             " does not exist !\nChange it !";
+    const std::string text =
+        "Directory " + std::string(lost->directory.view()) + " does not exist !\nChange it !";
     showMessage(nullptr, text.c_str(), kErrorCaption, kMessageIconHand);
     return;
   }
@@ -134,8 +134,7 @@ INT_PTR CALLBACK Session::procedure(HWND dialog, UINT message, WPARAM wParam, LP
 void Session::fill(HWND dialog) const {
   const HWND list = GetDlgItem(dialog, CONFIRMATION_LIST);
   const ClientDc dc(list);
-  const Selection font(
-      dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageA(list, WM_GETFONT, 0, 0)));
+  const Selection font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageA(list, WM_GETFONT, 0, 0)));
   long widest = 0;
   for (int i = 0; i < deliveries_.count(); ++i) {
     const std::string row = deliveryRow(*deliveries_[i]);

@@ -26,11 +26,12 @@ class OneDelRep : public Basic {
 
 class Livrage : public Basic {
  public:
+  Livrage() = default;
   Livrage(std::string_view its_source, const OneDelRep& its_group)
       : source(its_source), group(&its_group) {}
 
   String source;
-  const OneDelRep* group;  // outlives the record
+  const OneDelRep* group = nullptr;  // outlives the record
   // Bytes, known just before the copying; larger files count as this many.
   std::uint32_t size = 0;
 };

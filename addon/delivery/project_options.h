@@ -20,8 +20,8 @@ struct DeliveryNode {
 
 // What a project offers to deliver.
 struct DeliveryNodes {
-  bool loaded = false;  // whether there is a project
-  bool found = false;   // and a node "DELIVERY" in it
+  bool loaded = false;              // whether there is a project
+  bool found = false;               // and a node "DELIVERY" in it
   std::vector<DeliveryNode> nodes;  // its children, in the project's order
 };
 

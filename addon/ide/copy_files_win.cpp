@@ -4,8 +4,10 @@
 
 #include <cstring>
 #include <new>
+#include <string>
 
 #include "addon/foundation/file_system_win.h"
+#include "addon/ide/open_file_name.h"
 
 namespace kesto {
 namespace {
@@ -34,6 +36,11 @@ class SourceWin : public CopySource {
  public:
   explicit SourceWin(HANDLE file) : file_(file) {}
 
+  std::uint64_t size() const override {
+    DWORD high = 0;
+    const DWORD low = GetFileSize(file_.get(), &high);
+    return static_cast<std::uint64_t>(high) << 32 | low;
+  }
   std::int64_t modified() const override {
     FILETIME time = {};
     GetFileTime(file_.get(), nullptr, nullptr, &time);
@@ -54,23 +61,34 @@ class SourceWin : public CopySource {
 
 class TargetWin : public CopyTarget {
  public:
-  explicit TargetWin(HANDLE file) : file_(file) {}
+  TargetWin(HANDLE file, const char* path) : file_(file), path_(path) {}
 
   bool write(const char* bytes, std::size_t size) override {
     DWORD written = 0;
     return WriteFile(file_.get(), bytes, static_cast<DWORD>(size), &written, nullptr) != FALSE &&
            written == size;
   }
-  bool finish(std::int64_t modified) override {
+  void setModified(std::int64_t modified) override {
     FILETIME time = {};
     static_assert(sizeof time == sizeof modified);
     memcpy(&time, &modified, sizeof time);
     SetFileTime(file_.get(), nullptr, nullptr, &time);
-    return file_.close();
+  }
+  bool rename(const char* new_path) override {
+    const bool renamed = renameOpenFile(file_.get(), new_path, false);
+    file_.close();
+    return renamed || MoveFileA(path_.c_str(), new_path) != FALSE;
+  }
+  bool replace(const char* new_path) override {
+    const bool renamed = renameOpenFile(file_.get(), new_path, true);
+    file_.close();
+    FileSystemWin files;
+    return renamed || files.replace(path_.c_str(), new_path);
   }
 
  private:
   OwnedFile file_;
+  std::string path_;
 };
 
 }  // namespace
@@ -103,22 +121,21 @@ std::unique_ptr<CopySource> CopyFilesWin::open(const char* path) {
       file != INVALID_HANDLE_VALUE ? new (std::nothrow) SourceWin(file) : nullptr);
 }
 
-bool CopyFilesWin::mayBeReplaced(const char* path) {
+CopyPlace CopyFilesWin::place(const char* path) {
   const DWORD attributes = GetFileAttributesA(path);
-  return attributes == kNoAttributes ||
-         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0;
+  if (attributes == kNoAttributes) {
+    return CopyPlace::kVacant;
+  }
+  return (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0
+             ? CopyPlace::kFile
+             : CopyPlace::kTaken;
 }
 
 std::unique_ptr<CopyTarget> CopyFilesWin::create(const char* path) {
-  const HANDLE file =
-      CreateFileA(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE file = CreateFileA(path, GENERIC_WRITE | renamingAccess(), 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
   return std::unique_ptr<CopyTarget>(
-      file != INVALID_HANDLE_VALUE ? new (std::nothrow) TargetWin(file) : nullptr);
-}
-
-bool CopyFilesWin::put(const char* path, const char* new_path) {
-  FileSystemWin files;
-  return files.replace(path, new_path);
+      file != INVALID_HANDLE_VALUE ? new (std::nothrow) TargetWin(file, path) : nullptr);
 }
 
 void CopyFilesWin::remove(const char* path) {

@@ -10,9 +10,8 @@ class CopyFilesWin : public CopyFiles {
   bool exists(const char* path) override;
   std::optional<std::uint64_t> size(const char* path) override;
   std::unique_ptr<CopySource> open(const char* path) override;
-  bool mayBeReplaced(const char* path) override;
+  CopyPlace place(const char* path) override;
   std::unique_ptr<CopyTarget> create(const char* path) override;
-  bool put(const char* path, const char* new_path) override;
   void remove(const char* path) override;
 };
 

@@ -19,6 +19,8 @@ class CopyProgress {
   virtual ~CopyProgress() = default;
   // The name is the file's that is being copied. False: there is nobody left to copy for.
   virtual bool show(std::string_view name, std::uint64_t done, std::uint64_t total) = 0;
+  // What was shown last has to be seen by now: the bar may skip what nobody has time to see.
+  virtual void catchUp() = 0;
 };
 
 class CopyRun {
@@ -42,8 +44,10 @@ class CopyRun {
   };
 
   Failure transfer(const char* source, const char* destination, std::uint64_t end);
-  Failure fill(CopySource& from, CopyTarget& to, const char* source, const char* destination,
+  Failure fill(CopyTarget& to, CopySource& from, const char* source, const char* destination,
                std::uint64_t end);
+  bool isTaken(const char* destination, std::uint64_t size);
+  bool put(CopyTarget& grown, const char* destination);
   bool tell(const char* source, std::uint64_t done);
 
   CopyFiles& files_;
@@ -52,6 +56,7 @@ class CopyRun {
   std::uint64_t done_ = 0;
   void* owner_;
   std::unique_ptr<char[]> buffer_;
+  CopyPlace last_place_ = CopyPlace::kFile;  // what stood at the last destination
   bool abandoned_ = false;
 };
 

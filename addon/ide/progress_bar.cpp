@@ -53,18 +53,21 @@ bool ProgressBar::show(std::string_view name, std::uint64_t done, std::uint64_t 
     return false;
   }
   const int width = area_.right - area_.left;
-  const int filled =
-      total > 0 ? static_cast<int>(static_cast<std::uint64_t>(width) * done / total) : width;
-  // The same picture is not drawn twice, unless its window was.
-  if (window_ != nullptr && (painting_.painted() || filled != filled_ || name != name_)) {
-    filled_ = filled;
-    name_ = name;
-    paint();
+  filled_ = total > 0 ? static_cast<int>(static_cast<std::uint64_t>(width) * done / total) : width;
+  name_ = name;
+  if (painting_.painted()) {
+    catchUp();
   }
   return true;
 }
 
-void ProgressBar::paint() const {
+void ProgressBar::catchUp() {
+  if (window_ != nullptr) {
+    paint();
+  }
+}
+
+void ProgressBar::paint() {
   const ClientDc screen(window_);
   const MemoryDc dc(screen.get());
   const int height = area_.bottom - area_.top;

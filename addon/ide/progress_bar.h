@@ -20,16 +20,16 @@ class ProgressBar : public CopyProgress {
   ProgressBar& operator=(const ProgressBar&) = delete;
 
   bool show(std::string_view name, std::uint64_t done, std::uint64_t total) override;
+  void catchUp() override;
 
  private:
-  void paint() const;
+  void paint();
 
   HWND window_;  // null: there is none to paint over
   RECT area_ = {};
   HBRUSH brush_;
-  // What the picture shows.
   std::string name_;
-  int filled_ = -1;  // pixels; -1: there is none yet
+  int filled_ = -1;  // pixels; -1: there is nothing to show yet
   PaintingWatch painting_;
 };
 

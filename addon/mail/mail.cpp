@@ -3,14 +3,18 @@
 #include <mapi.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/message_box.h"
+#include "addon/foundation/safe_write.h"
 #include "addon/foundation/settings_store.h"
-#include "addon/mail/included_file.h"
+#include "addon/foundation/text_file.h"
+#include "addon/mail/included_text.h"
 
 namespace kesto {
 
@@ -28,7 +32,6 @@ using Module = std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule>;
 // Windows 95 has a box of its own for a library that misses another.
 Module loadMapi() {
   const UINT former = SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
-  SetErrorMode(former | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   Module mapi(LoadLibraryA("MAPI32.DLL"));
   SetErrorMode(former);
   return mapi;
@@ -36,6 +39,53 @@ Module loadMapi() {
 
 void complain(const char* text) {
   showMessage(nullptr, text, "Kesto AddOn error", kMessageIconHand);
+}
+
+// The file that a mail carries, if there is one and it can be read.
+class IncludedFile {
+ public:
+  explicit IncludedFile(const char* path) {
+    std::string bytes;
+    if (path != nullptr && readFileBytes(path, bytes)) {
+      path_ = path;
+      text_.emplace(std::move(bytes));
+    }
+  }
+
+  void appendTo(std::string& note) const {
+    if (text_.has_value()) {
+      text_->appendTo(note);
+    }
+  }
+
+  // Takes out of the file what was sent.
+  void consume() const {
+    std::string now;
+    if (!text_.has_value() || !readFileBytes(path_.c_str(), now)) {
+      return;
+    }
+    const std::optional<std::string> rest = text_->restOf(std::move(now));
+    if (!rest.has_value()) {
+      return;
+    }
+    if (rest->empty()) {
+      DeleteFileA(path_.c_str());
+      return;
+    }
+    FileSystemWin files;
+    SafeFile file(files, path_);
+    file.write(*rest);
+    file.put();
+  }
+
+ private:
+  std::string path_;
+  std::optional<IncludedText> text_;
+};
+
+// Wine's own mail provider passes on addresses alone and resolves no names.
+bool wantsAddresses() {
+  return GetModuleHandleA("WINEMAPI.DLL") != nullptr;
 }
 
 // A mail with all that its MAPI message points at.
@@ -52,6 +102,7 @@ class Message {
       MapiRecipDesc recipient = {};
       recipient.ulRecipClass = MAPI_TO;
       recipient.lpszName = name.data();
+      recipient.lpszAddress = wantsAddresses() ? name.data() : nullptr;
       descriptors_.push_back(recipient);
     }
   }
@@ -104,8 +155,7 @@ bool Mail::send(HWND owner, const char* subject, const char* body, const char* i
   const bool sent = message.sendBy(send_mail, owner, flags);
   // From here on the object itself may be gone.
   if (sent) {
-    FileSystemWin files;
-    included.consume(files);
+    included.consume();
   }
   return sent;
 }

@@ -16,8 +16,8 @@ void CrossReferenceMessages::write(const char* name, const Tableau<QuickResu>& r
   if (!group_.open()) {
     return;
   }
-  group_.addHeader(crossReferenceHeader(frameProject(), name, currentDate(), currentTime(),
-                                        references.count()));
+  group_.addHeader(
+      crossReferenceHeader(frameProject(), name, currentDate(), currentTime(), references.count()));
   for (int i = 0; i < references.count(); ++i) {
     const QuickResu& reference = *references.at(i);
     group_.addLocated(reference.text(), reference.file(), reference.line(), kColumn, kMessageKind);
