@@ -68,6 +68,33 @@ void destroy(T*& slot) {
   slot = nullptr;
 }
 
+void createTasks() {
+  create(taskList, fileSystem);
+  if (taskList == nullptr) {
+    return;
+  }
+  readTaskSettings(*taskList);
+  create(taskFlash, barWindow, fileSystem, *taskList);
+  create(taskDialog, fileSystem, *taskList);
+  // The clients may have been told of an open project before.
+  if (isProjectOpen()) {
+    taskList->setPath(taskFilePath(projectFile()).view());
+    taskList->load();
+    if (taskFlash != nullptr) {
+      taskFlash->postWhenDue();
+    }
+  }
+}
+
+void destroyTasks() {
+  destroy(taskDialog);
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
+}
+
 }  // namespace
 
 bool attachModule(HINSTANCE instance) {
@@ -135,12 +162,7 @@ void startAddon(IIde* ide) {
   create(optionsServiceHolder);
   create(mail);
   runOnOpenProject(readMailRecipients);
-  create(taskList, fileSystem);
-  if (taskList != nullptr) {
-    readTaskSettings(*taskList);
-    create(taskFlash, barWindow, fileSystem, *taskList);
-    create(taskDialog, fileSystem, *taskList);
-  }
+  createTasks();
   create(groupwareSettings);
   create(htmlSettings);
   create(groupwareProject, projectTestA != nullptr ? projectTestA->service() : nullptr);
@@ -172,12 +194,7 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
-  destroy(taskDialog);
-  destroy(taskFlash);
-  if (taskList != nullptr) {
-    writeTaskSettings(*taskList);
-  }
-  destroy(taskList);
+  destroyTasks();
   destroy(groupwareSettings);
   destroy(documentationRun);
   destroy(htmlSettings);

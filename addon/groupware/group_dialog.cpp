@@ -1,7 +1,7 @@
 #include "addon/groupware/group_dialog.h"
 
 #include <algorithm>
-#include <array>
+#include <cstring>
 
 #include "addon/foundation/message_box.h"
 #include "addon/groupware/group_ids.h"
@@ -113,13 +113,15 @@ void GroupDialog::begin(HWND dialog) {
   if (groupwareProject != nullptr) {
     groupwareProject->setDialog(dialog);
   }
-  columns_ = std::make_unique<TabRows>(list_, exchange_.look().stops);
-  std::array<int, 5> headings = {};
-  for (int i = 0; i < exchange_.look().columns; ++i) {
-    headings[static_cast<std::size_t>(i)] = GROUP_HEADINGS + i;
+  const ExchangeLook& look = exchange_.look();
+  columns_.setUp(list_, look.stops, look.row);
+  const std::string tabs(std::count(look.row, look.row + strlen(look.row), '\t'), '\t');
+  const auto font = static_cast<WPARAM>(SendMessageA(list_, WM_GETFONT, 0, 0));
+  for (std::size_t column = 0; column <= tabs.size(); ++column) {
+    const int heading = GROUP_HEADINGS + static_cast<int>(column);
+    SendDlgItemMessageA(dialog, heading, WM_SETFONT, font, FALSE);
+    columns_.placeHeading(heading, tabs.substr(0, column));
   }
-  columns_->placeHeadings(
-      std::span(headings).first(static_cast<std::size_t>(exchange_.look().columns)));
   centreOnOwner(dialog);
   busy_ = true;
   fill();
@@ -168,7 +170,7 @@ void GroupDialog::showRows() {
   int extent = 0;
   for (const std::string& row : rowTexts()) {
     SendMessageA(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
-    extent = std::max(extent, columns_->extentOf(row));
+    extent = std::max(extent, columns_.extentOf(row));
   }
   SendMessageA(list_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
 }

@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -52,7 +51,7 @@ class GroupDialog {
   std::string name_;
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
-  std::unique_ptr<TabRows> columns_;
+  TabRows columns_;
   bool server_was_there_ = false;
   bool busy_ = false;  // boxes have loops of their own
 };

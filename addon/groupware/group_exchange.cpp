@@ -8,8 +8,10 @@ namespace {
 
 constexpr int kSendStops[] = {292, 332, 380, 500, 600};
 constexpr int kGetStops[] = {219, 251, 291, 332, 380};
-constexpr ExchangeLook kSendLook = {"GroupwareSend", kSendStops, 3, "Groupware SEND : project "};
-constexpr ExchangeLook kGetLook = {"GroupwareGet", kGetStops, 5, "Groupware GET : project "};
+constexpr ExchangeLook kSendLook = {"GroupwareSend", kSendStops, "\tNewer\tCONFLICT",
+                                    "Groupware SEND : project "};
+constexpr ExchangeLook kGetLook = {"GroupwareGet", kGetStops, "\tYes\tNewer\tRefresh\tRefresh",
+                                   "Groupware GET : project "};
 
 // Names that stand below each other; more go on in lines, as far as a screen holds them.
 constexpr std::size_t kColumnOfNames = 20;

@@ -15,7 +15,7 @@ namespace kesto {
 struct ExchangeLook {
   const char* dialog;          // its template
   std::span<const int> stops;  // tab stops of its rows, in dialog units
-  int columns;                 // as many headings
+  const char* row;             // what follows the name at the most; each field has a heading
   const char* subject;         // of the mail; the project's name follows
 };
 

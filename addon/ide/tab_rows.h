@@ -1,5 +1,5 @@
-// The columns of a list box whose rows have tabs: its tab stops, headings above them, and
-// how far it scrolls sideways. Made once the list has its font; user-interface thread only.
+// The columns of a list box whose rows have tabs: its tab stops, the headings over them, a
+// font in which its rows fit, and how far it scrolls sideways. User-interface thread only.
 #pragma once
 
 #include <windows.h>
@@ -8,26 +8,35 @@
 #include <string_view>
 #include <vector>
 
+#include "addon/ide/gdi_handles.h"
 #include "addon/ide/row_extent.h"
 
 namespace kesto {
 
 class TabRows {
  public:
-  // Gives the list its stops, in dialog units.
-  TabRows(HWND list, std::span<const int> stops);
+  TabRows() = default;
   TabRows(const TabRows&) = delete;
   TabRows& operator=(const TabRows&) = delete;
 
-  // Puts a control of the same dialog over each column, from the first one on.
-  void placeHeadings(std::span<const int> ids) const;
+  // Once for each opening of the dialog; the font stays good until the next. The stops are
+  // in quarters of an average character, and so lie closer in a smaller font: the list gets
+  // one where this row would not fit beside a scroll bar otherwise.
+  void setUp(HWND list, std::span<const int> stops, std::string_view row);
+  // Puts a control of the same dialog over what follows this beginning of a row.
+  void placeHeading(int id, std::string_view beginning) const;
   // Pixels that a row takes up.
   int extentOf(std::string_view row) const;
 
  private:
-  HWND list_;
-  std::vector<int> stops_;  // pixels
-  RowMetrics metrics_;
+  void measure(HFONT font);
+  bool fits(std::string_view row) const;
+
+  HWND list_ = nullptr;
+  OwnedFont font_;
+  std::span<const int> units_;
+  std::vector<int> stops_;  // in pixels
+  RowMetrics metrics_ = {};
 };
 
 }  // namespace kesto

@@ -2,14 +2,25 @@
 
 namespace kesto {
 
+namespace {
+
+constexpr std::size_t kPlaces = 4096;  // of ten years, a power of two
+
+std::size_t placeOf(const TaskDate& date) {
+  return ((std::size_t{date.year} * 12 + date.month) * 31 + date.day) % kPlaces;
+}
+
+}  // namespace
+
 std::string KnownDates::shortDate(const TaskDate& date) const {
-  const std::uint64_t day =
-      (std::uint64_t{date.year} << 32) | (std::uint64_t{date.month} << 16) | date.day;
-  const auto [entry, is_new] = texts_.try_emplace(day);
-  if (is_new) {
-    entry->second = format_.shortDate(date);
+  if (days_.empty()) {
+    days_.resize(kPlaces);
   }
-  return entry->second;
+  Day& day = days_[placeOf(date)];
+  if (day.text.empty() || compareDays(day.date, date) != 0) {
+    day = {date, format_.shortDate(date)};
+  }
+  return day.text;
 }
 
 }  // namespace kesto

@@ -1,9 +1,9 @@
-// Days as texts, each asked for once: the rows of a long list are mostly of the same days.
-// User-interface thread only.
+// Days as texts, those of late without asking again: the rows of a long list are mostly of
+// the same days. User-interface thread only.
 #pragma once
 
-#include <map>
 #include <string>
+#include <vector>
 
 #include "addon/tasks/task_date.h"
 
@@ -16,11 +16,16 @@ class KnownDates : public DateFormat {
 
   std::string shortDate(const TaskDate& date) const override;
   // The user may write days another way by now.
-  void forget() { texts_.clear(); }
+  void forget() { days_.clear(); }
 
  private:
+  struct Day {
+    TaskDate date;
+    std::string text;
+  };
+
   const DateFormat& format_;
-  mutable std::map<std::uint64_t, std::string> texts_;
+  mutable std::vector<Day> days_;  // each at the one place for days such as it
 };
 
 }  // namespace kesto

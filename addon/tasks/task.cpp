@@ -1,6 +1,8 @@
 #include "addon/tasks/task.h"
 
-#include <string>
+#include <charconv>
+#include <iterator>
+#include <string_view>
 
 #include "addon/foundation/binary_form.h"
 
@@ -38,14 +40,25 @@ int readDate(FILE* file, TaskDate& date) {
 Task::Task(const TaskDate& now)
     : name("New task"), type("Bug"), start(now), end(now), text("Something to do") {}
 
+void Task::appendRow(std::string& out, const DateFormat& format) const {
+  char number[12];
+  const auto digits = std::to_chars(std::begin(number), std::end(number), priority);
+  out += name.view();
+  out += '\t';
+  out += type.view();
+  out += '\t';
+  out += taskStateWord(state, is_public != 0);
+  out += '\t';
+  out.append(number, digits.ptr);
+  out += '\t';
+  out += format.shortDate(start);
+  out += '\t';
+  out += format.shortDate(end);
+}
+
 void Task::appendRow(String& out, const DateFormat& format) const {
-  std::string row(name.view());
-  for (const std::string& column :
-       {std::string(type.view()), std::string(taskStateWord(state, is_public != 0)),
-        std::to_string(priority), format.shortDate(start), format.shortDate(end)}) {
-    row += '\t';
-    row += column;
-  }
+  std::string row;
+  appendRow(row, format);
   out += std::string_view(row);
 }
 

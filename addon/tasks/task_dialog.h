@@ -8,6 +8,7 @@
 #include "addon/ide/modeless_dialogs.h"
 #include "addon/tasks/known_dates.h"
 #include "addon/tasks/system_dates.h"
+#include "addon/tasks/task_columns.h"
 #include "addon/tasks/task_form.h"
 #include "addon/tasks/task_list.h"
 
@@ -52,6 +53,7 @@ class TaskDialog final : public ModelessDialog {
   TaskList& tasks_;
   SystemDateFormat system_dates_;
   KnownDates dates_{system_dates_};
+  TaskColumns columns_;
   TaskForm shown_;  // the fields as they were filled
   bool modified_ = false;
   bool enabled_ = false;

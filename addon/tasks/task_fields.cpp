@@ -2,8 +2,6 @@
 #include <algorithm>
 #include <string>
 
-#include "addon/ide/gdi_handles.h"
-#include "addon/ide/row_extent.h"
 #include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_ids.h"
 
@@ -14,15 +12,13 @@ namespace {
 constexpr const char* kOrders[] = {"by state", "by start date", "by end date", "by priority",
                                    "by type"};
 static_assert(std::size(kOrders) == kTaskOrders);
-// Where the columns but the first begin, in dialog units.
-constexpr int kStops[] = {147, 249, 286, 309, 327};
 constexpr const char* kCounts[kTaskStates] = {"to &Do : %d", "&Coded : %d", "&Tested : %d",
                                               "&Ended: %d"};
 // All that belongs to the task that is selected.
 constexpr int kTaskControls[] = {TASKS_REMOVE, TASKS_NAME,  TASKS_TYPE, TASKS_STATE, TASKS_PRIORITY,
                                  TASKS_PUBLIC, TASKS_START, TASKS_END,  TASKS_TEXT,  TASKS_OK};
 constexpr int kDigits = 10;
-constexpr int kRowMargin = 4;  // pixels between a row's end and the border
+constexpr int kRowBytes = 64;  // that a row takes, about
 
 void addTo(HWND dialog, int combo, const char* text) {
   SendDlgItemMessageA(dialog, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -65,31 +61,6 @@ void switchControls(HWND dialog, bool enabled) {
   }
 }
 
-// The tab stops of a list in pixels, and what else tells how wide its rows are.
-class ListMetrics {
- public:
-  explicit ListMetrics(HWND list) {
-    RECT units = {0, 0, 0, 0};
-    for (std::size_t i = 0; i < std::size(kStops); ++i) {
-      units.right = kStops[i];
-      MapDialogRect(GetParent(list), &units);
-      stops_[i] = units.right;
-    }
-    const WindowDc dc(list);
-    const Selection font(dc.get(), reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
-    GetCharWidthA(dc.get(), 0, 255, row_.widths.data());
-    TEXTMETRICA text = {};
-    GetTextMetricsA(dc.get(), &text);
-    row_.stops = stops_;
-    row_.further = 8 * text.tmAveCharWidth;
-  }
-  const RowMetrics& row() const { return row_; }
-
- private:
-  int stops_[std::size(kStops)];
-  RowMetrics row_;
-};
-
 }  // namespace
 
 void TaskDialog::fill(HWND dialog) {
@@ -107,8 +78,7 @@ void TaskDialog::fill(HWND dialog) {
   for (int i = 0; i < tasks_.types.count(); ++i) {
     addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
   }
-  SendDlgItemMessageA(dialog, TASKS_LIST, LB_SETTABSTOPS, std::size(kStops),
-                      reinterpret_cast<LPARAM>(kStops));
+  columns_.setUp(dialog, dates_);
   refresh(dialog);
   selectRow(dialog, tasks_.view().count() > 0 ? 0 : -1, true);
   modified_ = false;
@@ -132,18 +102,21 @@ Task* TaskDialog::taskAt(int row) const {
 
 void TaskDialog::refresh(HWND dialog) {
   const HWND list = GetDlgItem(dialog, TASKS_LIST);
-  const ListMetrics metrics(list);
   const Tableau<Task>& view = tasks_.view();
-  int extent = 0;
   SendMessageA(list, WM_SETREDRAW, FALSE, 0);
   SendMessageA(list, LB_RESETCONTENT, 0, 0);
+  SendMessageA(list, LB_INITSTORAGE, static_cast<WPARAM>(view.count()), view.count() * kRowBytes);
+  // Straight to the list: message hooks would look at each of thousands of rows.
+  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
+  std::string row;
+  int extent = 0;
   for (int i = 0; i < view.count(); ++i) {
-    String row;
+    row.clear();
     view[i]->appendRow(row, dates_);
-    SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.text()));
-    extent = std::max(extent, rowExtent(row.view(), metrics.row()));
+    CallWindowProcA(procedure, list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
+    extent = std::max(extent, columns_.extentOf(row));
   }
-  SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent + kRowMargin), 0);
+  SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
   SendMessageA(list, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(list, nullptr, TRUE);
   showCounts(dialog);

@@ -19,4 +19,7 @@
 #define TASKS_TEXT 118
 #define TASKS_TYPE 119
 #define TASKS_OK 121
+// What stands above the columns, from the first to the last.
+#define TASKS_HEADING_FIRST 131
+#define TASKS_HEADING_LAST 136
 #define TASKS_HELP 65535

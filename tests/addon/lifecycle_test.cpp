@@ -273,3 +273,27 @@ TEST_CASE("a project that is open at the start is no recent one") {
   CHECK(std::string(text) == "q.ide");
   CHECK(GetMenuState(menu, 201, MF_BYCOMMAND) == static_cast<UINT>(-1));
 }
+
+TEST_CASE("the settings of the tasks are read at the start and written back at the end") {
+  kesto::SettingsStore& store = kesto::settings();
+  store.setRoot(kRoot);
+  RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\Tasks").c_str());
+  fake::Ide ide;
+  const auto stored = [&store] {
+    std::string all;
+    for (const char* name : {"FlashToDo", "FlashCoded", "FlashTested", "FlashEnded", "MainOn",
+                             "KeyIsDelivery", "EndedReadOnly", "AutoFlash", "Types"}) {
+      char text[kesto::SettingsStore::kValueSize] = "";
+      store.readString("Tasks", name, text, sizeof text, "missing");
+      all += std::string(text) + ' ';
+    }
+    return all;
+  };
+  { const Session session(ide); }
+  CHECK(stored() == "1 1 1 0 1 1 1 1 Design;Evolution;Bug;Documentation ");
+  store.writeInteger("Tasks", "FlashEnded", 7);
+  store.writeInteger("Tasks", "AutoFlash", 0);
+  store.writeString("Tasks", "Types", (std::string(511, 'x') + ";y").c_str());
+  { const Session session(ide); }
+  CHECK(stored() == "1 1 1 7 1 1 1 0 " + std::string(511, 'x') + ' ');
+}
