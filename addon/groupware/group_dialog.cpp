@@ -95,8 +95,8 @@ INT_PTR CALLBACK GroupDialog::procedure(HWND dialog, UINT message, WPARAM wParam
     return TRUE;
   }
   auto* self = reinterpret_cast<GroupDialog*>(GetWindowLongPtrA(dialog, DWLP_USER));
-  if (message == WM_DESTROY && groupwareProject != nullptr) {
-    groupwareProject->setDialog(nullptr);
+  if (message == WM_DESTROY && self != nullptr) {
+    self->end();
   }
   if (message != WM_COMMAND || self == nullptr || self->busy_) {
     return FALSE;
@@ -126,6 +126,13 @@ void GroupDialog::begin(HWND dialog) {
   busy_ = true;
   fill();
   busy_ = false;
+}
+
+void GroupDialog::end() const {
+  columns_.giveBack();
+  if (groupwareProject != nullptr) {
+    groupwareProject->setDialog(nullptr);
+  }
 }
 
 void GroupDialog::command(int id) {

@@ -32,6 +32,7 @@ class GroupDialog {
 
   static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
   void begin(HWND dialog);
+  void end() const;
   void command(int id);
   void fill();
   std::vector<std::string> rowTexts() const;

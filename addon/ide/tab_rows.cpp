@@ -1,5 +1,6 @@
 #include "addon/ide/tab_rows.h"
 
+#include <array>
 #include <numeric>
 
 namespace kesto {
@@ -7,6 +8,7 @@ namespace {
 
 constexpr int kRowMargin = 4;  // pixels between the end of a row and the border
 constexpr int kTextIndent = 1;
+constexpr int kHeading = 40;  // bytes of a heading's text
 constexpr int kUnitsOfAverage = 4;
 // The font that small text is made for, and what its height may be less at most, in pixels.
 constexpr char kSmallFace[] = "Small Fonts";
@@ -18,6 +20,16 @@ int averageWidth(const std::array<int, 256>& widths) {
     return std::accumulate(widths.begin() + from, widths.begin() + to + 1, 0);
   };
   return ((sum('A', 'Z') + sum('a', 'z')) / 26 + 1) / 2;
+}
+
+int textWidth(HWND control) {
+  char text[kHeading] = "";
+  const int length = GetWindowTextA(control, text, sizeof text);
+  const ClientDc dc(control);
+  const Selection font(dc.get(), reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
+  SIZE size = {};
+  GetTextExtentPoint32A(dc.get(), text, length, &size);
+  return size.cx;
 }
 
 }  // namespace
@@ -42,6 +54,11 @@ void TabRows::setUp(HWND list, std::span<const int> stops, std::string_view row)
     measure(usual);
   }
   SendMessageA(list, LB_SETTABSTOPS, stops.size(), reinterpret_cast<LPARAM>(stops.data()));
+}
+
+// Wine's lists keep the stops when they go.
+void TabRows::giveBack() const {
+  SendMessageA(list_, LB_SETTABSTOPS, 0, 0);
 }
 
 void TabRows::measure(HFONT font) {
@@ -73,8 +90,8 @@ void TabRows::placeHeading(int id, std::string_view beginning) const {
   RECT place = {};
   GetWindowRect(heading, &place);
   MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-  SetWindowPos(heading, nullptr, start.x, place.top, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(heading, nullptr, start.x, place.top, textWidth(heading), place.bottom - place.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 int TabRows::extentOf(std::string_view row) const {

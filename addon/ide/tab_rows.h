@@ -23,7 +23,10 @@ class TabRows {
   // in quarters of an average character, and so lie closer in a smaller font: the list gets
   // one where this row would not fit beside a scroll bar otherwise.
   void setUp(HWND list, std::span<const int> stops, std::string_view row);
-  // Puts a control of the same dialog over what follows this beginning of a row.
+  // To be called while the dialog is destroyed.
+  void giveBack() const;
+  // Puts a text of the same dialog, no wider than it is, over what follows this beginning of
+  // a row.
   void placeHeading(int id, std::string_view beginning) const;
   // Pixels that a row takes up.
   int extentOf(std::string_view row) const;

@@ -15,6 +15,7 @@ class TaskColumns {
  public:
   // Once for each opening of the dialog; the font stays good until the next.
   void setUp(HWND dialog, const DateFormat& format);
+  void giveBack() const { rows_.giveBack(); }
   // Pixels that a row takes up.
   int extentOf(std::string_view row) const { return rows_.extentOf(row); }
 
