@@ -82,6 +82,10 @@ class Session {
 };
 
 void Session::run() {
+  // Directories may be meant from the project's on, wherever dialogs have led since.
+  if (isProjectOpen()) {
+    SetCurrentDirectoryA((projectDirectory() + '\\').c_str());
+  }
   const DeliveryNodes nodes = rebuildDeliveryGroups();
   for (int i = 0; i < deliveryProjectOptions.groups.count(); ++i) {
     groups_.append(std::make_unique<OneDelRep>(*deliveryProjectOptions.groups[i]).release());
