@@ -17,8 +17,10 @@ class Task : public Basic {
   // Bytes of the shortest file form: five numbers, two dates and three empty texts.
   static constexpr long kSmallestRecord = 5 * 4 + 2 * 16 + 3 * String::kSmallestRecord;
 
+  // An empty one, to be read.
+  Task() = default;
   // A new task, of one day.
-  explicit Task(const TaskDate& now = {});
+  explicit Task(const TaskDate& now);
 
   // Appends the row of the task list: name, type, state, priority and both dates, with
   // tabs in between.
@@ -34,10 +36,14 @@ class Task : public Basic {
   String type;
   std::int32_t state = kToDo;
   std::int32_t is_public = 0;  // not 0: its end is told to others
-  std::int32_t priority = 10;
+  std::int32_t priority = 0;
   TaskDate start;
   TaskDate end;
   String text;  // lines end with CR LF
+
+ private:
+  int writeNumbers(FILE* file) const;
+  int readNumbers(FILE* file);
 };
 
 // In small letters, or in capitals as for a public task; of a state from 0 to 3.

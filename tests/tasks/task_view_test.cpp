@@ -49,8 +49,8 @@ TEST_CASE("each order compares its keys one after the other") {
     for (std::size_t deciding = 0; deciding < 6; ++deciding) {
       PlayedDisk disk;
       TaskList list(disk);
-      auto* const later = new Task;
-      auto* const sooner = new Task;
+      auto* const later = new Task(TaskDate{});
+      auto* const sooner = new Task(TaskDate{});
       list.append(later);
       list.append(sooner);
       const std::string& keys = orders[static_cast<std::size_t>(order)];
@@ -73,7 +73,7 @@ TEST_CASE("the view has the tasks of the shown states, and loses one that is rem
   PlayedDisk disk;
   TaskList list(disk);
   for (const int state : {kToDo, kEnded, kCoded, kEnded}) {
-    list.append(new Task);
+    list.append(new Task(TaskDate{}));
     list[list.count() - 1]->state = state;
   }
   list.show[kToDo] = 0;
