@@ -263,7 +263,8 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
   for (const int row : rows) {
     files.expect(exchange_.at(row).size);
     exchange_.transfer(row, transfer);
-    if (files.abandoned()) {
+    // The box of a copy that failed may have seen the session end.
+    if (files.abandoned() || groupwareProject == nullptr) {
       break;
     }
   }
