@@ -44,8 +44,9 @@ TEST_CASE("A menu text reads without its marks") {
 TEST_CASE("A query compares one field of an event") {
   Event menu("menu");
   menu.text("title", "x")
-      .list("items", {Event("").number("id", 7).text("text", "&Open...\tF3"),
-                      Event("").text("text", "Quit")});
+      .list("items",
+            {Event("").number("id", 7).text("text", "&Open...\tF3"), Event("").text("text", "Quit"),
+             Event("").number("id", 8).texts("rows", {"a", "b"}).numbers("at", {1, 3})});
   const struct {
     EventQuery query;
     bool match;
@@ -64,11 +65,17 @@ TEST_CASE("A query compares one field of an event") {
       {{"menu", "item", "Open..."}, true},
       {{"menu", "item", "&Open...\tF3"}, true},
       {{"menu", "item", "Close"}, false},
-      {{"menu", "all.id", "7"}, true},
+      {{"menu", "all.id", "7|8"}, true},
       {{"menu", "all.text", "&Open...\tF3|Quit"}, true},
       {{"menu", "all.text", "&Open...\tF3"}, false},
-      {{"menu", "count", "2"}, true},
-      {{"menu", "count", "1"}, false},
+      {{"menu", "#7.text", "*F3"}, true},
+      {{"menu", "#7.rows", "*"}, false},
+      {{"menu", "#8.rows", "a|b"}, true},
+      {{"menu", "#8.at", "1|3"}, true},
+      {{"menu", "#9.rows", "*"}, false},
+      {{"menu", "#8", "*"}, false},
+      {{"menu", "count", "3"}, true},
+      {{"menu", "count", "2"}, false},
   };
   for (const auto& row : rows) {
     CAPTURE(row.query.key.value_or(""));

@@ -1,5 +1,7 @@
 #include "workbench/events/event.h"
 
+#include <utility>
+
 #include "workbench/events/ansi.h"
 
 namespace workbench {
@@ -24,6 +26,16 @@ const std::string* findIn(const std::vector<EventField>& fields, std::string_vie
     }
   }
   return nullptr;
+}
+
+// A value of the list that the field's JSON has opened.
+void addValue(EventField& list, const std::string& json, const std::string& text) {
+  if (list.json.size() > 1) {
+    list.json += ',';
+    list.text += '|';
+  }
+  list.json += json;
+  list.text += text;
 }
 
 }  // namespace
@@ -63,6 +75,26 @@ Event& Event::list(std::string_view key, const std::vector<Event>& items) {
   }
   json += ']';
   fields_.push_back({std::string(key), json, std::to_string(items.size())});
+  return *this;
+}
+
+Event& Event::texts(std::string_view key, const std::vector<std::string>& items) {
+  EventField field{std::string(key), "[", ""};
+  for (const std::string& item : items) {
+    addValue(field, jsonString(item), item);
+  }
+  field.json += ']';
+  fields_.push_back(std::move(field));
+  return *this;
+}
+
+Event& Event::numbers(std::string_view key, const std::vector<long>& items) {
+  EventField field{std::string(key), "[", ""};
+  for (long item : items) {
+    addValue(field, std::to_string(item), std::to_string(item));
+  }
+  field.json += ']';
+  fields_.push_back(std::move(field));
   return *this;
 }
 

@@ -27,6 +27,9 @@ class Event {
   // A list of objects, each an Event whose name is left out. Its plain text is
   // the number of items; the field of an item is found as "KEY.0.FIELD".
   Event& list(std::string_view key, const std::vector<Event>& items);
+  // Lists of plain values. Their plain text has a "|" between any two.
+  Event& texts(std::string_view key, const std::vector<std::string>& items);
+  Event& numbers(std::string_view key, const std::vector<long>& items);
 
   const std::string& name() const { return name_; }
   const std::vector<EventField>& fields() const { return fields_; }

@@ -129,6 +129,24 @@ StepResult stepAnswer(StepTry& step) {
   return known ? StepResult::kDone : step.fail("no such answer: " + step.arg(0));
 }
 
+StepResult stepDialog(StepTry& step) {
+  const bool closes = step.arg(1) == "close";
+  if (!closes && step.arg(1) != "activate") {
+    return step.fail("a dialog is made to activate or close");
+  }
+  HWND dialog = step.stage.observer.windows().dialogCalled(step.arg(0));
+  if (dialog == nullptr) {
+    return step.again("no dialog is called " + step.arg(0), 3000);
+  }
+  if (closes) {
+    PostMessageA(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+    return StepResult::kDone;
+  }
+  SetForegroundWindow(dialog);
+  return GetActiveWindow() == dialog ? StepResult::kDone
+                                     : step.again("the dialog does not become active", 3000);
+}
+
 StepResult stepSet(StepTry& step) {
   StepResult result = StepResult::kDone;
   HWND control = findControl(step, &result);

@@ -106,7 +106,7 @@ void ScriptDriver::State::tick() {
     fail(fault);
     return;
   }
-  bool modal = observer->menu() != nullptr || observer->windows().anyOpen();
+  bool modal = observer->menu() != nullptr || observer->windows().anyModal();
   if ((under_way > 0 && !modal) || !calm()) {
     return;
   }

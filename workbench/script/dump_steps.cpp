@@ -92,30 +92,6 @@ StepResult dumpWindows(StepTry& step) {
   return StepResult::kDone;
 }
 
-BOOL CALLBACK addControl(HWND control, LPARAM data) {
-  bool is_button = lstrcmpiA(windowClass(control).c_str(), "Button") == 0;
-  Event item("");
-  item.number("id", GetDlgCtrlID(control))
-      .text("class", windowClass(control))
-      .text("text", windowText(control))
-      .flag("checked", is_button && SendMessageA(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
-      .flag("enabled", IsWindowEnabled(control) != 0)
-      .flag("visible", IsWindowVisible(control) != 0);
-  reinterpret_cast<std::vector<Event>*>(data)->push_back(item);
-  return TRUE;
-}
-
-StepResult dumpDialog(StepTry& step) {
-  HWND dialog = step.stage.observer.windows().dialog();
-  if (dialog == nullptr) {
-    return step.again("no dialog is in front");
-  }
-  std::vector<Event> items;
-  EnumChildWindows(dialog, addControl, reinterpret_cast<LPARAM>(&items));
-  step.stage.log.emit(Event("controls").text("caption", windowText(dialog)).list("items", items));
-  return StepResult::kDone;
-}
-
 StepResult dumpText(StepTry& step) {
   EditorWindow* editor = step.stage.editing.activeEditor();
   if (editor == nullptr) {

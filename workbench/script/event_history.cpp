@@ -30,6 +30,18 @@ std::string ofAllItems(const Event& event, std::string_view name) {
   return all.substr(0, all.rfind('|'));
 }
 
+// "#ID.FIELD" is that field of the first item with that id.
+const std::string* ofNumberedItem(const Event& event, std::string_view key) {
+  const size_t dot = key.find('.');
+  for (const EventField& field : event.itemFields()) {
+    if (dot != std::string_view::npos && wildcardMatch("items.*.id", field.key) &&
+        field.text == key.substr(1, dot - 1)) {
+      return event.find(field.key.substr(0, field.key.size() - 2).append(key.substr(dot + 1)));
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 std::string plainItemText(std::string_view text) {
@@ -78,6 +90,10 @@ bool EventQuery::matches(const Event& event) const {
   }
   if (*key == "item") {
     return anyItem(event, "items.*.text", value, true);
+  }
+  if (key->starts_with('#')) {
+    const std::string* text = ofNumberedItem(event, *key);
+    return text != nullptr && wildcardMatch(value, *text);
   }
   if (key->starts_with("all.")) {
     return wildcardMatch(value, ofAllItems(event, std::string_view(*key).substr(4)));

@@ -21,8 +21,9 @@ std::string plainItemText(std::string_view text);
 
 // "EVENT" or "EVENT KEY VALUE". The value may hold wildcards. A key is the name
 // of a field; "items.2.text" is a field of a list's item, "items.*.text" that of
-// any item. In short, "item" is the text of any item, with or without its "&"
-// and what follows a tab, and "count" the number of items.
+// any item, "#7.text" that of the first item whose id is 7. In short, "item" is the text of any
+// item, with or without its "&" and what follows a tab, and "count" the number of items. A field
+// that is a list of plain values has a "|" between any two.
 struct EventQuery {
   std::string name;
   std::optional<std::string> key;

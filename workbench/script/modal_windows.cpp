@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "workbench/events/event_log.h"
+#include "workbench/script/event_history.h"
 #include "workbench/script/window_text.h"
 
 namespace workbench {
@@ -206,6 +207,25 @@ bool ModalWindows::boxWaits(std::string* text) const {
       *text = windowText(GetDlgItem(open_[i].window, kBoxTextId));
     }
     return open_[i].answer.empty();
+  }
+  return false;
+}
+
+HWND ModalWindows::dialogCalled(const std::string& caption) const {
+  for (size_t i = open_.size(); i-- > 0;) {
+    if (!open_[i].is_box && wildcardMatch(caption, windowText(open_[i].window))) {
+      return open_[i].window;
+    }
+  }
+  return nullptr;
+}
+
+bool ModalWindows::anyModal() const {
+  for (const Open& open : open_) {
+    HWND owner = GetWindow(open.window, GW_OWNER);
+    if (open.is_box || owner == nullptr || !IsWindowEnabled(owner)) {
+      return true;
+    }
   }
   return false;
 }

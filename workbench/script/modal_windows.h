@@ -33,7 +33,10 @@ class ModalWindows {
   bool boxWaits(std::string* text) const;
   // The foremost open dialog, or null while a box is in front of it.
   HWND dialog() const;
-  bool anyOpen() const { return !open_.empty(); }
+  // The one opened or active last whose caption fits the pattern, or null.
+  HWND dialogCalled(const std::string& caption) const;
+  // Whether a box or a dialog has a loop of its own: one that holds its owner, or has none.
+  bool anyModal() const;
   bool boxOpen() const;
   // Takes everything down, for a run that has failed.
   void dismissAll();

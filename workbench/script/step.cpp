@@ -66,6 +66,8 @@ Step stepOf(Verb verb) {
       return stepDeactivate;
     case Verb::kDescribeNode:
       return stepDescribeNode;
+    case Verb::kDialog:
+      return stepDialog;
     case Verb::kDocument:
       return stepDocument;
     case Verb::kDoubleClickTitle:

@@ -59,11 +59,15 @@ StepResult stepCommand(StepTry& step);
 StepResult stepTick(StepTry& step);
 
 // dialog_steps.cpp: boxes and dialogs
+StepResult stepDialog(StepTry& step);
 StepResult stepAnswer(StepTry& step);
 StepResult stepSet(StepTry& step);
 StepResult stepCheck(StepTry& step);
 StepResult stepSelectItem(StepTry& step);
 StepResult stepPress(StepTry& step);
+
+// dialog_dump.cpp: the controls of a dialog
+StepResult dumpDialog(StepTry& step);
 
 // repeat_steps.cpp: what is done several times
 StepResult stepRepeat(StepTry& step);

@@ -24,6 +24,7 @@ enum class Verb {
   kCommand,
   kDeactivate,
   kDescribeNode,
+  kDialog,
   kDocument,
   kDoubleClickTitle,
   kDump,

@@ -1,0 +1,11 @@
+// Where dialogs come up. User-interface thread only.
+#pragma once
+
+#include <windows.h>
+
+namespace kesto {
+
+// In the middle of its owner, or of the screen without one.
+void centreOnOwner(HWND dialog);
+
+}  // namespace kesto

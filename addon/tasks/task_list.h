@@ -1,0 +1,89 @@
+// The tasks of the open project, in stored order, and a view of them, filtered and sorted.
+// One object lives from the add-on's start to its end. It owns the tasks; the view points
+// at them, so that whoever removes one rebuilds the view, or removes it with removeTask.
+// User-interface thread only.
+#pragma once
+
+#include <cstdint>
+
+#include "addon/foundation/file_system.h"
+#include "addon/foundation/tableau.h"
+#include "addon/tasks/task.h"
+
+namespace kesto {
+
+// Section "Tasks" of the settings, but for the types.
+struct TaskSettings {
+  int flash[kTaskStates] = {1, 1, 1, 0};  // whether the flash shows the tasks of a state
+  int mail_on = 1;                        // the end of a public task is told to others
+  int key_is_delivery = 1;                // 1: with the next delivery, 0: at once
+  int ended_read_only = 1;
+  int auto_flash = 1;
+};
+
+inline constexpr int kTaskOrders = 5;  // by state, start date, end date, priority, type
+inline constexpr int kDefaultTaskOrder = 1;
+
+class TaskList : public Ensemble<Task> {
+ public:
+  // Characters of the joined types that are read and written at most.
+  static constexpr std::size_t kTypesLimit = 511;
+
+  // The file system must outlive the list.
+  explicit TaskList(FileSystem& files);
+
+  // Both the tasks and the view.
+  void clear();
+  // Takes the task out of both and deletes it.
+  void removeTask(Task* task);
+  void rebuildView();
+  const Tableau<Task>& view() const { return view_; }
+
+  const String& path() const { return path_; }
+  // Until the next load, what lies there counts as not read.
+  void setPath(std::string_view path);
+  // Reads the file at path. Without one, or with one of another version, the list stays as
+  // it is. What it holds of a broken file is what was whole.
+  void load();
+  // Puts the whole list at path, or leaves what is there as it was; nothing is told. A file
+  // that was not read whole is kept beside before, as the first free of NAME.bak, NAME.bak2
+  // and so on up to NAME.bak9.
+  void save();
+
+  // Appends the tasks whose days enclose today, of the states of the flash, in the order of
+  // the view. 1 when out is not empty by then, else 0; out then says so.
+  int todayReport(String& out, const TaskDate& today, const DateFormat& format);
+
+  // The types as one text, ";" between them, cut at kTypesLimit; and back. An empty piece
+  // at the end is none.
+  String joinedTypes() const;
+  void setTypes(std::string_view joined);
+
+  // The whole task file.
+  int fWrite(FILE* file) const override;
+  // What a broken file held whole stays. 0 unless all of the file was read; of another
+  // version nothing is touched.
+  int fRead(FILE* file) override;
+
+  std::int32_t show[kTaskStates] = {1, 1, 1, 1};  // not 0: the view has tasks of the state
+  std::int32_t reverse = 0;                       // not 0: the order is turned round
+  std::int32_t order = kDefaultTaskOrder;
+  TaskSettings settings;
+  Tableau<String> types;
+
+ private:
+  int readTypes(FILE* file);
+  int readTasks(FILE* file);
+  bool keepUnread();
+
+  FileSystem& files_;
+  Tableau<Task> view_;
+  String path_;
+  String kept_;  // where the file that is there was kept just now
+  bool read_whole_ = false;
+};
+
+// Null outside a session.
+extern TaskList* taskList;
+
+}  // namespace kesto
