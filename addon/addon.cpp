@@ -7,6 +7,7 @@
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
+#include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
@@ -23,6 +24,9 @@
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_flash.h"
+#include "addon/tasks/task_list.h"
+#include "addon/tasks/task_settings.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -36,6 +40,7 @@ constexpr char kSettingsRoot[] = R"(SOFTWARE\Borland\Borland C++\5.0\Ide\AddOns\
 HWND barWindow = nullptr;
 bool oleInitialised = false;
 AddonHookHost hookHost;
+FileSystemWin fileSystem;
 
 class AddonMenuFeatures : public MenuFeatures {
  public:
@@ -115,6 +120,11 @@ void startAddon(IIde* ide) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
+  create(taskList, fileSystem);
+  if (taskList != nullptr) {
+    readTaskSettings(*taskList);
+    create(taskFlash, barWindow, fileSystem, *taskList);
+  }
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -142,6 +152,11 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
   destroy(documentationRun);
   destroy(htmlSettings);
   DestroyWindow(barWindow);

@@ -11,6 +11,8 @@
 #include "addon/ide/make_registration.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_flash.h"
+#include "addon/tasks/task_list.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/project_options.h"
 #include "addon/topbar/recent_files.h"
@@ -46,6 +48,31 @@ void recordRecentProject(Work work) {
   }
 }
 
+void emptyTasks(Work) {
+  if (taskList != nullptr) {
+    taskList->clear();
+  }
+}
+
+void loadTasks(Work work) {
+  if (taskList != nullptr) {
+    taskList->setPath(taskFilePath(work.file).view());
+    taskList->load();
+  }
+}
+
+void flashWhenDue(Work) {
+  if (taskFlash != nullptr) {
+    taskFlash->postWhenDue();
+  }
+}
+
+void closeFlash(Work) {
+  if (taskFlash != nullptr) {
+    taskFlash->close();
+  }
+}
+
 void resetAutoSave(Work) {
   if (generalBehaviours != nullptr) {
     generalBehaviours->resetAutoSave();
@@ -70,10 +97,11 @@ void rebuildBarMenu(Work) {
   }
 }
 
-constexpr ProjectStep kAnnounced[] = {placeBar, forgetRecentProject, resetAutoSave,
+constexpr ProjectStep kAnnounced[] = {emptyTasks, placeBar, forgetRecentProject, resetAutoSave,
                                       readBarSettings};
 
 constexpr ProjectStep kOpened[] = {
+    loadTasks,
     enterProjectDirectory,
     viewProject,
     [](Work) { registerMakeClient(createMakeClient); },
@@ -89,11 +117,12 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
     [](Work work) { mailProjectOptions.read(work.options); },
+    flashWhenDue,
 };
 
 constexpr ProjectStep kSettled[] = {rebuildBarMenu};
 
-constexpr ProjectStep kClosing[] = {collapseBar};
+constexpr ProjectStep kClosing[] = {collapseBar, closeFlash};
 
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
                                           recordRecentProject};

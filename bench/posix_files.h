@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <string>
 
+#include "addon/foundation/binary_form.h"
 #include "addon/foundation/file_system.h"
 #include "addon/foundation/text_file.h"
 #include "bench/posix_listing.h"
@@ -33,6 +34,12 @@ class PosixFiles : public FileSystem {
   }
   bool write(const char* path, std::string_view text) override {
     return writeTextFile(nativePath(path).c_str(), text);
+  }
+  bool writeRecord(const char* path, const Basic& record) override {
+    return writeRecordFile(nativePath(path).c_str(), record);
+  }
+  bool readRecord(const char* path, Basic& record) override {
+    return readRecordFile(nativePath(path).c_str(), record);
   }
   bool append(const char* path, std::string_view text) override {
     return appendTextFile(nativePath(path).c_str(), text);

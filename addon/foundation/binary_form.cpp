@@ -1,8 +1,25 @@
 #include "addon/foundation/binary_form.h"
 
+#include <memory>
+
 namespace kesto {
 
 namespace {
+
+struct CloseFile {
+  void operator()(FILE* file) const { fclose(file); }
+};
+using File = std::unique_ptr<FILE, CloseFile>;
+
+// With a buffer that suits whole files.
+File openFile(const char* path, const char* mode) {
+  constexpr std::size_t kBuffer = std::size_t{64} * 1024;
+  File file(fopen(path, mode));
+  if (file != nullptr) {
+    setvbuf(file.get(), nullptr, _IOFBF, kBuffer);
+  }
+  return file;
+}
 
 int writeBytes(FILE* file, std::uint32_t value, std::size_t size) {
   unsigned char bytes[4];
@@ -25,6 +42,21 @@ int readBytes(FILE* file, std::uint32_t* value, std::size_t size) {
 }
 
 }  // namespace
+
+bool writeRecordFile(const char* path, const Basic& record) {
+  File file = openFile(path, "wb");
+  if (file == nullptr) {
+    return false;
+  }
+  // Of what is written as it closes, a run-time library may hide that it was not.
+  const bool written = record.fWrite(file.get()) != 0 && fflush(file.get()) == 0;
+  return fclose(file.release()) == 0 && written;
+}
+
+bool readRecordFile(const char* path, Basic& record) {
+  const File file = openFile(path, "rb");
+  return file != nullptr && record.fRead(file.get()) != 0;
+}
 
 int writeUint16(FILE* file, std::uint16_t value) {
   return writeBytes(file, value, 2);

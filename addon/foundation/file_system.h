@@ -1,13 +1,15 @@
 // The file system as the features read and write it, one step a call: FileSystemWin is
 // the real one, tests play it and let its steps fail. Paths are whole. Texts have line
 // feeds on this side and the system's line ends on the other. A step that fails leaves
-// what was there, but for write and append, which may leave a part.
+// what was there, but for those that write, which may leave a part.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "addon/foundation/basic.h"
 
 namespace kesto {
 
@@ -27,6 +29,10 @@ class FileSystem {
   virtual bool holds(const char* path, std::string_view text) = 0;
   // Creates or overwrites the file.
   virtual bool write(const char* path, std::string_view text) = 0;
+  // Creates or overwrites the file with the record's file form, byte for byte.
+  virtual bool writeRecord(const char* path, const Basic& record) = 0;
+  // Has the record read the file. False when it cannot be opened or the record says so.
+  virtual bool readRecord(const char* path, Basic& record) = 0;
   // Goes on after what the file holds.
   virtual bool append(const char* path, std::string_view text) = 0;
   // Returns once the disk itself has what the file holds.

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "addon/foundation/binary_form.h"
 #include "addon/foundation/safe_write.h"
 #include "addon/foundation/text_file.h"
 
@@ -53,6 +54,14 @@ bool FileSystemWin::holds(const char* path, std::string_view text) {
 
 bool FileSystemWin::write(const char* path, std::string_view text) {
   return writeTextFile(path, text);
+}
+
+bool FileSystemWin::writeRecord(const char* path, const Basic& record) {
+  return writeRecordFile(path, record);
+}
+
+bool FileSystemWin::readRecord(const char* path, Basic& record) {
+  return readRecordFile(path, record);
 }
 
 bool FileSystemWin::append(const char* path, std::string_view text) {

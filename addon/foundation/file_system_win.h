@@ -11,6 +11,8 @@ class FileSystemWin : public FileSystem {
   bool read(const char* path, std::string& text) override;
   bool holds(const char* path, std::string_view text) override;
   bool write(const char* path, std::string_view text) override;
+  bool writeRecord(const char* path, const Basic& record) override;
+  bool readRecord(const char* path, Basic& record) override;
   bool append(const char* path, std::string_view text) override;
   bool flush(const char* path) override;
   bool copy(const char* path, const char* new_path) override;

@@ -62,6 +62,11 @@ void SafeFile::write(std::string_view text) {
   state_ = written ? State::kWriting : State::kFailed;
 }
 
+void SafeFile::writeRecord(const Basic& record) {
+  const bool written = state_ == State::kEmpty && files_.writeRecord(new_text_, record);
+  state_ = written ? State::kWriting : State::kFailed;
+}
+
 bool SafeFile::finish() {
   if (state_ == State::kEmpty) {
     write({});
@@ -141,6 +146,19 @@ bool replaceInSteps(FileSystem& files, const char* path, const char* new_path) {
   }
   files.remove(aside);
   return true;
+}
+
+void endReplacing(FileSystem& files, const char* path) {
+  const String aside = oldTextPath(path);
+  if (files.status(path) || !files.status(aside)) {
+    return;
+  }
+  // The old file steps aside for a new one that is whole.
+  if (files.rename(newTextPath(path), path)) {
+    files.remove(aside);
+  } else {
+    files.rename(aside, path);
+  }
 }
 
 }  // namespace kesto

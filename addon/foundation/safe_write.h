@@ -27,6 +27,8 @@ class SafeFile {
 
   // Goes on with the new text. One piece that fails is told by finish and put.
   void write(std::string_view text);
+  // The record's file form, byte for byte, is all of the new file.
+  void writeRecord(const Basic& record);
   // Whether the new text is whole and on the disk; nothing can follow it. Whoever fills
   // the file of newTextPath by other means than write begins with it.
   bool finish();
@@ -60,5 +62,7 @@ bool putText(FileSystem& files, const char* grown, const char* path, std::string
 // What FileSystem::replace is where the system has no such step. The old file waits at
 // its oldTextPath; a process that is ended in between leaves both beside.
 bool replaceInSteps(FileSystem& files, const char* path, const char* new_path);
+// Ends what it began for a SafeFile when the process ended between its steps.
+void endReplacing(FileSystem& files, const char* path);
 
 }  // namespace kesto

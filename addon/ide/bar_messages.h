@@ -12,5 +12,7 @@ inline constexpr UINT kGoToLineMessage = WM_USER + 7;
 inline constexpr UINT kOpenFoundFileMessage = WM_USER + 8;
 // The generation of the documentation site has gone on. Its thread posts it.
 inline constexpr UINT kDocumentationMessage = WM_USER + 9;
+// A key for a modeless dialog waits (modeless_dialogs.h).
+inline constexpr UINT kDialogKeyMessage = WM_USER + 10;
 
 }  // namespace kesto

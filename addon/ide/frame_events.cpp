@@ -2,6 +2,7 @@
 // sized and activated.
 #include "addon/ide/find_window.h"
 #include "addon/ide/hook_set.h"
+#include "addon/ide/modeless_dialogs.h"
 #include "ideapi/ide_identifiers.h"
 
 namespace kesto {
@@ -93,9 +94,11 @@ void HookSet::onCommand(HWND window, WPARAM wParam) {
 
 LRESULT CALLBACK HookSet::getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code >= 0 && current != nullptr) {
-    const MSG& message = *reinterpret_cast<const MSG*>(lParam);
+    MSG& message = *reinterpret_cast<MSG*>(lParam);
     if (message.message == WM_COMMAND) {
       current->onCommand(message.hwnd, message.wParam);
+    } else if (wParam == PM_REMOVE) {
+      takeDialogKey(message, current->bar_);
     }
   }
   return CallNextHookEx(current != nullptr ? current->get_message_ : nullptr, code, wParam, lParam);

@@ -30,15 +30,20 @@ class ModelessDialog {
 
  private:
   friend bool takeDialogKey(MSG& message, HWND bar);
+  friend void passDialogKey();
   static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // The open dialog that a window is or belongs to, or null.
+  static HWND dialogOf(HWND window);
+  void forget();
+
   static ModelessDialog* first;
 
   HWND window_ = nullptr;
   ModelessDialog* next_ = nullptr;
 };
 
-// For the message hook: whether the message, just taken from the queue, is a key for an open
-// dialog. It then is one for the bar instead, kDialogKeyMessage.
+// For the message hook: whether the message, which is just taken from the queue, is a key for
+// an open dialog. It then becomes one for the bar, kDialogKeyMessage.
 bool takeDialogKey(MSG& message, HWND bar);
 // For the bar: does what the key does in its dialog.
 void passDialogKey();

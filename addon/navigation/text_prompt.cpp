@@ -1,6 +1,7 @@
 #include "addon/navigation/text_prompt.h"
 
 #include "addon/ide/clipboard.h"
+#include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
 #include "addon/navigation/prompt_ids.h"
@@ -15,17 +16,6 @@ struct Prompt {
   std::string text;
 };
 
-void centre(HWND dialog) {
-  const HWND owner = GetParent(dialog);
-  RECT place = {};
-  RECT around = {};
-  GetWindowRect(dialog, &place);
-  GetWindowRect(owner != nullptr ? owner : GetDesktopWindow(), &around);
-  SetWindowPos(dialog, nullptr, (around.left + around.right - (place.right - place.left)) / 2,
-               (around.top + around.bottom - (place.bottom - place.top)) / 2, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void fill(HWND dialog, const Prompt& prompt) {
   SetWindowTextA(dialog, prompt.title);
   const HWND list = GetDlgItem(dialog, PROMPT_TEXT);
@@ -36,7 +26,7 @@ void fill(HWND dialog, const Prompt& prompt) {
   if (!prompt.history.texts().empty()) {
     SetWindowTextA(list, prompt.history.texts().front().c_str());
   }
-  centre(dialog);
+  centreOnOwner(dialog);
   SetFocus(list);
   SendMessageA(list, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
 }

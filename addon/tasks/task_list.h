@@ -5,10 +5,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "addon/foundation/file_system.h"
 #include "addon/foundation/tableau.h"
 #include "addon/tasks/task.h"
+#include "addon/tasks/task_order.h"
 
 namespace kesto {
 
@@ -20,9 +22,6 @@ struct TaskSettings {
   int ended_read_only = 1;
   int auto_flash = 1;
 };
-
-inline constexpr int kTaskOrders = 5;  // by state, start date, end date, priority, type
-inline constexpr int kDefaultTaskOrder = 1;
 
 class TaskList : public Ensemble<Task> {
  public:
@@ -73,15 +72,17 @@ class TaskList : public Ensemble<Task> {
 
  private:
   int readTypes(FILE* file);
-  int readTasks(FILE* file);
-  bool keepUnread();
+  // False when it had to be kept and was not. kept is the file that was made.
+  bool keepUnread(String& kept);
 
   FileSystem& files_;
   Tableau<Task> view_;
   String path_;
-  String kept_;  // where the file that is there was kept just now
   bool read_whole_ = false;
 };
+
+// Where those of a project are kept.
+String taskFilePath(std::string_view project_file);
 
 // Null outside a session.
 extern TaskList* taskList;

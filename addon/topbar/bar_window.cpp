@@ -9,6 +9,7 @@
 #include "addon/ide/find_window.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/ide/hook_set.h"
+#include "addon/ide/modeless_dialogs.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/placement.h"
@@ -141,6 +142,9 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
       if (documentationRun != nullptr) {
         documentationRun->showProgress();
       }
+      return 0;
+    case kDialogKeyMessage:
+      passDialogKey();
       return 0;
     case kOpenFoundFileMessage:
       onOpenFoundFile(bar, wParam, lParam);

@@ -11,6 +11,7 @@
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/navigation/title_commands.h"
+#include "addon/tasks/task_flash.h"
 #include "addon/topbar/bar_commands.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/caption_window.h"
@@ -110,6 +111,20 @@ bool showDocumentation(const Command&) {
   return true;
 }
 
+bool flashWhenDue(const Command&) {
+  if (taskFlash != nullptr) {
+    taskFlash->showWhenDue();
+  }
+  return true;
+}
+
+bool flashOnDemand(const Command&) {
+  if (taskFlash != nullptr) {
+    taskFlash->showOnDemand();
+  }
+  return true;
+}
+
 bool newEditor(const Command& command) {
   onEditorCreated(reinterpret_cast<HWND>(command.lParam));
   return true;
@@ -135,7 +150,9 @@ constexpr CommandRange kCommands[] = {
     {103, 103, rebuildMenu, nullptr, nullptr, false},
     {104, 104, placeCaption, nullptr, nullptr, false},
     {111, 111, paintButtons, nullptr, nullptr, false},
-    {171, 173, nullptr, nullptr},  // tasks
+    {171, 171, nullptr, nullptr},  // task list
+    {kCommandFlash, kCommandFlash, flashWhenDue, nullptr},
+    {173, 173, flashOnDemand, nullptr},
     {175, 176, nullptr, nullptr},  // groupware get, send
     {177, 177, [](const Command&) { return editDocumentation(); }, nullptr},
     {184, 184, showMethodResults, nullptr},

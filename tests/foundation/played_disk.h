@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "addon/foundation/file_system.h"
+#include "tests/foundation/byte_file.h"
 
 namespace kesto {
 
@@ -57,6 +58,14 @@ class PlayedDisk : public FileSystem {
     return found != files.end() && found->second.text == text;
   }
   bool write(const char* path, std::string_view text) override { return put(path, "", text); }
+  bool writeRecord(const char* path, const Basic& record) override {
+    ByteFile bytes;
+    return record.fWrite(bytes.get()) != 0 && write(path, bytes.bytes());
+  }
+  bool readRecord(const char* path, Basic& record) override {
+    const auto found = files.find(path);
+    return found != files.end() && record.fRead(ByteFile(found->second.text).get()) != 0;
+  }
   bool append(const char* path, std::string_view text) override {
     note("append", path);
     return put(path, files[path].text, text);

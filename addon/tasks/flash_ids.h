@@ -1,0 +1,4 @@
+// The flash window's control, for its template and its procedure.
+#pragma once
+
+#define FLASH_TEXT 101
