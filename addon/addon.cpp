@@ -9,6 +9,7 @@
 #include "addon/completion/completion_settings.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
+#include "addon/groupware/quick_add_dialog.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/access.h"
@@ -45,6 +46,7 @@ FileSystemWin fileSystem;
 class AddonMenuFeatures : public MenuFeatures {
  public:
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
+  void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
 AddonMenuFeatures menuFeatures;
 
