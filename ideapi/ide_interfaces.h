@@ -284,7 +284,8 @@ struct IToolService : IUnknown {
   virtual int STDMETHODCALLTYPE SetMenuText(ToolHandle tool, IIdeString* menu_text) = 0;
   // What stands where a program's tool has its command line.
   virtual int STDMETHODCALLTYPE SetText(ToolHandle tool, IIdeString* text) = 0;
-  // The service keeps a reference until the tool is deleted or gets another one.
+  // The service asks the implementor for ideapi::kToolImplementor, and keeps that reference
+  // until the tool is deleted or gets another one. Returns 0 too for one that does not answer.
   virtual int STDMETHODCALLTYPE SetImplementor(ToolHandle tool, IToolImplementor* implementor) = 0;
   // Returns 0, and leaves the tool as it was, when it has no name or no implementor, or when
   // a tool of its name is there.

@@ -210,3 +210,37 @@ TEST_CASE("many views are laid out beside or behind each other and painted once"
     }
   }
 }
+
+TEST_CASE("what others draw over the status line stays until the line is painted anew") {
+  Program program;
+  const HWND frame = program.application.frame();
+  ShowWindow(frame, SW_SHOWNOACTIVATE);
+  program.application.setStatus("text");
+  const HWND status = FindWindowExA(frame, nullptr, ideapi::kStatusClass, nullptr);
+  REQUIRE(status != nullptr);
+  UpdateWindow(status);
+  RECT area = {};
+  GetClientRect(status, &area);
+  const auto strangers = [&] {
+    int count = 0;
+    const HDC dc = GetDC(status);
+    for (int x = 0; x < area.right; x += 5) {
+      count += GetPixel(dc, x, area.bottom / 2) == RGB(0, 0, 255) ? 1 : 0;
+    }
+    ReleaseDC(status, dc);
+    return count;
+  };
+  const HDC dc = GetDC(status);
+  const OwnedBrush blue(CreateSolidBrush(RGB(0, 0, 255)));
+  FillRect(dc, &area, blue.get());
+  ReleaseDC(status, dc);
+  const int drawn = strangers();
+  CHECK(drawn == (area.right + 4) / 5);
+  // The same text again does not touch it.
+  program.application.setStatus("text");
+  UpdateWindow(status);
+  CHECK(strangers() == drawn);
+  InvalidateRect(status, nullptr, TRUE);
+  UpdateWindow(status);
+  CHECK(strangers() == 0);
+}

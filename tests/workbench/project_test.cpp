@@ -148,6 +148,23 @@ TEST_CASE("nodes come and go with their children") {
   CHECK(project.add(0, "C:\\P\\other", "Target") > added);
 }
 
+TEST_CASE("what is delivered stands in one container under one name, and holds nothing itself") {
+  Project project;
+  project.load("C:\\p\\p.ide", ProjectTree());
+  const unsigned int exe = project.add(0, "C:\\p\\a.exe", ".exe");
+  CHECK(project.add(0, "Release", "DELIVERY") == 0);
+  const unsigned int delivery = project.add(0, "DELIVERY", "DELIVERY");
+  CHECK(project.add(exe, "DELIVERY", "DELIVERY") == 0);
+  CHECK_FALSE(project.rename(delivery, "Release"));
+  const unsigned int delivered = project.add(delivery, "C:\\p\\a.exe", ".exe");
+  const unsigned int source = project.add(exe, "C:\\p\\a.cpp", ".cpp");
+  CHECK(project.containerFor(source) == exe);
+  CHECK(project.containerFor(delivered) == delivery);
+  CHECK(project.containerFor(0) == exe);
+  project.remove(delivery);
+  CHECK(project.add(0, "DELIVERY", "DELIVERY") != 0);
+}
+
 TEST_CASE("options hold bytes, change at commit, and go with their project") {
   const std::string bytes("a\0b", 3);
   Project project;

@@ -68,6 +68,18 @@ class ProjectClientFake final : public Client<IProjectClient> {
 };
 
 class ToolFake final : public Client<IToolImplementor> {
+ public:
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override {
+    if (!IsEqualGUID(id, answers_for)) {
+      return E_NOINTERFACE;
+    }
+    AddRef();
+    *result = this;
+    return S_OK;
+  }
+  GUID answers_for = ideapi::kToolImplementor;
+
+ private:
   int STDMETHODCALLTYPE Run(IIdeString* file) override {
     calls += file == nullptr ? "(none)" : file->GetText();
     return kToolWarnings;
@@ -343,6 +355,9 @@ TEST_CASE_FIXTURE(OpenFolder, "a tool of an add-on is put together, added, offer
     text->SetText(each.position == -3 ? (std::string("&") + each.name).c_str() : "");
     CHECK(tools->SetMenuText(tool, text.get()) == 1);
     CHECK(tools->AddTool(tool) == 0);
+    implementor.answers_for = ideapi::kToolService;
+    CHECK(tools->SetImplementor(tool, &implementor) == 0);
+    implementor.answers_for = ideapi::kToolImplementor;
     CHECK(tools->SetImplementor(tool, &implementor) == 1);
     CHECK(tools->SetImplementor(tool, &implementor) == 1);
     CHECK(tools->RunTool(tool, file.get()) == kToolNotHandled);

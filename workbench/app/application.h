@@ -144,8 +144,9 @@ class Application final : public Workbench,
   bool windowCommand(int id, EditorChild* child);
   bool projectCommand(int id);
   bool nodeCommand(int id);
-  // Where a new node goes: the selected container, or the one around the selection.
-  unsigned int parentForNew() const;
+  // Where a new target or group of that type goes.
+  unsigned int parentForNew(const std::string& type) const;
+  bool isDelivery(unsigned int node) const;
   void addFiles();
   void addContainer();
   void removeSelected();

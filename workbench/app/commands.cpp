@@ -70,8 +70,9 @@ bool Application::commandEnabled(int id) {
     case CM_NODE_ADD_FILES:
     case CM_NODE_ADD_CONTAINER:
       return hasProject();
-    case CM_NODE_OPEN:
     case CM_NODE_RENAME:
+      return project_window_.selected() != 0 && !isDelivery(project_window_.selected());
+    case CM_NODE_OPEN:
     case CM_NODE_REMOVE:
     case CM_NODE_PROPERTIES:
       return project_window_.selected() != 0;

@@ -98,24 +98,13 @@ void Application::renameAsked(unsigned int node, const std::string& name) {
   }
 }
 
-unsigned int Application::parentForNew() const {
-  unsigned int id = project_window_.selected();
-  if (id == 0) {
-    id = project_.top();
-  }
-  const NodeInfo* info = project_.node(id);
-  while (info != nullptr && !isContainer(*info)) {
-    info = project_.node(info->parent);
-  }
-  return info != nullptr ? info->id : 0;
-}
-
 void Application::addFiles() {
   std::vector<std::string> paths;
-  if (!askOpenNames(frame_.window(), project_.folder(), &paths) || !hasProject()) {
+  const bool deliver = isDelivery(project_.containerFor(project_window_.selected()));
+  if (!askOpenNames(frame_.window(), project_.folder(), deliver, &paths) || !hasProject()) {
     return;
   }
-  const unsigned int parent = parentForNew();
+  const unsigned int parent = project_.containerFor(project_window_.selected());
   int added = 0;
   for (const std::string& path : paths) {
     added += addNode(parent, path, {}) != 0 ? 1 : 0;
@@ -123,18 +112,36 @@ void Application::addFiles() {
   setStatus("Added " + std::to_string(added) + (added == 1 ? " file" : " files"));
 }
 
+bool Application::isDelivery(unsigned int node) const {
+  const NodeInfo* info = project_.node(node);
+  return info != nullptr && info->type == ProjectTree::kDeliveryType;
+}
+
+// Among what is delivered there are only files; elsewhere targets stand at the top, groups
+// where one is.
+unsigned int Application::parentForNew(const std::string& type) const {
+  const unsigned int selected = project_.containerFor(project_window_.selected());
+  const bool target = !type.empty() && type[0] == '.';
+  if (target || type == ProjectTree::kDeliveryType) {
+    return target && isDelivery(selected) ? selected : 0;
+  }
+  return isDelivery(selected) ? project_.node(selected)->parent : selected;
+}
+
 void Application::addContainer() {
   NodeFields fields;
-  fields.type = "Group";
+  fields.type = isDelivery(project_.containerFor(project_window_.selected())) ? ".exe" : "Group";
   if (!askNode(frame_.window(), true, &fields) || !hasProject()) {
     return;
   }
-  // Targets stand at the top, groups where one is.
-  const bool target = !fields.type.empty() && fields.type[0] == '.';
-  const unsigned int node = addNode(target ? 0 : parentForNew(), fields.name, fields.type);
+  const unsigned int node = addNode(parentForNew(fields.type), fields.name, fields.type);
   if (node == 0) {
     showError(fields.name + " cannot be added here.");
     return;
+  }
+  if (isDelivery(node)) {
+    // Whatever comes next goes into it.
+    project_window_.select(node);
   }
   if (!fields.description.empty()) {
     describeNode(node, fields.description);

@@ -21,7 +21,8 @@ class NodeDialog final : public Dialog {
     for (const int id : {IDC_NODE_NAME, IDC_NODE_DESCRIPTION, IDC_NODE_INCLUDE, IDC_NODE_SOURCE}) {
       SendMessageA(item(id), EM_LIMITTEXT, kLongestField, 0);
     }
-    for (const char* type : {".exe", ".dll", ".lib", "Group", ProjectTree::kFolderType}) {
+    for (const char* type : {".exe", ".dll", ".lib", "Group", ProjectTree::kFolderType,
+                             ProjectTree::kSourcePoolType, ProjectTree::kDeliveryType}) {
       SendMessageA(item(IDC_NODE_TYPE), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(type));
     }
     setText(IDC_NODE_NAME, fields_.name);
@@ -30,6 +31,28 @@ class NodeDialog final : public Dialog {
     setText(IDC_NODE_INCLUDE, fields_.include);
     setText(IDC_NODE_SOURCE, fields_.source);
     EnableWindow(item(IDC_NODE_TYPE), is_new_ ? TRUE : FALSE);
+    typeChanged(fields_.type);
+  }
+  void command(int control, int notification) override {
+    if (control == IDC_NODE_TYPE && notification == CBN_EDITCHANGE) {
+      typeChanged(text(IDC_NODE_TYPE));
+    } else if (control == IDC_NODE_TYPE && notification == CBN_SELCHANGE) {
+      // The field shows the choice only later.
+      char type[20] = {};
+      const auto chosen = static_cast<WPARAM>(SendMessageA(item(control), CB_GETCURSEL, 0, 0));
+      SendMessageA(item(control), CB_GETLBTEXT, chosen, reinterpret_cast<LPARAM>(type));
+      typeChanged(type);
+    }
+  }
+  // A container of deliveries goes by one name.
+  void typeChanged(const std::string& type) {
+    const bool named = type == ProjectTree::kDeliveryType;
+    if (named) {
+      setText(IDC_NODE_NAME, type);
+    } else if (IsWindowEnabled(item(IDC_NODE_NAME)) == 0) {
+      setText(IDC_NODE_NAME, "");
+    }
+    EnableWindow(item(IDC_NODE_NAME), named ? FALSE : TRUE);
   }
   bool accept() override {
     if (text(IDC_NODE_NAME).empty()) {

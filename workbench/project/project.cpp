@@ -149,8 +149,32 @@ unsigned int Project::find(const std::string& name) const {
   return 0;
 }
 
+unsigned int Project::findType(const std::string& type) const {
+  for (const NodeInfo* info : nodes()) {
+    if (info->type == type) {
+      return info->id;
+    }
+  }
+  return 0;
+}
+
+unsigned int Project::containerFor(unsigned int id) const {
+  const NodeInfo* info = node(id != 0 ? id : top());
+  while (info != nullptr) {
+    const NodeInfo* parent = node(info->parent);
+    const bool delivered = parent != nullptr && parent->type == ProjectTree::kDeliveryType;
+    if (isContainer(*info) && !delivered) {
+      return info->id;
+    }
+    info = parent;
+  }
+  return 0;
+}
+
 unsigned int Project::add(unsigned int parent, const std::string& name, const std::string& type) {
-  const NodeInfo* added = loaded() ? tree_.add(parent, name, type) : nullptr;
+  const bool second = type == ProjectTree::kDeliveryType &&
+                      (name != ProjectTree::kDeliveryType || findType(type) != 0);
+  const NodeInfo* added = loaded() && !second ? tree_.add(parent, name, type) : nullptr;
   if (added == nullptr) {
     return 0;
   }
@@ -174,7 +198,9 @@ void Project::assign(std::string* value, const std::string& text) {
 
 bool Project::rename(unsigned int id, const std::string& name) {
   NodeInfo* info = tree_.find(id);
-  if (info == nullptr || name.empty()) {
+  const bool fixed = info != nullptr && info->type == ProjectTree::kDeliveryType &&
+                     name != ProjectTree::kDeliveryType;
+  if (info == nullptr || name.empty() || fixed) {
     return false;
   }
   assign(&info->name, name);

@@ -46,9 +46,14 @@ class Project {
   unsigned int nextSibling(unsigned int id) const;
   // The first of that name in tree order.
   unsigned int find(const std::string& name) const;
+  // The first container of that type, in tree order.
+  unsigned int findType(const std::string& type) const;
+  // The container that a new node goes to where this one is selected; 0 for the top level.
+  unsigned int containerFor(unsigned int id) const;
   unsigned int add(unsigned int parent, const std::string& name, const std::string& type);
   bool remove(unsigned int id);
-  // False for a node that is gone; for an empty name too.
+  // False for a node that is gone; for an empty name too, and a container of deliveries keeps
+  // the name it must have.
   bool rename(unsigned int id, const std::string& name);
   bool describe(unsigned int id, const std::string& description);
   // An empty text takes the node's own option away.

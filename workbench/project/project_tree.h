@@ -48,6 +48,11 @@ struct ProjectTree {
 
   // The type of a container that is a folder of the disk.
   static constexpr char kFolderType[] = "Folder";
+  // Of the one container of what is delivered; it is called so as well, as that is how
+  // add-ons find it. What is in it are files, whatever their types hold elsewhere.
+  static constexpr char kDeliveryType[] = "DELIVERY";
+  // Of a container of sources that belong to no target.
+  static constexpr char kSourcePoolType[] = "SourcePool";
 
   NodeInfo* find(unsigned int id);
   const NodeInfo* find(unsigned int id) const;

@@ -24,8 +24,12 @@ std::string shortName(const NodeInfo& node) {
   return std::string(fileName(node.name));
 }
 
-std::string shownText(const NodeInfo& node) {
-  std::string text = shortName(node);
+// Among what is delivered it matters where a file comes from.
+std::string shownText(const Project& project, const NodeInfo& node) {
+  const NodeInfo* parent = project.node(node.parent);
+  const bool delivered = parent != nullptr && parent->type == ProjectTree::kDeliveryType &&
+                         isPathName(node.name, node.type);
+  std::string text = delivered ? relativePath(project.folder(), node.name) : shortName(node);
   if (!node.description.empty()) {
     text += "  [";
     text += node.description;
@@ -131,7 +135,7 @@ void ProjectWindow::fill() {
 }
 
 HTREEITEM ProjectWindow::insert(HTREEITEM parent, const NodeInfo& node) {
-  std::string text = shownText(node);
+  std::string text = shownText(project_, node);
   TVINSERTSTRUCTA info = {};
   info.hParent = parent;
   info.hInsertAfter = TVI_LAST;
@@ -184,7 +188,7 @@ void ProjectWindow::nodeChanged(unsigned int id) {
   if (tree_ == nullptr || found == items_.end() || node == nullptr) {
     return;
   }
-  std::string text = shownText(*node);
+  std::string text = shownText(project_, *node);
   TVITEMA item = {};
   item.mask = TVIF_TEXT | TVIF_HANDLE;
   item.hItem = found->second;
@@ -194,6 +198,13 @@ void ProjectWindow::nodeChanged(unsigned int id) {
 
 unsigned int ProjectWindow::selected() const {
   return nodeOf(tree_ != nullptr ? TreeView_GetSelection(tree_) : nullptr);
+}
+
+void ProjectWindow::select(unsigned int node) {
+  if (HTREEITEM item = itemOf(node)) {
+    TreeView_SelectItem(tree_, item);
+    TreeView_EnsureVisible(tree_, item);
+  }
 }
 
 unsigned int ProjectWindow::nodeOf(HTREEITEM of) const {
@@ -292,6 +303,10 @@ LRESULT ProjectWindow::notified(const NMHDR& header) {
       return 0;
     case TVN_BEGINLABELEDITA:
     case TVN_BEGINLABELEDITW:
+      // What may not be renamed is not edited.
+      if (!host_.projectCommandEnabled(CM_NODE_RENAME)) {
+        return 1;
+      }
       beginEdit();
       return 0;
     case TVN_ENDLABELEDITA: {

@@ -36,6 +36,7 @@ class ProjectWindow final : public MdiPane, public ProjectView {
   void projectChanged();
   // 0 for none, or while the window is closed.
   unsigned int selected() const;
+  void select(unsigned int node);
   // Lets the user edit the selected node's name in place.
   void beginRename();
 

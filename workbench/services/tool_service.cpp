@@ -197,14 +197,13 @@ int STDMETHODCALLTYPE ToolService::SetText(ToolHandle tool, IIdeString* text) {
 int STDMETHODCALLTYPE ToolService::SetImplementor(ToolHandle handle,
                                                   IToolImplementor* implementor) {
   Tool* tool = unfinished(handle);
-  if (tool == nullptr) {
+  void* known = nullptr;
+  if (tool == nullptr || (implementor != nullptr &&
+                          implementor->QueryInterface(ideapi::kToolImplementor, &known) != S_OK)) {
     return 0;
   }
   IToolImplementor* former = tool->implementor;
-  tool->implementor = implementor;
-  if (implementor != nullptr) {
-    implementor->AddRef();
-  }
+  tool->implementor = static_cast<IToolImplementor*>(known);
   if (former != nullptr) {
     former->Release();
   }

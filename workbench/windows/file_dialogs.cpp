@@ -16,7 +16,9 @@ constexpr char kFilter[] =
     "C++ sources (*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh)\0*.cpp;*.cc;*.cxx;*.c;*.h;*.hpp;*.hh\0"
     "Resource scripts (*.rc;*.rh)\0*.rc;*.rh\0"
     "Projects (*.ide)\0*.ide\0"
+    "Programs and libraries (*.exe;*.dll;*.lib)\0*.exe;*.dll;*.lib\0"
     "All files (*.*)\0*.*\0";
+constexpr DWORD kTargetFilter = 4;  // from 1
 
 // The system puts the dialog into its owner's corner, where an add-on's bar may lie.
 UINT_PTR CALLBACK centreDialog(HWND page, UINT message, WPARAM, LPARAM l) {
@@ -64,10 +66,12 @@ bool askOpenName(HWND owner, const std::string& folder, std::string* path) {
   return true;
 }
 
-bool askOpenNames(HWND owner, const std::string& folder, std::vector<std::string>* paths) {
+bool askOpenNames(HWND owner, const std::string& folder, bool targets,
+                  std::vector<std::string>* paths) {
   std::vector<char> buffer(kManyNames);
   NameDialog dialog(owner, folder, OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT);
   dialog.info.lpstrTitle = "Add files to the project";
+  dialog.info.nFilterIndex = targets ? kTargetFilter : 1;
   dialog.info.lpstrFile = buffer.data();
   dialog.info.nMaxFile = static_cast<DWORD>(buffer.size());
   if (GetOpenFileNameA(&dialog.info) == 0) {
