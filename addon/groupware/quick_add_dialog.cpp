@@ -27,9 +27,6 @@ constexpr int kLevels[] = {QUICK_ADD_SIBLING, QUICK_ADD_PARENT, QUICK_ADD_ROOT};
 struct Opened {
   unsigned current;
   unsigned added = 0;
-  // The key by which the menu was told to open the dialog is still down, and would open the
-  // dialog's own menu as it goes up.
-  bool alt_down = false;
 };
 
 bool isChecked(HWND dialog, int id) {
@@ -114,34 +111,17 @@ bool command(HWND dialog, int id, Opened& opened) {
   }
 }
 
-// The first time that the menu of the dialog is asked for by the key alone.
-bool isLettingGo(WPARAM command, LPARAM character, Opened& opened) {
-  if ((command & 0xFFF0) != SC_KEYMENU || character != 0 || !opened.alt_down) {
-    return false;
-  }
-  opened.alt_down = false;
-  return true;
-}
-
 INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrA(dialog, DWLP_USER, lParam);
-    reinterpret_cast<Opened*>(lParam)->alt_down = GetKeyState(VK_MENU) < 0;
     fill(dialog);
     return TRUE;
   }
-  auto* opened = reinterpret_cast<Opened*>(GetWindowLongPtrA(dialog, DWLP_USER));
-  if (opened == nullptr) {
+  if (message != WM_COMMAND) {
     return FALSE;
   }
-  switch (message) {
-    case WM_COMMAND:
-      return command(dialog, LOWORD(wParam), *opened) ? TRUE : FALSE;
-    case WM_SYSCOMMAND:
-      return isLettingGo(wParam, lParam, *opened) ? TRUE : FALSE;
-    default:
-      return FALSE;
-  }
+  Opened* opened = reinterpret_cast<Opened*>(GetWindowLongPtrA(dialog, DWLP_USER));
+  return opened != nullptr && command(dialog, LOWORD(wParam), *opened) ? TRUE : FALSE;
 }
 
 }  // namespace
