@@ -7,6 +7,7 @@
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_settings.h"
+#include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/quick_add_dialog.h"
@@ -21,10 +22,12 @@
 #include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/tool_table.h"
+#include "addon/mail/mail.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/tasks/task_list.h"
 #include "addon/tasks/task_settings.h"
@@ -60,6 +63,33 @@ template <class T>
 void destroy(T*& slot) {
   delete slot;
   slot = nullptr;
+}
+
+void createTasks() {
+  create(taskList, fileSystem);
+  if (taskList == nullptr) {
+    return;
+  }
+  readTaskSettings(*taskList);
+  create(taskFlash, barWindow, fileSystem, *taskList);
+  create(taskDialog, fileSystem, *taskList);
+  // The clients may have been told of an open project before.
+  if (isProjectOpen()) {
+    taskList->setPath(taskFilePath(projectFile()).view());
+    taskList->load();
+    if (taskFlash != nullptr) {
+      taskFlash->postWhenDue();
+    }
+  }
+}
+
+void destroyTasks() {
+  destroy(taskDialog);
+  destroy(taskFlash);
+  if (taskList != nullptr) {
+    writeTaskSettings(*taskList);
+  }
+  destroy(taskList);
 }
 
 }  // namespace
@@ -104,6 +134,7 @@ void startAddon(IIde* ide) {
   create(completionSettings);
   create(generalBehaviours);
   create(rcGenerator);
+  create(delivery);
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);
@@ -116,17 +147,19 @@ void startAddon(IIde* ide) {
   if (projectTestA != nullptr) {
     projectTestA->registerClients();
   }
+  // A project that is open by now has said whether it wants the tool.
+  if (delivery != nullptr && !isProjectOpen()) {
+    delivery->registerTool();
+  }
   create(recentFiles, barWindow);
   // The clients may have been told of an open project before the lists were there.
   if (recentFiles != nullptr && isProjectOpen()) {
     recentFiles->projects().remove(projectFile());
   }
   create(optionsServiceHolder);
-  create(taskList, fileSystem);
-  if (taskList != nullptr) {
-    readTaskSettings(*taskList);
-    create(taskFlash, barWindow, fileSystem, *taskList);
-  }
+  create(mail);
+  runOnOpenProject(readMailRecipients);
+  createTasks();
   create(htmlSettings);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
@@ -142,7 +175,9 @@ void stopAddon() {
     recentFiles->save();
   }
   destroy(recentFiles);
+  destroy(mail);
   destroy(quickFind);
+  destroy(delivery);
   destroy(hookSet);
   destroy(helpFile);
   destroy(editorNavigation);
@@ -154,11 +189,7 @@ void stopAddon() {
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
-  destroy(taskFlash);
-  if (taskList != nullptr) {
-    writeTaskSettings(*taskList);
-  }
-  destroy(taskList);
+  destroyTasks();
   destroy(documentationRun);
   destroy(htmlSettings);
   DestroyWindow(barWindow);

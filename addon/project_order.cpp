@@ -1,7 +1,7 @@
 #include "addon/project_order.h"
 
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/delivery/mail_project_options.h"
+#include "addon/delivery/delivery.h"
 #include "addon/delivery/project_options.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/documentation_run.h"
@@ -9,8 +9,11 @@
 #include "addon/html/project_options.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/make_registration.h"
+#include "addon/mail/mail.h"
+#include "addon/mail/project_options.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/tasks/task_list.h"
 #include "addon/topbar/bar_menu.h"
@@ -67,6 +70,13 @@ void flashWhenDue(Work) {
   }
 }
 
+// It writes the tasks, while they and their file are still those of its project.
+void closeTaskDialog(Work) {
+  if (taskDialog != nullptr) {
+    taskDialog->close();
+  }
+}
+
 void closeFlash(Work) {
   if (taskFlash != nullptr) {
     taskFlash->close();
@@ -97,8 +107,33 @@ void rebuildBarMenu(Work) {
   }
 }
 
-constexpr ProjectStep kAnnounced[] = {emptyTasks, placeBar, forgetRecentProject, resetAutoSave,
-                                      readBarSettings};
+// Without the object the project keeps what it has.
+void writeMailRecipients(Work work) {
+  if (mail != nullptr) {
+    writeRecipients(work.options, mail->recipients());
+  }
+}
+
+void forgetMailRecipients(Work) {
+  if (mail != nullptr) {
+    mail->recipients().clear();
+  }
+}
+
+void applyDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->applyTool();
+  }
+}
+
+void unregisterDeliveryTool(Work) {
+  if (delivery != nullptr) {
+    delivery->unregisterTool();
+  }
+}
+
+constexpr ProjectStep kAnnounced[] = {closeTaskDialog,     emptyTasks,    placeBar,
+                                      forgetRecentProject, resetAutoSave, readBarSettings};
 
 constexpr ProjectStep kOpened[] = {
     loadTasks,
@@ -114,20 +149,21 @@ constexpr ProjectStep kOpened[] = {
     [](Work work) { htmlProjectOptions.filters.read(work.options); },
     [](Work work) { deliveryProjectOptions.readCount(work.options); },
     [](Work work) { deliveryProjectOptions.tool_present.read(work.options); },
+    applyDeliveryTool,
     [](Work work) { deliveryProjectOptions.readGroups(work.options); },
     [](Work work) { groupwareProjectOptions.server_directory.read(work.options); },
-    [](Work work) { mailProjectOptions.read(work.options); },
+    readMailRecipients,
     flashWhenDue,
 };
 
 constexpr ProjectStep kSettled[] = {rebuildBarMenu};
 
-constexpr ProjectStep kClosing[] = {collapseBar, closeFlash};
+constexpr ProjectStep kClosing[] = {collapseBar, closeTaskDialog, closeFlash};
 
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
-                                          recordRecentProject};
+                                          unregisterDeliveryTool, recordRecentProject};
 
-constexpr ProjectStep kClosed[] = {[](Work) { mailProjectOptions.recipients.clear(); }};
+constexpr ProjectStep kClosed[] = {forgetMailRecipients};
 
 // The project's own menus go with it.
 constexpr ProjectStep kGone[] = {rebuildBarMenu};
@@ -137,13 +173,14 @@ constexpr ProjectStep kSaved[] = {
     [](Work work) { writeBarHidesWithView(work.options); },
     [](Work work) { deliveryProjectOptions.tool_present.write(work.options); },
     [](Work work) { deliveryProjectOptions.writeGroups(work.options); },
-    [](Work work) { mailProjectOptions.write(work.options); },
+    writeMailRecipients,
     [](Work work) { groupwareProjectOptions.server_directory.write(work.options); },
     [](Work work) { rcgenProjectOptions.dialog_classes.write(work.options); },
     [](Work work) { rcgenProjectOptions.version_stamping.write(work.options); },
     [](Work work) { htmlProjectOptions.enabled.write(work.options); },
     [](Work work) { htmlProjectOptions.automatic.write(work.options); },
     [](Work work) { htmlProjectOptions.filters.write(work.options); },
+    [](Work work) { deliveryProjectOptions.writeActive(work.options); },
 };
 
 void nodeChanged(ProjectNode node, const char* name) {
@@ -187,6 +224,12 @@ constexpr MakeStep kMakeStarted[] = {actOnMakeStart, generateFromResources};
 constexpr MakeEndStep kMakeEnded[] = {actOnMakeEnd, generateAfterMake};
 
 }  // namespace
+
+void readMailRecipients(const ProjectWork& work) {
+  if (mail != nullptr) {
+    readRecipients(work.options, mail->recipients());
+  }
+}
 
 constinit const ProjectOrder kProjectOrder = {kAnnounced,     kOpened,    kSettled, kClosing,
                                               kClosingLoaded, kClosed,    kGone,    kSaved,

@@ -9,4 +9,7 @@ namespace kesto {
 extern const ProjectOrder kProjectOrder;
 extern const MakeOrder kMakeOrder;
 
+// A step of an opening, which waits for its object in a start that finds a project open.
+void readMailRecipients(const ProjectWork& work);
+
 }  // namespace kesto

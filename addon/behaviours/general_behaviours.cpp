@@ -4,6 +4,7 @@
 
 #include "addon/foundation/settings_store.h"
 #include "addon/ide/current_project.h"
+#include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/status_line.h"
@@ -62,15 +63,21 @@ void sendCommand(HWND window, int command) {
   }
 }
 
+bool isOwnWindow(HWND window) {
+  return addonEnvironment != nullptr &&
+         reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(window, GWLP_HINSTANCE)) ==
+             addonEnvironment->instance;
+}
+
 BOOL CALLBACK takeDialog(HWND window, LPARAM parameter) {
-  if (!isWindowOfClass(window, kDialogClass)) {
+  if (!isWindowOfClass(window, kDialogClass) || isOwnWindow(window)) {
     return TRUE;
   }
   *reinterpret_cast<HWND*>(parameter) = window;
   return FALSE;
 }
 
-// The IDE's own dialogs only: those of other programs are none of its business.
+// The IDE's own dialogs only: neither other programs' nor those of the add-on.
 HWND topLevelDialog() {
   HWND dialog = nullptr;
   EnumThreadWindows(GetCurrentThreadId(), takeDialog, reinterpret_cast<LPARAM>(&dialog));
@@ -85,7 +92,7 @@ HWND findStatusBox() {
   if (box == nullptr) {
     box = GetActiveWindow();
   }
-  return box != nullptr && isWindowOfClass(box, kDialogClass) ? box : nullptr;
+  return box != nullptr && isWindowOfClass(box, kDialogClass) && !isOwnWindow(box) ? box : nullptr;
 }
 
 }  // namespace

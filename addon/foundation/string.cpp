@@ -141,10 +141,14 @@ int String::fRead(FILE* file) {
   if (!readUint16(file, &length)) {
     return 0;
   }
+  // What is there is not wanted any more: it need not be moved to a longer block.
+  free(text_);
+  text_ = nullptr;
+  // The terminator comes with the last piece, whatever it is.
   std::size_t arrived = 0;
-  while (arrived < length) {
-    const std::size_t wanted = std::min<std::size_t>(kPiece, length - arrived);
-    resize(arrived + wanted);
+  while (arrived <= length) {
+    const std::size_t wanted = std::min<std::size_t>(kPiece, length + 1U - arrived);
+    resize(arrived + wanted - 1);
     const std::size_t got = fread(text_ + arrived, 1, wanted, file);
     arrived += got;
     if (got < wanted) {
@@ -152,9 +156,8 @@ int String::fRead(FILE* file) {
       return 0;
     }
   }
-  resize(length);
-  char terminator = 0;
-  return fread(&terminator, 1, 1, file) == 1;
+  text_[length] = '\0';
+  return 1;
 }
 
 String::operator long int() const {

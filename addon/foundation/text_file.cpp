@@ -13,8 +13,6 @@ struct CloseFile {
 };
 using File = std::unique_ptr<FILE, CloseFile>;
 
-constexpr char kEndOfText = '\x1A';
-
 bool writeWith(const char* mode, const char* path, std::string_view text) {
   FILE* const file = fopen(path, mode);
   if (file == nullptr) {
@@ -24,26 +22,6 @@ bool writeWith(const char* mode, const char* path, std::string_view text) {
   const bool written =
       fwrite(text.data(), 1, text.size(), file) == text.size() && fflush(file) == 0;
   return fclose(file) == 0 && written;
-}
-
-bool readBytes(const char* path, std::string& text) {
-  text.clear();
-  const File file(fopen(path, "rb"));
-  // A directory that opens has no such end.
-  if (file == nullptr || fseek(file.get(), 0, SEEK_END) != 0) {
-    return false;
-  }
-  const long size = ftell(file.get());
-  if (size < 0 || size > kTextFileLimit || fseek(file.get(), 0, SEEK_SET) != 0) {
-    return false;
-  }
-  text.resize(static_cast<std::size_t>(size));
-  text.resize(fread(text.data(), 1, text.size(), file.get()));
-  if (ferror(file.get()) != 0) {
-    text.clear();
-    return false;
-  }
-  return true;
 }
 
 // The next character of the bytes as writeTextFile leaves it: whether it is that one.
@@ -64,8 +42,28 @@ bool takeWritten(std::string_view& bytes, char c) {
 
 }  // namespace
 
+bool readFileBytes(const char* path, std::string& bytes) {
+  bytes.clear();
+  const File file(fopen(path, "rb"));
+  // A directory that opens has no such end.
+  if (file == nullptr || fseek(file.get(), 0, SEEK_END) != 0) {
+    return false;
+  }
+  const long size = ftell(file.get());
+  if (size < 0 || size > kTextFileLimit || fseek(file.get(), 0, SEEK_SET) != 0) {
+    return false;
+  }
+  bytes.resize(static_cast<std::size_t>(size));
+  bytes.resize(fread(bytes.data(), 1, bytes.size(), file.get()));
+  if (ferror(file.get()) != 0) {
+    bytes.clear();
+    return false;
+  }
+  return true;
+}
+
 bool readTextFile(const char* path, std::string& text) {
-  if (!readBytes(path, text)) {
+  if (!readFileBytes(path, text)) {
     return false;
   }
   takeTextMode(text);
@@ -74,7 +72,7 @@ bool readTextFile(const char* path, std::string& text) {
 
 bool holdsText(const char* path, std::string_view text) {
   std::string bytes;
-  if (!readBytes(path, bytes)) {
+  if (!readFileBytes(path, bytes)) {
     return false;
   }
   std::string_view rest = bytes;
@@ -88,6 +86,10 @@ bool isUtf16(std::string_view text) {
 
 void takeTextMode(std::string& bytes) {
   bytes.resize(std::min(bytes.size(), bytes.find(kEndOfText)));
+  takeLineFeeds(bytes);
+}
+
+void takeLineFeeds(std::string& bytes) {
   std::size_t to = bytes.find("\r\n");
   if (to == std::string::npos) {
     return;

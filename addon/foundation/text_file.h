@@ -12,13 +12,20 @@ namespace kesto {
 // Bytes of a file that is read at most: a 32-bit process holds no two of them.
 inline constexpr long kTextFileLimit = 256L * 1024 * 1024;
 
-// Replaces text by the file's. False, and text empty, when it cannot be opened, is a
-// directory or is longer than the limit.
+// Ends a text in text mode.
+inline constexpr char kEndOfText = '\x1A';
+
+// Replaces bytes by the file's, as they are. False, and bytes empty, when it cannot be
+// opened, is a directory or is longer than the limit.
+bool readFileBytes(const char* path, std::string& bytes);
+// The same in text mode. False and text empty, for the same reasons.
 bool readTextFile(const char* path, std::string& text);
 // Whether the text begins with the mark of UTF-16, of either byte order.
 bool isUtf16(std::string_view text);
 // What a file of these bytes holds as text.
 void takeTextMode(std::string& bytes);
+// Drops the carriage returns before line feeds, and nothing else.
+void takeLineFeeds(std::string& bytes);
 // Creates or overwrites the file; line feeds become the system's line ends. False when
 // the file cannot be created or written whole.
 bool writeTextFile(const char* path, std::string_view text);

@@ -24,15 +24,8 @@ namespace {
 std::atomic<int> runningGenerations = 0;
 
 constexpr DWORD kProgressPeriod = 100;  // milliseconds
-constexpr std::size_t kProjectExtension = 4;
 // What ShellExecute yields for a failure at most.
 constexpr INT_PTR kShellFailure = 32;
-
-std::string projectName() {
-  std::string name(fileNamePart(projectFile()));
-  name.resize(name.size() > kProjectExtension ? name.size() - kProjectExtension : 0);
-  return name;
-}
 
 }  // namespace
 

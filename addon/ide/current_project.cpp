@@ -8,6 +8,8 @@
 namespace kesto {
 namespace {
 
+constexpr std::size_t kProjectExtension = 4;  // with its dot
+
 bool openFlag = false;
 std::string openFileName;
 
@@ -37,6 +39,12 @@ const std::string& projectFile() {
 
 void setProjectFile(std::string file) {
   openFileName = std::move(file);
+}
+
+std::string projectName() {
+  std::string name(fileNamePart(openFileName));
+  name.resize(name.size() > kProjectExtension ? name.size() - kProjectExtension : 0);
+  return name;
 }
 
 std::string projectDirectory() {

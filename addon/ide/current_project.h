@@ -14,6 +14,8 @@ void setProjectOpen(bool open);
 // Full path of the project file that was opened last.
 const std::string& projectFile();
 void setProjectFile(std::string file);
+// The name of that file without its folder and its extension, which has three letters.
+std::string projectName();
 
 // The folder of the open project's file, else the current directory; no trailing
 // separator.

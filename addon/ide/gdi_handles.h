@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 namespace kesto {
 
 // The device context of a whole window, frame included.
@@ -13,6 +15,20 @@ class WindowDc {
   ~WindowDc() { ReleaseDC(window_, dc_); }
   WindowDc(const WindowDc&) = delete;
   WindowDc& operator=(const WindowDc&) = delete;
+  HDC get() const { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
+
+// The device context of a window's inner area.
+class ClientDc {
+ public:
+  explicit ClientDc(HWND window) : window_(window), dc_(GetDC(window)) {}
+  ~ClientDc() { ReleaseDC(window_, dc_); }
+  ClientDc(const ClientDc&) = delete;
+  ClientDc& operator=(const ClientDc&) = delete;
   HDC get() const { return dc_; }
 
  private:
@@ -46,6 +62,28 @@ class OwnedBitmap {
 
  private:
   HBITMAP bitmap_;
+};
+
+class OwnedFont {
+ public:
+  explicit OwnedFont(HFONT font = nullptr) : font_(font) {}
+  ~OwnedFont() { release(); }
+  OwnedFont(OwnedFont&& other) noexcept : font_(std::exchange(other.font_, nullptr)) {}
+  OwnedFont& operator=(OwnedFont&& other) noexcept {
+    release();
+    font_ = std::exchange(other.font_, nullptr);
+    return *this;
+  }
+  HFONT get() const { return font_; }
+
+ private:
+  void release() {
+    if (font_ != nullptr) {
+      DeleteObject(font_);
+    }
+  }
+
+  HFONT font_;
 };
 
 // An object selected into a device context, and the former one put back.

@@ -41,6 +41,10 @@ void run(ProjectSteps ProjectOrder::*steps, const ProjectWork& work) {
   }
 }
 
+IProjectService* registeredService() {
+  return projectTestA != nullptr ? projectTestA->service() : nullptr;
+}
+
 std::string fileOf(IProject* project) {
   const std::unique_ptr<char[]> file =
       project != nullptr ? takeIdeString(project->GetFileName()) : nullptr;
@@ -112,12 +116,18 @@ void STDMETHODCALLTYPE ProjectClient2Impl::ProjectSaving() {
 }
 
 void saveProjectOptions() {
-  IProjectService* service = projectTestA != nullptr ? projectTestA->service() : nullptr;
-  if (service == nullptr) {
-    return;
+  if (IProjectService* const service = registeredService()) {
+    StoredOptions options(service);
+    run(&ProjectOrder::saved, {service, options, projectFile().c_str()});
   }
-  StoredOptions options(service);
-  run(&ProjectOrder::saved, {service, options, projectFile().c_str()});
+}
+
+void runOnOpenProject(ProjectStep step) {
+  IProjectService* const service = registeredService();
+  if (service != nullptr && isProjectOpen()) {
+    StoredOptions options(service);
+    step({service, options, projectFile().c_str()});
+  }
 }
 
 ProjectTestA::ProjectTestA()

@@ -96,5 +96,8 @@ extern ProjectTestA* projectTestA;
 
 // Writes all per-project options into the open project at once.
 void saveProjectOptions();
+// Runs one step on the open project once more, for a feature that was created after the
+// project's opening was told; nothing while none is open.
+void runOnOpenProject(ProjectStep step);
 
 }  // namespace kesto

@@ -1,8 +1,8 @@
 #include "addon/ide/search_watch.h"
 
-#include "addon/ide/access.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/status_line.h"
+#include "addon/ide/window_painting.h"
 
 namespace kesto {
 namespace {
@@ -11,9 +11,6 @@ namespace {
 constexpr DWORD kLookPeriod = 50;
 constexpr DWORD kShort = 1000;  // a search that needs no telling
 constexpr DWORD kTellPeriod = 500;
-
-// A window that does not take its painting for done must not keep the search.
-constexpr int kMostPaintings = 32;
 
 // Whether Escape is down, or was since the last call, and meant for this program: the
 // key's state is the whole system's.
@@ -27,16 +24,6 @@ bool escapePressed() {
 
 std::string counted(int count, const char* what) {
   return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
-}
-
-void paintWindows() {
-  MSG message;
-  for (int i = 0; i < kMostPaintings; ++i) {
-    if (PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE) == FALSE) {
-      return;
-    }
-    DispatchMessageA(&message);
-  }
 }
 
 }  // namespace
@@ -66,8 +53,7 @@ bool SearchWatch::goOn(int directories, int files) {
     const std::string shown = files > 0 ? counted(files, "file") + " in " : std::string();
     showStatus((text_ + ' ' + shown + counted(directories, "folder") + ", Esc stops").c_str());
   }
-  paintWindows();
-  stopped_ = !acquireIde();
+  stopped_ = !paintWindows();
   return !stopped_;
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "addon/foundation/tableau.h"
-#include "addon/ide/access.h"
+#include "addon/ide/message_group.h"
 #include "addon/navigation/quick_resu.h"
 
 namespace kesto {
@@ -15,12 +15,7 @@ class CrossReferenceMessages {
   void write(const char* name, const Tableau<QuickResu>& references, bool whole = true);
 
  private:
-  bool open();
-
-  // Obtained at the first run, kept for the session.
-  ComPtr<IMessageService> service_;
-  MessageGroup group_ = 0;
-  MessageHandle header_ = 0;  // of the last run
+  MessageGroupWriter group_{"Cross reference", "&Cross reference"};
 };
 
 }  // namespace kesto

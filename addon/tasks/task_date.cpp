@@ -7,10 +7,6 @@ namespace kesto {
 
 namespace {
 
-constexpr std::int64_t dayNumber(const TaskDate& date) {
-  return std::int64_t{date.year} << 32 | std::int64_t{date.month} << 16 | date.day;
-}
-
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
@@ -46,12 +42,6 @@ bool takeSlash(std::string_view& text) {
 }
 
 }  // namespace
-
-int compareDays(const TaskDate& left, const TaskDate& right) {
-  const std::int64_t a = dayNumber(left);
-  const std::int64_t b = dayNumber(right);
-  return (a > b) - (a < b);
-}
 
 bool isNotAfterInYear(const TaskDate& left, const TaskDate& right) {
   return left.month < right.month || (left.month == right.month && left.day <= right.day);

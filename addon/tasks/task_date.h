@@ -31,7 +31,11 @@ class DateFormat {
 };
 
 // By year, month and day: below 0, 0 or above 0.
-int compareDays(const TaskDate& left, const TaskDate& right);
+inline int compareDays(const TaskDate& left, const TaskDate& right) {
+  const int years = left.year - right.year;
+  const int months = left.month - right.month;
+  return years != 0 ? years : months != 0 ? months : left.day - right.day;
+}
 
 // Whether left is not after right within a year: by month and day alone, so that a stretch
 // of days comes round every year, and one over the turn of a year holds none.

@@ -50,8 +50,8 @@ class TaskList : public Ensemble<Task> {
   void save();
 
   // Appends the tasks whose days enclose today, of the states of the flash, in the order of
-  // the view. 1 when out is not empty by then, else 0; out then says so.
-  int todayReport(String& out, const TaskDate& today, const DateFormat& format);
+  // the view, which stays as it is. 1 when out is not empty by then, else 0; out then says so.
+  int todayReport(String& out, const TaskDate& today, const DateFormat& format) const;
 
   // The types as one text, ";" between them, cut at kTypesLimit; and back. An empty piece
   // at the end is none.

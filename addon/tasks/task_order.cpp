@@ -8,66 +8,57 @@ namespace {
 
 enum class Key { kState, kStart, kEnd, kPriority, kType, kName };
 
-constexpr Key kOrders[kTaskOrders][6] = {
-    {Key::kState, Key::kStart, Key::kEnd, Key::kPriority, Key::kType, Key::kName},
-    {Key::kStart, Key::kState, Key::kEnd, Key::kPriority, Key::kType, Key::kName},
-    {Key::kEnd, Key::kState, Key::kStart, Key::kPriority, Key::kType, Key::kName},
-    {Key::kPriority, Key::kState, Key::kStart, Key::kEnd, Key::kType, Key::kName},
-    {Key::kType, Key::kState, Key::kStart, Key::kEnd, Key::kPriority, Key::kName}};
-
 int compareNumbers(std::int32_t left, std::int32_t right) {
   return (left > right) - (left < right);
 }
 
-int compareKey(Key key, const Task& left, const Task& right) {
-  switch (key) {
-    case Key::kState:
-      return compareNumbers(left.state, right.state);
-    case Key::kStart:
-      return compareDays(left.start, right.start);
-    case Key::kEnd:
-      return compareDays(left.end, right.end);
-    case Key::kPriority:
-      return compareNumbers(left.priority, right.priority);
-    case Key::kType:
-      return strcmp(left.type.text(), right.type.text());
-    case Key::kName:
-      break;
+template <Key key>
+int compareKey(const Task& left, const Task& right) {
+  if constexpr (key == Key::kState) {
+    return compareNumbers(left.state, right.state);
+  } else if constexpr (key == Key::kStart) {
+    return compareDays(left.start, right.start);
+  } else if constexpr (key == Key::kEnd) {
+    return compareDays(left.end, right.end);
+  } else if constexpr (key == Key::kPriority) {
+    return compareNumbers(left.priority, right.priority);
+  } else if constexpr (key == Key::kType) {
+    return strcmp(left.type.text(), right.type.text());
+  } else {
+    return strcmp(left.name.text(), right.name.text());
   }
-  return strcmp(left.name.text(), right.name.text());
 }
 
-int compareInOrder(int order, const Task& left, const Task& right) {
-  for (const Key key : kOrders[order]) {
-    if (const int difference = compareKey(key, left, right); difference != 0) {
-      return difference;
-    }
-  }
-  return 0;
-}
-
-// The sort of the tables takes no more than a function.
-template <int order>
+// By one key after the other, until they differ.
+template <Key... keys>
 int forward(const Task& left, const Task& right) {
-  return compareInOrder(order, left, right);
+  int difference = 0;
+  static_cast<void>((((difference = compareKey<keys>(left, right)) != 0) || ...));
+  return difference;
 }
 
-template <int order>
+template <Key... keys>
 int backward(const Task& left, const Task& right) {
-  return compareInOrder(order, right, left);
+  return forward<keys...>(right, left);
 }
 
-template <int order>
+// The sort of the tables takes a function that knows nothing else.
+template <Key... keys>
 void sortBy(Tableau<Task>& tasks, bool reverse) {
   if (reverse) {
-    tasks.sortWith<backward<order>>();
+    tasks.sortWith<backward<keys...>>();
   } else {
-    tasks.sortWith<forward<order>>();
+    tasks.sortWith<forward<keys...>>();
   }
 }
 
-constexpr void (*kSorts[kTaskOrders])(Tableau<Task>&, bool) = {sortBy<0>, sortBy<1>, sortBy<2>,
-                                                               sortBy<3>, sortBy<4>};
+using enum Key;
+constexpr void (*kSorts[kTaskOrders])(Tableau<Task>&, bool) = {
+    sortBy<kState, kStart, kEnd, kPriority, kType, kName>,
+    sortBy<kStart, kState, kEnd, kPriority, kType, kName>,
+    sortBy<kEnd, kState, kStart, kPriority, kType, kName>,
+    sortBy<kPriority, kState, kStart, kEnd, kType, kName>,
+    sortBy<kType, kState, kStart, kEnd, kPriority, kName>};
 
 }  // namespace
 

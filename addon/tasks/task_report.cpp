@@ -1,5 +1,4 @@
 // The task list's report of what is due today.
-#include <algorithm>
 #include <string>
 
 #include "addon/tasks/task_list.h"
@@ -27,24 +26,25 @@ void appendDue(std::string& report, const Task& task, const DateFormat& format) 
 
 }  // namespace
 
-int TaskList::todayReport(String& out, const TaskDate& today, const DateFormat& format) {
-  std::int32_t shown[kTaskStates];
-  std::copy(std::begin(show), std::end(show), shown);
-  std::copy(std::begin(settings.flash), std::end(settings.flash), show);
-  rebuildView();
-  // No text takes more.
-  std::string report;
-  for (int i = 0; i < view_.count() && report.size() < String::kMaxLength; ++i) {
-    if (isDue(*view_[i], today)) {
-      appendDue(report, *view_[i], format);
+// What is not due has no place in the order: it need not be sorted.
+int TaskList::todayReport(String& out, const TaskDate& today, const DateFormat& format) const {
+  Tableau<Task> due;
+  due.setOwns(false);
+  for (int i = 0; i < count(); ++i) {
+    if (settings.flash[at(i)->state] != 0 && isDue(*at(i), today)) {
+      due.append(at(i));
     }
   }
+  sortTasks(due, order, reverse != 0);
+  // No text takes more.
+  std::string report;
+  for (int i = 0; i < due.count() && report.size() < String::kMaxLength; ++i) {
+    appendDue(report, *due[i], format);
+  }
   out += std::string_view(report);
-  const bool due = !out.empty();
-  out += due ? "That's all folks !" : "No task today !";
-  std::copy(std::begin(shown), std::end(shown), show);
-  rebuildView();
-  return due ? 1 : 0;
+  const bool has_text = !out.empty();
+  out += has_text ? "That's all folks !" : "No task today !";
+  return has_text ? 1 : 0;
 }
 
 }  // namespace kesto

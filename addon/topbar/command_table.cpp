@@ -11,6 +11,7 @@
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/navigation/title_commands.h"
+#include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/topbar/bar_commands.h"
 #include "addon/topbar/bar_menu.h"
@@ -111,6 +112,13 @@ bool showDocumentation(const Command&) {
   return true;
 }
 
+bool showTasks(const Command&) {
+  if (taskDialog != nullptr) {
+    taskDialog->open(findFrame());
+  }
+  return true;
+}
+
 bool flashWhenDue(const Command&) {
   if (taskFlash != nullptr) {
     taskFlash->showWhenDue();
@@ -150,7 +158,7 @@ constexpr CommandRange kCommands[] = {
     {103, 103, rebuildMenu, nullptr, nullptr, false},
     {104, 104, placeCaption, nullptr, nullptr, false},
     {111, 111, paintButtons, nullptr, nullptr, false},
-    {171, 171, nullptr, nullptr},  // task list
+    {171, 171, showTasks, nullptr},
     {kCommandFlash, kCommandFlash, flashWhenDue, nullptr},
     {173, 173, flashOnDemand, nullptr},
     {175, 176, nullptr, nullptr},  // groupware get, send

@@ -5,6 +5,7 @@
 #include "addon/ide/project_client.h"
 #include "addon/ide/service_holder.h"
 #include "addon/ide/tool_table.h"
+#include "addon/mail/mail.h"
 #include "addon/project_order.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
@@ -68,6 +69,7 @@ void BarSession::create() {
   kesto::projectTestA = new kesto::ProjectTestA;
   kesto::projectTestA->registerClients();
   kesto::recentFiles = new kesto::RecentFiles(windows.bar);
+  kesto::mail = new kesto::Mail;
   kesto::barMenu->rebuild();
 }
 
@@ -77,6 +79,7 @@ void BarSession::destroy() {
   }
   kesto::recentFiles->save();
   drop(kesto::recentFiles);
+  drop(kesto::mail);
   drop(kesto::barMenu);
   drop(kesto::topBar);
   drop(kesto::editorServiceHolder);

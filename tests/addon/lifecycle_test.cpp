@@ -1,18 +1,21 @@
 // The built DLL itself, loaded as an IDE loads it.
 #include <windows.h>
 
+#include <cstring>
+#include <map>
 #include <string>
 
-#include <cstring>
-
 #include "addon/foundation/settings_store.h"
+#include "addon/ide/project_options.h"
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
 #include "tests/addon/window_fixture.h"
+#include "workbench/script/memory_count.h"
 
 namespace {
 
-struct HandleCounts {
+struct Counts {
+  long blocks = 0;
   int gdi = 0;
   int windows = 0;
   int menus = 0;
@@ -26,8 +29,9 @@ bool isOwnWindow(HWND window) {
 }
 
 // Wine has no count of a process's handles, but it answers for any low word.
-HandleCounts countHandles() {
-  HandleCounts counts;
+Counts countAll() {
+  Counts counts;
+  counts.blocks = workbench::countMemory().blocks;
   for (unsigned low = 1; low < 0x10000; ++low) {
     counts.gdi += GetObjectType(reinterpret_cast<HGDIOBJ>(low)) != 0;
     counts.windows += isOwnWindow(reinterpret_cast<HWND>(low));
@@ -36,8 +40,10 @@ HandleCounts countHandles() {
   return counts;
 }
 
-void checkHandles(const HandleCounts& before) {
-  const HandleCounts after = countHandles();
+void checkCounts(const Counts& before) {
+  const Counts after = countAll();
+  // The system's own come and go; what a round leaves would be there a hundred times.
+  CHECK(after.blocks < before.blocks + 50);
   CHECK(after.gdi == before.gdi);
   CHECK(after.windows == before.windows);
   CHECK(after.menus == before.menus);
@@ -151,6 +157,14 @@ class EndsModalLoops {
 int EndsModalLoops::menus = 0;
 int EndsModalLoops::boxes = 0;
 
+void plantRecipients(fake::Project& project, char count) {
+  project.options["Kesto_NB_MAIL"] = {count, 0, 0, 0};
+  for (int i = 0; i < count; ++i) {
+    project.options[kesto::entryOptionName("Kesto_MAIL_PJ_", i)] =
+        std::string("+recipient", sizeof "+recipient");
+  }
+}
+
 constexpr WPARAM kHelpCommand = 196;
 
 }  // namespace
@@ -160,11 +174,11 @@ TEST_CASE("a hundred sessions in one process leave nothing behind") {
   // The first one makes the system load and keep what it needs.
   runOnce(ide);
   const int references = fake::live_references;
-  const HandleCounts before = countHandles();
+  const Counts before = countAll();
   for (int i = 0; i < 100; ++i) {
     runOnce(ide);
   }
-  checkHandles(before);
+  checkCounts(before);
   CHECK(fake::live_references == references);
 }
 
@@ -199,7 +213,7 @@ TEST_CASE("an IDE without services survives every command") {
   CHECK(EndsModalLoops::boxes == 1 + 8);
 }
 
-TEST_CASE("popups, menus and projects come and go without leaving a handle") {
+TEST_CASE("popups, menus and projects come and go and leave nothing") {
   fake::Ide ide;
   ide.stream.disk = "#include <a.h>\nint f(void)\nvoid A::g()\n";
   ide.project.nodes = {{0, "C:\\p\\prog.exe", ".exe", ""},
@@ -207,6 +221,7 @@ TEST_CASE("popups, menus and projects come and go without leaving a handle") {
                        {1, "lib", "Folder", ""},
                        {3, "C:\\p\\b.cpp", ".cpp", ""}};
   WindowFixture windows;
+  plantRecipients(ide.project, 3);
   const HWND editor = windows.editor("C:\\A.CPP");
   EndsModalLoops loops;
   const Session session(ide);
@@ -219,10 +234,11 @@ TEST_CASE("popups, menus and projects come and go without leaving a handle") {
       SendMessageA(ownBar(), WM_COMMAND, command, reinterpret_cast<LPARAM>(editor));
     }
     ide.project.close();
+    ide.project.asked.clear();
     drain();
   };
   round(0);
-  const HandleCounts before = countHandles();
+  const Counts before = countAll();
   CHECK(before.windows > 0);
   const int references = fake::live_references;
   for (int i = 0; i < 50; ++i) {
@@ -230,7 +246,7 @@ TEST_CASE("popups, menus and projects come and go without leaving a handle") {
     round(0);
   }
   CHECK(EndsModalLoops::menus == 4 * 101);
-  checkHandles(before);
+  checkCounts(before);
   CHECK(fake::live_references == references);
 }
 
@@ -243,10 +259,41 @@ TEST_CASE("a project that is open at the start is no recent one") {
   fake::Ide ide;
   ide.project.loaded = true;
   ide.project.project.file = "C:\\p\\p.ide";
+  plantRecipients(ide.project, 2);
+  const std::map<std::string, std::string> options = ide.project.options;
   const Session session(ide);
+  // Its recipients were read, if late.
+  ide.project_save.clients[0]->ProjectSaving();
+  for (const auto& [name, value] : options) {
+    CHECK(ide.project.options[name] == value);
+  }
   const HMENU menu = GetSubMenu(GetMenu(ownBar()), 0);
   char text[80] = "";
   GetMenuStringA(menu, 200, text, sizeof text, MF_BYCOMMAND);
   CHECK(std::string(text) == "q.ide");
   CHECK(GetMenuState(menu, 201, MF_BYCOMMAND) == static_cast<UINT>(-1));
+}
+
+TEST_CASE("the settings of the tasks are read at the start and written back at the end") {
+  kesto::SettingsStore& store = kesto::settings();
+  store.setRoot(kRoot);
+  RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\Tasks").c_str());
+  fake::Ide ide;
+  const auto stored = [&store] {
+    std::string all;
+    for (const char* name : {"FlashToDo", "FlashCoded", "FlashTested", "FlashEnded", "MainOn",
+                             "KeyIsDelivery", "EndedReadOnly", "AutoFlash", "Types"}) {
+      char text[kesto::SettingsStore::kValueSize] = "";
+      store.readString("Tasks", name, text, sizeof text, "missing");
+      all += std::string(text) + ' ';
+    }
+    return all;
+  };
+  { const Session session(ide); }
+  CHECK(stored() == "1 1 1 0 1 1 1 1 Design;Evolution;Bug;Documentation ");
+  store.writeInteger("Tasks", "FlashEnded", 7);
+  store.writeInteger("Tasks", "AutoFlash", 0);
+  store.writeString("Tasks", "Types", (std::string(511, 'x') + ";y").c_str());
+  { const Session session(ide); }
+  CHECK(stored() == "1 1 1 7 1 1 1 0 " + std::string(511, 'x') + ' ');
 }

@@ -2,12 +2,12 @@
 
 #include <cstring>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/project_options.h"
 #include "addon/ide/current_project.h"
+#include "addon/mail/mail.h"
 #include "addon/rcgen/project_options.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
@@ -97,7 +97,7 @@ TEST_CASE("saving a project gives back what it stores, in order") {
               "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0", "Kesto_MAIL_PJ_1", "KestoGroupwareServer",
               "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI"});
   session.ide.project.close();
-  CHECK(kesto::mailProjectOptions.recipients.empty());
+  CHECK(kesto::mail->recipients().count() == 0);
 }
 
 TEST_CASE("a project that is told of but not loaded is none") {

@@ -2,6 +2,8 @@
 // and one step can fail, as on a full disk, or be the last before the process is ended.
 #pragma once
 
+#include <cstdint>
+#include <cstdio>
 #include <map>
 #include <optional>
 #include <set>
@@ -9,7 +11,6 @@
 #include <utility>
 
 #include "addon/foundation/file_system.h"
-#include "tests/foundation/byte_file.h"
 
 namespace kesto {
 
@@ -59,12 +60,18 @@ class PlayedDisk : public FileSystem {
   }
   bool write(const char* path, std::string_view text) override { return put(path, "", text); }
   bool writeRecord(const char* path, const Basic& record) override {
-    ByteFile bytes;
-    return record.fWrite(bytes.get()) != 0 && write(path, bytes.bytes());
+    const Bytes bytes;
+    return record.fWrite(bytes.file) != 0 && write(path, bytes.take());
   }
   bool readRecord(const char* path, Basic& record) override {
     const auto found = files.find(path);
-    return found != files.end() && record.fRead(ByteFile(found->second.text).get()) != 0;
+    if (found == files.end()) {
+      return false;
+    }
+    const Bytes bytes;
+    fwrite(found->second.text.data(), 1, found->second.text.size(), bytes.file);
+    rewind(bytes.file);
+    return record.fRead(bytes.file) != 0;
   }
   bool append(const char* path, std::string_view text) override {
     note("append", path);
@@ -106,6 +113,26 @@ class PlayedDisk : public FileSystem {
   virtual void placed(const std::string& /*path*/) {}
 
  private:
+  // A stream for records, on a file of the current directory that goes with it.
+  struct Bytes {
+    Bytes() = default;
+    Bytes(const Bytes&) = delete;
+    Bytes& operator=(const Bytes&) = delete;
+    ~Bytes() {
+      fclose(file);
+      ::remove(name.c_str());
+    }
+    std::string take() const {
+      std::string all(static_cast<std::size_t>(ftell(file)), '\0');
+      rewind(file);
+      all.resize(fread(all.data(), 1, all.size(), file));
+      return all;
+    }
+    const std::string name =
+        "played" + std::to_string(reinterpret_cast<std::uintptr_t>(this)) + ".tmp";
+    FILE* const file = fopen(name.c_str(), "w+b");
+  };
+
   void note(const char* what, const char* path) { done += std::string(what) + ' ' + path + '\n'; }
   bool ended() const { return ends && failing != 0 && changes >= failing; }
   bool change() {

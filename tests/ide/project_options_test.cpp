@@ -3,8 +3,8 @@
 #include <map>
 #include <memory>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
+#include "addon/mail/project_options.h"
 #include "doctest.h"
 
 namespace {
@@ -116,25 +116,6 @@ TEST_CASE("texts start behind their marker and end in time") {
   CHECK(store.stored("T") == std::string("~default\0", 9));
 }
 
-TEST_CASE("delivery groups without a type are skipped") {
-  Store store;
-  store.plantNumber("Kesto_NB_ODR", 3);
-  store.plantText("Kesto_ODR_TYP_0", "+.exe");
-  store.plantText("Kesto_ODR_REP_0", "+D:\\out");
-  store.plantText("Kesto_ODR_TYP_1", "+");
-  store.plantText("Kesto_ODR_REP_1", "+D:\\lost");
-  store.plantText("Kesto_ODR_TYP_2", "+.dll");
-  kesto::DeliveryProjectOptions options;
-  options.groups = {{"of another", "project"}};
-  options.readCount(store);
-  options.readGroups(store);
-  REQUIRE(options.groups.size() == 2);
-  CHECK(options.groups[0].directory == "D:\\out");
-  CHECK(options.groups[1].type == ".dll");
-  CHECK(options.groups[1].directory.empty());
-  CHECK(options.table_name == "Delivery");
-}
-
 TEST_CASE("recipients, and counts that no project has") {
   for (const int count : {-1, 0, 2000000000}) {
     Store store;
@@ -144,19 +125,19 @@ TEST_CASE("recipients, and counts that no project has") {
     store.plantText("Kesto_MAIL_PJ_10000", "+one too many");
     store.plantText("Kesto_ODR_TYP_9999", "+.exe");
     store.plantText("Kesto_ODR_TYP_10000", "+.dll");
-    kesto::MailProjectOptions mail;
-    mail.recipients = {"of another project"};
-    mail.read(store);
+    kesto::Ensemble<kesto::String> recipients;
+    recipients.append(new kesto::String("of another project"));
+    kesto::readRecipients(store, recipients);
     const std::size_t kept = count > 0 ? 1 : 0;
-    CHECK(mail.recipients.size() == kept);
+    CHECK(recipients.count() == static_cast<int>(kept));
     kesto::DeliveryProjectOptions delivery;
     delivery.readCount(store);
     delivery.readGroups(store);
-    CHECK(delivery.groups.size() == kept);
+    CHECK(delivery.groups.count() == static_cast<int>(kept));
   }
   Store uncounted;
   uncounted.plantText("Kesto_MAIL_PJ_0", "+anna");
-  kesto::MailProjectOptions mail;
-  mail.read(uncounted);
-  CHECK(mail.recipients.empty());
+  kesto::Ensemble<kesto::String> recipients;
+  kesto::readRecipients(uncounted, recipients);
+  CHECK(recipients.count() == 0);
 }

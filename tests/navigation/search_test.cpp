@@ -5,6 +5,7 @@
 #include "addon/foundation/directory_walk.h"
 #include "addon/foundation/path.h"
 #include "addon/foundation/tableau.h"
+#include "addon/ide/frame_title.h"
 #include "addon/navigation/cross_header.h"
 #include "addon/navigation/prompt_history.h"
 #include "addon/navigation/quick_resu.h"
@@ -234,8 +235,8 @@ TEST_CASE("the header of the references") {
   };
   for (const auto& c : cases) {
     CAPTURE(std::string(c.title));
-    CHECK(crossReferenceHeader(c.title, c.maximised, "Paint", "1/2/97", "3:04:05 PM", c.found) ==
-          c.expected);
+    CHECK(crossReferenceHeader(projectOfTitle(c.title, c.maximised), "Paint", "1/2/97",
+                               "3:04:05 PM", c.found) == c.expected);
   }
 }
 

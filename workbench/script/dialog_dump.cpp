@@ -59,6 +59,9 @@ void addComboBox(Event& item, HWND combo) {
 
 BOOL CALLBACK addControl(HWND control, LPARAM data) {
   const bool is_button = isClass(control, "Button");
+  RECT place = {};
+  GetWindowRect(control, &place);
+  MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
   Event item("");
   item.number("id", GetDlgCtrlID(control))
       .text("class", windowClass(control))
@@ -66,7 +69,11 @@ BOOL CALLBACK addControl(HWND control, LPARAM data) {
       .flag("checked", is_button && SendMessageA(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
       .flag("enabled", IsWindowEnabled(control) != 0)
       .flag("visible", IsWindowVisible(control) != 0)
-      .flag("focus", GetFocus() == control);
+      .flag("focus", GetFocus() == control)
+      .number("x", place.left)
+      .number("y", place.top)
+      .number("width", place.right - place.left)
+      .number("height", place.bottom - place.top);
   if (isClass(control, "ListBox")) {
     addListBox(item, control);
   } else if (isClass(control, "ComboBox")) {
@@ -85,7 +92,13 @@ StepResult dumpDialog(StepTry& step) {
   }
   std::vector<Event> items;
   EnumChildWindows(dialog, addControl, reinterpret_cast<LPARAM>(&items));
-  step.stage.log.emit(Event("controls").text("caption", windowText(dialog)).list("items", items));
+  RECT client = {};
+  GetClientRect(dialog, &client);
+  step.stage.log.emit(Event("controls")
+                          .text("caption", windowText(dialog))
+                          .number("width", client.right)
+                          .number("height", client.bottom)
+                          .list("items", items));
   return StepResult::kDone;
 }
 

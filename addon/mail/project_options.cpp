@@ -1,10 +1,9 @@
-#include "addon/delivery/mail_project_options.h"
+#include "addon/mail/project_options.h"
 
 #include <algorithm>
+#include <string>
 
 namespace kesto {
-
-MailProjectOptions mailProjectOptions;
 
 namespace {
 
@@ -13,7 +12,7 @@ constexpr char kRecipientStem[] = "Kesto_MAIL_PJ_";
 
 }  // namespace
 
-void MailProjectOptions::read(ProjectOptionStore& store) {
+void readRecipients(ProjectOptionStore& store, Ensemble<String>& recipients) {
   recipients.clear();
   int count = 0;
   readInteger(store, kCountName, count);
@@ -22,17 +21,16 @@ void MailProjectOptions::read(ProjectOptionStore& store) {
     std::string recipient;
     readText(store, entryOptionName(kRecipientStem, i).c_str(), recipient);
     if (!recipient.empty()) {
-      recipients.push_back(std::move(recipient));
+      recipients.append(new String(recipient));
     }
   }
 }
 
-void MailProjectOptions::write(ProjectOptionStore& store) const {
-  const int count = static_cast<int>(recipients.size());
-  writeInteger(store, kCountName, count);
-  for (int i = 0; i < count; ++i) {
+void writeRecipients(ProjectOptionStore& store, const Ensemble<String>& recipients) {
+  writeInteger(store, kCountName, recipients.count());
+  for (int i = 0; i < recipients.count(); ++i) {
     writeText(store, entryOptionName(kRecipientStem, i).c_str(), kEntryMarker,
-              recipients[static_cast<size_t>(i)]);
+              recipients[i]->text());
   }
 }
 

@@ -1,0 +1,145 @@
+#include "addon/ide/copy_files_win.h"
+
+#include <windows.h>
+
+#include <cstring>
+#include <new>
+#include <string>
+
+#include "addon/foundation/file_system_win.h"
+#include "addon/ide/open_file_name.h"
+
+namespace kesto {
+namespace {
+
+constexpr DWORD kNoAttributes = 0xFFFFFFFF;
+
+class OwnedFile {
+ public:
+  explicit OwnedFile(HANDLE file) : file_(file) {}
+  ~OwnedFile() { close(); }
+  OwnedFile(const OwnedFile&) = delete;
+  OwnedFile& operator=(const OwnedFile&) = delete;
+
+  HANDLE get() const { return file_; }
+  bool close() {
+    const HANDLE file = file_;
+    file_ = INVALID_HANDLE_VALUE;
+    return file != INVALID_HANDLE_VALUE && CloseHandle(file) != FALSE;
+  }
+
+ private:
+  HANDLE file_;
+};
+
+class SourceWin : public CopySource {
+ public:
+  explicit SourceWin(HANDLE file) : file_(file) {}
+
+  std::uint64_t size() const override {
+    DWORD high = 0;
+    const DWORD low = GetFileSize(file_.get(), &high);
+    return static_cast<std::uint64_t>(high) << 32 | low;
+  }
+  std::int64_t modified() const override {
+    FILETIME time = {};
+    GetFileTime(file_.get(), nullptr, nullptr, &time);
+    std::int64_t modified = 0;
+    memcpy(&modified, &time, sizeof modified);
+    return modified;
+  }
+  long read(char* bytes, std::size_t size) override {
+    DWORD given = 0;
+    return ReadFile(file_.get(), bytes, static_cast<DWORD>(size), &given, nullptr) != FALSE
+               ? static_cast<long>(given)
+               : -1;
+  }
+
+ private:
+  OwnedFile file_;
+};
+
+class TargetWin : public CopyTarget {
+ public:
+  TargetWin(HANDLE file, const char* path) : file_(file), path_(path) {}
+
+  bool write(const char* bytes, std::size_t size) override {
+    DWORD written = 0;
+    return WriteFile(file_.get(), bytes, static_cast<DWORD>(size), &written, nullptr) != FALSE &&
+           written == size;
+  }
+  void setModified(std::int64_t modified) override {
+    FILETIME time = {};
+    static_assert(sizeof time == sizeof modified);
+    memcpy(&time, &modified, sizeof time);
+    SetFileTime(file_.get(), nullptr, nullptr, &time);
+  }
+  bool rename(const char* new_path) override {
+    const bool renamed = renameOpenFile(file_.get(), new_path, false);
+    file_.close();
+    return renamed || MoveFileA(path_.c_str(), new_path) != FALSE;
+  }
+  bool replace(const char* new_path) override {
+    const bool renamed = renameOpenFile(file_.get(), new_path, true);
+    file_.close();
+    FileSystemWin files;
+    return renamed || files.replace(path_.c_str(), new_path);
+  }
+
+ private:
+  OwnedFile file_;
+  std::string path_;
+};
+
+}  // namespace
+
+bool CopyFilesWin::exists(const char* path) {
+  return GetFileAttributesA(path) != kNoAttributes;
+}
+
+std::optional<std::uint64_t> CopyFilesWin::size(const char* path) {
+  // A search would take these for any characters.
+  if (strpbrk(path, "*?") != nullptr) {
+    return std::nullopt;
+  }
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA(path, &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return std::nullopt;
+  }
+  FindClose(search);
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    return 0;
+  }
+  return static_cast<std::uint64_t>(found.nFileSizeHigh) << 32 | found.nFileSizeLow;
+}
+
+std::unique_ptr<CopySource> CopyFilesWin::open(const char* path) {
+  const HANDLE file = CreateFileA(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+  return std::unique_ptr<CopySource>(
+      file != INVALID_HANDLE_VALUE ? new (std::nothrow) SourceWin(file) : nullptr);
+}
+
+CopyPlace CopyFilesWin::place(const char* path) {
+  const DWORD attributes = GetFileAttributesA(path);
+  if (attributes == kNoAttributes) {
+    return CopyPlace::kVacant;
+  }
+  return (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0
+             ? CopyPlace::kFile
+             : CopyPlace::kTaken;
+}
+
+std::unique_ptr<CopyTarget> CopyFilesWin::create(const char* path) {
+  const HANDLE file = CreateFileA(path, GENERIC_WRITE | renamingAccess(), 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  return std::unique_ptr<CopyTarget>(
+      file != INVALID_HANDLE_VALUE ? new (std::nothrow) TargetWin(file, path) : nullptr);
+}
+
+void CopyFilesWin::remove(const char* path) {
+  DeleteFileA(path);
+}
+
+}  // namespace kesto

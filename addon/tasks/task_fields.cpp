@@ -1,0 +1,185 @@
+// The task list's controls: its list of rows and its edit area.
+#include <algorithm>
+#include <string>
+
+#include "addon/tasks/task_dialog.h"
+#include "addon/tasks/task_ids.h"
+
+namespace kesto {
+
+namespace {
+
+constexpr const char* kOrders[] = {"by state", "by start date", "by end date", "by priority",
+                                   "by type"};
+static_assert(std::size(kOrders) == kTaskOrders);
+constexpr const char* kCounts[kTaskStates] = {"to &Do : %d", "&Coded : %d", "&Tested : %d",
+                                              "&Ended: %d"};
+// All that belongs to the task that is selected.
+constexpr int kTaskControls[] = {TASKS_REMOVE, TASKS_NAME,  TASKS_TYPE, TASKS_STATE, TASKS_PRIORITY,
+                                 TASKS_PUBLIC, TASKS_START, TASKS_END,  TASKS_TEXT,  TASKS_OK};
+constexpr int kDigits = 10;
+constexpr int kRowBytes = 64;  // that a row takes, about
+
+void addTo(HWND dialog, int combo, const char* text) {
+  SendDlgItemMessageA(dialog, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void limit(HWND dialog, int id, int characters) {
+  SendDlgItemMessageA(dialog, id, id == TASKS_TYPE ? CB_LIMITTEXT : EM_LIMITTEXT,
+                      static_cast<WPARAM>(characters), 0);
+}
+
+void limitFields(HWND dialog) {
+  for (const int id : {TASKS_NAME, TASKS_TYPE}) {
+    limit(dialog, id, kTaskNameLimit);
+  }
+  for (const int id : {TASKS_START, TASKS_END}) {
+    limit(dialog, id, kDateTextLimit);
+  }
+  limit(dialog, TASKS_PRIORITY, kDigits);
+  limit(dialog, TASKS_TEXT, kTaskTextLimit);
+}
+
+std::string textOf(HWND dialog, int id) {
+  const HWND control = GetDlgItem(dialog, id);
+  std::string text(static_cast<size_t>(GetWindowTextLengthA(control)) + 1, '\0');
+  text.resize(
+      static_cast<size_t>(GetWindowTextA(control, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+// The keyboard would be lost in a control that is switched off.
+void switchControls(HWND dialog, bool enabled) {
+  const HWND focus = GetFocus();
+  for (const int id : kTaskControls) {
+    const HWND control = GetDlgItem(dialog, id);
+    if (!enabled && (focus == control || (focus != nullptr && IsChild(control, focus)))) {
+      SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, TASKS_LIST)),
+                   TRUE);
+    }
+    EnableWindow(control, enabled);
+  }
+}
+
+}  // namespace
+
+void TaskDialog::fill(HWND dialog) {
+  limitFields(dialog);
+  for (int state = 0; state < kTaskStates; ++state) {
+    CheckDlgButton(dialog, TASKS_SHOW_FIRST + state,
+                   tasks_.show[state] != 0 ? BST_CHECKED : BST_UNCHECKED);
+    addTo(dialog, TASKS_STATE, taskStateWord(state));
+  }
+  CheckDlgButton(dialog, TASKS_REVERSE, tasks_.reverse != 0 ? BST_CHECKED : BST_UNCHECKED);
+  for (const char* order : kOrders) {
+    addTo(dialog, TASKS_ORDER, order);
+  }
+  SendDlgItemMessageA(dialog, TASKS_ORDER, CB_SETCURSEL, static_cast<WPARAM>(tasks_.order), 0);
+  for (int i = 0; i < tasks_.types.count(); ++i) {
+    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
+  }
+  columns_.setUp(dialog, dates_);
+  refresh(dialog);
+  selectRow(dialog, tasks_.view().count() > 0 ? 0 : -1, true);
+  modified_ = false;
+}
+
+void TaskDialog::showCounts(HWND dialog) const {
+  int counts[kTaskStates] = {};
+  for (int i = 0; i < tasks_.count(); ++i) {
+    ++counts[tasks_.at(i)->state];
+  }
+  for (int state = 0; state < kTaskStates; ++state) {
+    char caption[40] = "";
+    wsprintfA(caption, kCounts[state], counts[state]);
+    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
+  }
+}
+
+Task* TaskDialog::taskAt(int row) const {
+  return row >= 0 && row < tasks_.view().count() ? tasks_.view()[row] : nullptr;
+}
+
+void TaskDialog::refresh(HWND dialog) {
+  const HWND list = GetDlgItem(dialog, TASKS_LIST);
+  const Tableau<Task>& view = tasks_.view();
+  SendMessageA(list, WM_SETREDRAW, FALSE, 0);
+  SendMessageA(list, LB_RESETCONTENT, 0, 0);
+  SendMessageA(list, LB_INITSTORAGE, static_cast<WPARAM>(view.count()), view.count() * kRowBytes);
+  // Straight to the list: message hooks would look at each of thousands of rows.
+  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
+  std::string row;
+  int extent = 0;
+  for (int i = 0; i < view.count(); ++i) {
+    row.clear();
+    view[i]->appendRow(row, dates_);
+    CallWindowProcA(procedure, list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
+    extent = std::max(extent, columns_.extentOf(row));
+  }
+  SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+  SendMessageA(list, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(list, nullptr, TRUE);
+  showCounts(dialog);
+}
+
+// After a change: the task stays selected while it is in view, else the first is.
+void TaskDialog::refreshAndKeep(HWND dialog, const Task* task) {
+  tasks_.rebuildView();
+  refresh(dialog);
+  const int row = task != nullptr ? tasks_.view().indexOf(task) : kErrTab;
+  selectRow(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
+}
+
+void TaskDialog::selectRow(HWND dialog, int row, bool force) {
+  SendDlgItemMessageA(dialog, TASKS_LIST, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+  show(dialog, row);
+  enable(dialog, row, force);
+}
+
+void TaskDialog::show(HWND dialog, int row) {
+  if (const Task* task = taskAt(row)) {
+    put(dialog, formOf(*task, dates_));
+  }
+}
+
+void TaskDialog::put(HWND dialog, const TaskForm& form) {
+  SetDlgItemTextA(dialog, TASKS_NAME, form.name.c_str());
+  SetDlgItemTextA(dialog, TASKS_TYPE, form.type.c_str());
+  SendDlgItemMessageA(dialog, TASKS_STATE, CB_SETCURSEL, static_cast<WPARAM>(form.state), 0);
+  SetDlgItemInt(dialog, TASKS_PRIORITY, form.priority, FALSE);
+  CheckDlgButton(dialog, TASKS_PUBLIC, form.is_public ? BST_CHECKED : BST_UNCHECKED);
+  SetDlgItemTextA(dialog, TASKS_START, form.start.c_str());
+  SetDlgItemTextA(dialog, TASKS_END, form.end.c_str());
+  SetDlgItemTextA(dialog, TASKS_TEXT, form.text.c_str());
+  // A field may hold a text otherwise than it was given.
+  shown_ = fieldsOf(dialog);
+}
+
+TaskForm fieldsOf(HWND dialog) {
+  TaskForm form;
+  form.name = textOf(dialog, TASKS_NAME);
+  form.type = textOf(dialog, TASKS_TYPE);
+  form.start = textOf(dialog, TASKS_START);
+  form.end = textOf(dialog, TASKS_END);
+  form.text = textOf(dialog, TASKS_TEXT);
+  form.state = static_cast<int>(SendDlgItemMessageA(dialog, TASKS_STATE, CB_GETCURSEL, 0, 0));
+  form.priority = GetDlgItemInt(dialog, TASKS_PRIORITY, nullptr, FALSE);
+  form.is_public = IsDlgButtonChecked(dialog, TASKS_PUBLIC) == BST_CHECKED;
+  return form;
+}
+
+void TaskDialog::enable(HWND dialog, int row, bool force) {
+  const Task* task = taskAt(row);
+  const bool read_only =
+      tasks_.settings.ended_read_only != 0 && task != nullptr && task->state == kEnded;
+  const bool enabled = tasks_.view().count() > 0 && !read_only;
+  if (force || enabled != enabled_) {
+    enabled_ = enabled;
+    switchControls(dialog, enabled);
+  }
+  if (tasks_.view().count() == 0) {
+    put(dialog, {});
+  }
+}
+
+}  // namespace kesto

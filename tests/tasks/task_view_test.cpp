@@ -1,0 +1,172 @@
+// The view of a task list, the rows of its tasks, the types, and the report of a day.
+#include <climits>
+#include <string>
+
+#include "addon/tasks/task_list.h"
+#include "doctest.h"
+#include "tests/foundation/played_disk.h"
+#include "tests/tasks/played_days.h"
+
+namespace kesto {
+
+namespace {
+
+// A lower or a higher value of what the letter stands for.
+void set(Task& task, char key, bool high) {
+  switch (key) {
+    case 's':
+      task.state = high ? kEnded : kTested;
+      break;
+    case 'b':
+      task.start = high ? day(1996, 1, 1) : day(1995, 12, 31);
+      break;
+    case 'e':
+      task.end = high ? day(1996, 2, 1) : day(1996, 1, 31);
+      break;
+    case 'p':
+      task.priority = high ? 1 : INT_MIN;
+      break;
+    case 't':
+      task.type = high ? "\xE9" : "z";
+      break;
+    default:
+      task.name = high ? "a" : "B";
+      break;
+  }
+}
+
+std::string report(TaskList& list, const TaskDate& today, int due) {
+  String out;
+  CHECK(list.todayReport(out, today, DottedDays()) == due);
+  return std::string(out.view());
+}
+
+}  // namespace
+
+TEST_CASE("each order compares its keys one after the other") {
+  const std::string orders[kTaskOrders] = {"sbeptn", "bseptn", "esbptn", "psbetn", "tsbepn"};
+  for (int order = 0; order < kTaskOrders; ++order) {
+    for (std::size_t deciding = 0; deciding < 6; ++deciding) {
+      PlayedDisk disk;
+      TaskList list(disk);
+      auto* const later = new Task(TaskDate{});
+      auto* const sooner = new Task(TaskDate{});
+      list.append(later);
+      list.append(sooner);
+      const std::string& keys = orders[static_cast<std::size_t>(order)];
+      for (std::size_t i = 0; i < 6; ++i) {
+        set(*sooner, keys[i], i > deciding);
+        set(*later, keys[i], i == deciding);
+      }
+      list.order = order;
+      list.rebuildView();
+      CAPTURE(keys[deciding]);
+      CHECK(list.view()[0] == sooner);
+      list.reverse = 2;
+      list.rebuildView();
+      CHECK(list.view()[0] == later);
+    }
+  }
+}
+
+TEST_CASE("the view has the tasks of the shown states, and loses one that is removed") {
+  PlayedDisk disk;
+  TaskList list(disk);
+  for (const int state : {kToDo, kEnded, kCoded, kEnded}) {
+    list.append(new Task(TaskDate{}));
+    list[list.count() - 1]->state = state;
+  }
+  list.show[kToDo] = 0;
+  list.show[kCoded] = 5;
+  list.order = 0;
+  list.rebuildView();
+  CHECK(list.view().count() == 3);
+  CHECK(list.view()[0] == list[2]);
+  list.removeTask(list[1]);
+  CHECK(list.view().count() == 2);
+  CHECK(list.count() == 3);
+  list.clear();
+  CHECK(list.view().count() == 0);
+}
+
+TEST_CASE("a row shows a public task's state in capitals") {
+  Task task(day(1996, 2, 29));
+  task.end = day(1996, 3, 1);
+  task.state = kTested;
+  task.priority = -3;
+  String row("> ");
+  task.appendRow(row, DottedDays());
+  task.is_public = 8;
+  task.appendRow(row, DottedDays());
+  CHECK(row.view() ==
+        "> New task\tBug\ttested\t-3\t29.2.1996\t1.3.1996"
+        "New task\tBug\tTESTED\t-3\t29.2.1996\t1.3.1996");
+}
+
+TEST_CASE("the types stand in one text with semicolons, cut at 511 characters") {
+  PlayedDisk disk;
+  TaskList list(disk);
+  const std::string full(511, 'x');
+  for (const auto& [text, count, back] :
+       {std::tuple<std::string, int, std::string>{"a;b c;;d;", 4, "a;b c;;d"},
+        {"", 0, ""},
+        {";", 1, ""},
+        {full + ";more", 1, full}}) {
+    list.setTypes(text);
+    CHECK(list.types.count() == count);
+    CHECK(list.joinedTypes().view() == back);
+  }
+  list.types.append(new String("y"));
+  CHECK(list.joinedTypes().view() == full);
+}
+
+TEST_CASE("the report has what goes on today, whatever the year") {
+  PlayedDisk disk;
+  TaskList list(disk);
+  const auto add = [&](const char* name, int priority, TaskDate start, TaskDate end) {
+    list.append(new Task(start));
+    Task& task = *list[list.count() - 1];
+    task.name = name;
+    task.priority = priority;
+    task.end = end;
+    return &task;
+  };
+  CHECK(report(list, day(1996, 5, 15), 0) == "No task today !");
+  Task* const may = add("May", 1, day(1995, 5, 1), day(1995, 5, 31));
+  add("Turn", 2, day(1995, 12, 30), day(1996, 1, 2));
+  add("Day", 3, day(2030, 5, 15), day(2030, 5, 15));
+  may->text = "two\r\nlines";
+  may->is_public = 1;
+  list.order = 3;
+  list.reverse = 1;
+  list.show[kToDo] = 0;
+
+  const std::string rule = "\r\n" + std::string(58, '-') + "\r\n";
+  const std::string of_may = "May (1.5.1995 to 31.5.1995)\r\nType : Bug, Priority : 1, State : " +
+                             std::string("to do\r\ntwo\r\nlines") + rule;
+  const std::string of_day = "Day (15.5.2030 to 15.5.2030)\r\nType : Bug, Priority : 3, State : " +
+                             std::string("to do\r\nSomething to do") + rule;
+  const std::string end = "That's all folks !";
+  CHECK(report(list, day(1996, 5, 15), 1) == of_day + of_may + end);
+  CHECK(list.view().count() == 0);
+  CHECK(report(list, day(2000, 5, 1), 1) == of_may + end);
+  CHECK(report(list, day(1990, 5, 31), 1) == of_may + end);
+  for (const TaskDate& today :
+       {day(1995, 4, 30), day(1995, 6, 1), day(1995, 12, 31), day(1996, 1, 1), day(1995, 12, 30)}) {
+    CHECK(report(list, today, 0) == "No task today !");
+  }
+  may->state = kEnded;
+  CHECK(report(list, day(1995, 5, 2), 0) == "No task today !");
+  list.settings.flash[kEnded] = 1;
+  CHECK(report(list, day(1995, 5, 2), 1).find(", State : ended\r\n") != std::string::npos);
+
+  String out("Today: ");
+  CHECK(list.todayReport(out, day(1995, 6, 1), DottedDays()) == 1);
+  CHECK(out.view() == "Today: That's all folks !");
+  may->text = std::string_view(std::string(65535, 'x'));
+  out = "";
+  CHECK(list.todayReport(out, day(1995, 5, 2), DottedDays()) == 1);
+  CHECK(out.length() == 65535);
+}
+
+}  // namespace kesto
