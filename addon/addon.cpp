@@ -10,6 +10,8 @@
 #include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
+#include "addon/groupware/groupware_project.h"
+#include "addon/groupware/groupware_settings.h"
 #include "addon/groupware/quick_add_dialog.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
@@ -48,6 +50,9 @@ FileSystemWin fileSystem;
 
 class AddonMenuFeatures : public MenuFeatures {
  public:
+  bool groupwareActive() const override {
+    return groupwareSettings != nullptr && groupwareSettings->enabled();
+  }
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
   void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
@@ -160,7 +165,9 @@ void startAddon(IIde* ide) {
   create(mail);
   runOnOpenProject(readMailRecipients);
   createTasks();
+  create(groupwareSettings);
   create(htmlSettings);
+  create(groupwareProject, projectTestA != nullptr ? projectTestA->service() : nullptr);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
   PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);
@@ -190,8 +197,10 @@ void stopAddon() {
   destroy(statusLineServiceHolder);
   destroy(toolTable);
   destroyTasks();
+  destroy(groupwareSettings);
   destroy(documentationRun);
   destroy(htmlSettings);
+  destroy(groupwareProject);
   DestroyWindow(barWindow);
   barWindow = nullptr;
   if (projectTestA != nullptr) {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "addon/foundation/directory_lister.h"
 
@@ -25,18 +25,20 @@ struct FileFacts {
   bool operator==(const FileFacts&) const = default;
 };
 
-struct ListedFile {
-  DirectoryEntries::Kind kind;
-  std::string name;
-  std::string short_name;  // empty when there is none besides the name
-  FileFacts facts;
+// Takes what a folder holds.
+class FileListener {
+ public:
+  virtual ~FileListener() = default;
+  // The short name is empty when there is none besides the name. Both live for the call.
+  virtual void add(DirectoryEntries::Kind kind, std::string_view name, std::string_view short_name,
+                   const FileFacts& facts) = 0;
 };
 
 class GroupFiles {
  public:
   virtual ~GroupFiles() = default;
-  // Adds what the system lists for "directory\mask" in its order, volume labels left out.
-  virtual void list(const char* directory, const char* mask, std::vector<ListedFile>& found) = 0;
+  // Tells what the system lists for "directory\mask" in its order, volume labels left out.
+  virtual void list(const char* directory, const char* mask, FileListener& listener) = 0;
   // Nothing when there is no such file, or it cannot be asked.
   virtual std::optional<FileFacts> facts(const char* path) = 0;
   virtual bool isDirectory(const char* path) = 0;

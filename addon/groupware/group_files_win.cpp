@@ -60,7 +60,7 @@ bool copyThen(const char* path, const char* new_path, const Put& put) {
 
 }  // namespace
 
-void GroupFilesWin::list(const char* directory, const char* mask, std::vector<ListedFile>& found) {
+void GroupFilesWin::list(const char* directory, const char* mask, FileListener& listener) {
   WIN32_FIND_DATAA data = {};
   const HANDLE search = FindFirstFileA(joinPath(directory, mask), &data);
   if (search == INVALID_HANDLE_VALUE) {
@@ -68,8 +68,8 @@ void GroupFilesWin::list(const char* directory, const char* mask, std::vector<Li
   }
   do {
     if ((data.dwFileAttributes & kVolumeLabel) == 0 && strchr(data.cFileName, '?') == nullptr) {
-      found.push_back(
-          {kindOf(data.dwFileAttributes), data.cFileName, data.cAlternateFileName, factsOf(data)});
+      listener.add(kindOf(data.dwFileAttributes), data.cFileName, data.cAlternateFileName,
+                   factsOf(data));
     }
   } while (FindNextFileA(search, &data) != FALSE);
   FindClose(search);

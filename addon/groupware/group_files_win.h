@@ -8,7 +8,7 @@ namespace kesto {
 class GroupFilesWin : public GroupFiles {
  public:
   // A file whose name the code page does not have is left out: no path leads to it.
-  void list(const char* directory, const char* mask, std::vector<ListedFile>& found) override;
+  void list(const char* directory, const char* mask, FileListener& listener) override;
   std::optional<FileFacts> facts(const char* path) override;
   bool isDirectory(const char* path) override;
   bool makeDirectory(const char* path) override;

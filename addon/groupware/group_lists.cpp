@@ -11,6 +11,10 @@ template <class T>
 int positionOf(const Tableau<T>& list, std::string_view path) {
   int first = 0;
   int last = list.count();
+  // Most come in their order.
+  if (last > 0 && list.at(last - 1)->path.view() < path) {
+    return last;
+  }
   while (first < last) {
     const int middle = first + (last - first) / 2;
     if (list.at(middle)->path.view() < path) {
@@ -28,10 +32,10 @@ class Filling : public GroupTree::Visitor {
   explicit Filling(Tableau<T>& list) : list_(list) {}
 
   // An element of the same path gives way.
-  void visit(const std::string& path, const FileFacts& facts,
+  void visit(const char* path, const FileFacts& facts,
              const std::optional<FileFacts>& other) override {
     const int position = positionOf(list_, path);
-    if (position < list_.count() && list_.at(position)->path == path.c_str()) {
+    if (position < list_.count() && list_.at(position)->path == path) {
       list_.removeAndDelete(position);
     }
     if (isListed(facts)) {

@@ -9,38 +9,17 @@ namespace kesto {
 
 namespace {
 
-std::string upper(std::string_view name) {
-  std::string text(name);
-  upperAscii(text.data());
-  return text;
+bool comesBefore(std::string_view left, std::string_view right) {
+  return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
+                                      [](char a, char b) { return upperAscii(a) < upperAscii(b); });
 }
 
-// Only the system knows the upper case of letters beyond z.
-bool isAscii(std::string_view name) {
-  return std::all_of(name.begin(), name.end(), [](char c) { return (c & '\x80') == 0; });
+// Whether only the system can tell if a file of the name is there: it knows the case of
+// letters beyond z, and short names.
+bool isForSystem(std::string_view name) {
+  return std::any_of(name.begin(), name.end(),
+                     [](char c) { return c == '~' || (c & '\x80') != 0; });
 }
-
-class ScanVisitor : public FileVisitor {
- public:
-  ScanVisitor(GroupTree& tree, std::string_view root, std::string_view other_root,
-              GroupTree::Visitor& visitor)
-      : tree_(tree), root_(root), other_root_(other_root), visitor_(visitor) {}
-
-  bool visit(const char* path) override {
-    const std::string_view whole(path);
-    if (const std::optional<FileFacts> facts = tree_.facts(whole)) {
-      const std::string other = pathBelow(other_root_, whole.substr(root_.size() + 1));
-      visitor_.visit(std::string(whole), *facts, tree_.facts(other));
-    }
-    return false;
-  }
-
- private:
-  GroupTree& tree_;
-  std::string_view root_;
-  std::string_view other_root_;
-  GroupTree::Visitor& visitor_;
-};
 
 }  // namespace
 
@@ -60,59 +39,139 @@ std::string pathBelow(std::string_view root, std::string_view name) {
   return path;
 }
 
+void FolderFacts::add(std::string_view name, const FileFacts& facts) {
+  entries_.push_back({names_.size(), name.size(), facts});
+  names_ += name;
+}
+
+void FolderFacts::sort() {
+  const auto before = [this](const Entry& left, const Entry& right) {
+    return comesBefore(nameOf(left), nameOf(right));
+  };
+  if (!std::is_sorted(entries_.begin(), entries_.end(), before)) {
+    std::sort(entries_.begin(), entries_.end(), before);
+  }
+}
+
+const FileFacts* FolderFacts::find(std::string_view name) {
+  const auto is_name = [&](std::size_t at) {
+    return at < entries_.size() && equalIgnoringCase(nameOf(entries_[at]), name);
+  };
+  if (!is_name(next_)) {
+    const auto found = std::lower_bound(entries_.begin(), entries_.end(), name,
+                                        [this](const Entry& entry, std::string_view wanted) {
+                                          return comesBefore(nameOf(entry), wanted);
+                                        });
+    next_ = static_cast<std::size_t>(found - entries_.begin());
+  }
+  return is_name(next_) ? &entries_[next_++].facts : nullptr;
+}
+
+// Files come a folder at a time.
+class GroupTree::Scan : public FileVisitor {
+ public:
+  Scan(GroupTree& tree, Visitor& visitor) : tree_(tree), visitor_(visitor) {}
+
+  bool visit(const char* path) override {
+    const std::string_view whole(path);
+    const std::size_t end = whole.rfind('\\');
+    const std::string_view name = whole.substr(end + 1);
+    enter(whole.substr(0, end));
+    const std::optional<FileFacts> facts = ask(*own_, directory_, name);
+    if (facts) {
+      visitor_.visit(path, *facts, ask(*other_, other_directory_, name));
+    }
+    return false;
+  }
+
+ private:
+  void enter(std::string_view directory) {
+    if (own_ != nullptr && directory == directory_) {
+      return;
+    }
+    directory_ = directory;
+    other_directory_ = tree_.other_root_;
+    other_directory_ += directory.substr(tree_.root_.size());
+    own_ = &tree_.factsIn(directory_);
+    other_ = &tree_.factsIn(other_directory_);
+  }
+  std::optional<FileFacts> ask(FolderFacts& folder, const std::string& directory,
+                               std::string_view name) {
+    if (const FileFacts* facts = folder.find(name)) {
+      return *facts;
+    }
+    return isForSystem(name) ? tree_.files_.facts(pathBelow(directory, name).c_str())
+                             : std::nullopt;
+  }
+
+  GroupTree& tree_;
+  Visitor& visitor_;
+  // Those of the file visited last.
+  std::string directory_;
+  std::string other_directory_;
+  FolderFacts* own_ = nullptr;
+  FolderFacts* other_ = nullptr;
+};
+
 void GroupTree::scan(std::string_view filters, Visitor& visitor, WalkWatch* watch) {
   Folders folders(*this, watch);
-  ScanVisitor scanning(*this, root_, other_root_, visitor);
+  Scan scan(*this, visitor);
   while (!filters.empty()) {
     std::string_view mask;
-    if (nextListEntry(filters, mask) && walkDirectory(folders, root_, mask, true, scanning)) {
+    if (nextListEntry(filters, mask) && walkDirectory(folders, root_, mask, true, scan)) {
       return;
     }
   }
 }
 
+// What a folder holds, for those who walk and for those who ask for facts.
+class GroupTree::Listener : public FileListener {
+ public:
+  Listener(const GroupTree& tree, std::string_view directory, FolderFacts* facts,
+           DirectoryEntries* entries)
+      : tree_(tree), directory_(directory), facts_(facts), entries_(entries) {}
+
+  void add(DirectoryEntries::Kind kind, std::string_view name, std::string_view short_name,
+           const FileFacts& facts) override {
+    if (facts_ != nullptr) {
+      facts_->add(name, facts);
+    }
+    const bool is_file = kind == DirectoryEntries::Kind::kFile;
+    if (entries_ != nullptr &&
+        (is_file || !equalIgnoringCase(pathBelow(directory_, name), tree_.other_root_))) {
+      entries_->add(kind, name, short_name);
+    }
+  }
+
+ private:
+  const GroupTree& tree_;
+  std::string_view directory_;
+  FolderFacts* facts_;
+  DirectoryEntries* entries_;
+};
+
 void GroupTree::list(const char* directory, const char* mask, DirectoryEntries& entries) {
-  if (mask == std::string_view("*")) {
-    listingOf(directory, &entries);
-    return;
-  }
-  std::vector<ListedFile> found;
-  files_.list(directory, mask, found);
-  for (const ListedFile& file : found) {
-    entries.add(file.kind, file.name, file.short_name);
+  FolderFacts facts;
+  const bool whole = mask == std::string_view("*");
+  Listener listener(*this, directory, whole ? &facts : nullptr, &entries);
+  files_.list(directory, mask, listener);
+  if (whole) {
+    facts.sort();
+    folders_.insert_or_assign(directory, std::move(facts));
   }
 }
 
-std::optional<FileFacts> GroupTree::facts(std::string_view path) {
-  const std::string_view name = fileNamePart(path);
-  const Listing& listing = listingOf(directoryPart(path), nullptr);
-  const auto found = listing.find(upper(name));
-  if (found != listing.end()) {
-    return found->second;
-  }
-  return isAscii(name) ? std::nullopt : files_.facts(std::string(path).c_str());
-}
-
-// The walk asks for the entries of a folder once, and before anybody asks for facts of it;
-// the other tree's folders are asked for facts alone.
-GroupTree::Listing& GroupTree::listingOf(std::string_view directory, DirectoryEntries* entries) {
-  const auto known = listings_.find(directory);
-  if (known != listings_.end() && entries == nullptr) {
+// Folders of the walked tree are listed by the walk.
+FolderFacts& GroupTree::factsIn(std::string_view directory) {
+  const auto known = folders_.find(directory);
+  if (known != folders_.end()) {
     return known->second;
   }
-  std::vector<ListedFile> found;
-  files_.list(std::string(directory).c_str(), "*", found);
-  Listing listing;
-  for (const ListedFile& file : found) {
-    listing[upper(file.name)] = file.facts;
-    if (!file.short_name.empty()) {
-      listing.emplace(upper(file.short_name), file.facts);
-    }
-    if (entries != nullptr && !equalIgnoringCase(pathBelow(directory, file.name), other_root_)) {
-      entries->add(file.kind, file.name, file.short_name);
-    }
-  }
-  return listings_[std::string(directory)] = std::move(listing);
+  FolderFacts facts;
+  Listener listener(*this, directory, &facts, nullptr);
+  files_.list(std::string(directory).c_str(), "*", listener);
+  facts.sort();
+  return folders_.emplace(directory, std::move(facts)).first->second;
 }
 
 }  // namespace kesto

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "addon/foundation/folders.h"
 #include "addon/groupware/group_files.h"
@@ -23,13 +24,38 @@ std::string rootOf(std::string_view directory);
 // The path of a name below a root.
 std::string pathBelow(std::string_view root, std::string_view name);
 
+// The facts of what one folder holds, by names; the letters a to z fit in either case.
+class FolderFacts {
+ public:
+  void add(std::string_view name, const FileFacts& facts);
+  // To be called after the last one was added. Of two names that differ in case alone, as
+  // some systems have them, one counts.
+  void sort();
+  // Found at once where names are asked for in their order.
+  const FileFacts* find(std::string_view name);
+
+ private:
+  struct Entry {
+    std::size_t name;  // where it begins
+    std::size_t length;
+    FileFacts facts;
+  };
+  std::string_view nameOf(const Entry& entry) const {
+    return std::string_view(names_).substr(entry.name, entry.length);
+  }
+
+  std::string names_;
+  std::vector<Entry> entries_;
+  std::size_t next_ = 0;  // behind the one that was found last
+};
+
 class GroupTree : public DirectoryLister {
  public:
-  // A file below the root, with the facts of its other copy.
   class Visitor {
    public:
     virtual ~Visitor() = default;
-    virtual void visit(const std::string& path, const FileFacts& facts,
+    // A file below the root, and its copy below the other.
+    virtual void visit(const char* path, const FileFacts& facts,
                        const std::optional<FileFacts>& other) = 0;
   };
 
@@ -44,17 +70,17 @@ class GroupTree : public DirectoryLister {
   void scan(std::string_view filters, Visitor& visitor, WalkWatch* watch);
 
   void list(const char* directory, const char* mask, DirectoryEntries& entries) override;
-  // By the listing of the file's folder; the letters a to z fit in either case.
-  std::optional<FileFacts> facts(std::string_view path);
 
  private:
-  using Listing = std::map<std::string, FileFacts, std::less<>>;  // by names in upper case
-  Listing& listingOf(std::string_view directory, DirectoryEntries* entries);
+  class Scan;
+  class Listener;
+
+  FolderFacts& factsIn(std::string_view directory);
 
   GroupFiles& files_;
   std::string root_;
   std::string other_root_;
-  std::map<std::string, Listing, std::less<>> listings_;  // by directory
+  std::map<std::string, FolderFacts, std::less<>> folders_;  // by directory
 };
 
 }  // namespace kesto

@@ -124,22 +124,26 @@ TEST_CASE("what a scan finds") {
   CHECK(files.listings == 3 + 2);
 }
 
-TEST_CASE("the letters of a name fit in either case, and its short form as well") {
-  class ShortNames : public PlayedGroup {
+TEST_CASE("the letters of a name fit in either case, and the system knows the rest") {
+  class Asked : public PlayedGroup {
    public:
-    void list(const char* directory, const char* mask, std::vector<ListedFile>& found) override {
-      PlayedGroup::list(directory, mask, found);
-      for (ListedFile& file : found) {
-        file.short_name = file.name == "longnamed.cpp" ? "LONGNA~1.CPP" : "";
-      }
+    std::string asked;
+    std::optional<FileFacts> facts(const char* path) override {
+      asked += std::string(path) + '\n';
+      return PlayedGroup::facts(path);
     }
   };
-  ShortNames files;
+  Asked files;
   files.put("P\\Main.CPP", "", 1);
-  files.put("P\\longna~1.cpp", "", 1);
+  files.put("P\\\xE9t\xE9.h", "", 1);
+  files.put("P\\short~1.h", "", 1);
+  files.put("P\\main2.h", "", 1);
   files.put("S\\main.cpp", "", 1, false);
-  files.put("S\\longnamed.cpp", "", 2, false);
-  CHECK(sendRows(files) == "Main.CPP/Same/ \nlongna~1.cpp/Newer/ \n");
+  files.put("S\\\xC9t\xE9.h", "", 2, false);
+  CHECK(sendRows(files) ==
+        "Main.CPP/Same/ \nmain2.h/NEW!/ \nshort~1.h/NEW!/ \n\xE9t\xE9.h/NEW!/ \n");
+  // It may be another name of a file that is listed under its long one.
+  CHECK(files.asked == "S\\short~1.h\nS\\\xE9t\xE9.h\n");
 }
 
 TEST_CASE("one tree within the other is not entered") {

@@ -42,19 +42,19 @@ class PlayedGroup : public GroupFiles {
     return found == files.end() ? "" : found->second.text + (found->second.writable ? " w" : " r");
   }
 
-  void list(const char* directory, const char* mask, std::vector<ListedFile>& found) override {
+  void list(const char* directory, const char* mask, FileListener& listener) override {
     ++listings;
     listed.insert(std::string(directory) + '|' + mask);
     for (const std::string& path : directories) {
       const std::string name = nameIn(directory, path);
       if (!name.empty()) {
-        found.push_back({DirectoryEntries::Kind::kDirectory, name, "", {0, 0, true}});
+        listener.add(DirectoryEntries::Kind::kDirectory, name, "", {0, 0, true});
       }
     }
     for (const auto& [path, file] : files) {
       const std::string name = nameIn(directory, path);
       if (!name.empty()) {
-        found.push_back({DirectoryEntries::Kind::kFile, name, "", factsOf(file)});
+        listener.add(DirectoryEntries::Kind::kFile, name, "", factsOf(file));
       }
     }
   }

@@ -66,7 +66,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kSaveProject, kWithout, "save-project", 0, 0, "save-project"},
     {Verb::kScreenshot, kHeldUp, "screenshot", 1, 1, "screenshot FILE.bmp"},
     {Verb::kSelect, kWithout, "select", 4, 4, "select LINE COL LINE COL"},
-    {Verb::kSelectItem, kWithout, "select-item", 2, 2, "select-item ID INDEX"},
+    {Verb::kSelectItem, kWithout, "select-item", 2, 3, "select-item ID INDEX [off]"},
     {Verb::kSet, kWithout, "set", 2, 2, "set ID TEXT"},
     {Verb::kTick, kWithout, "tick", 1, 1, "tick N"},
     {Verb::kType, kWithout, "type", 1, 1, "type TEXT"},
