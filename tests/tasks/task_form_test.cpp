@@ -3,7 +3,7 @@
 #include <string>
 
 #include "addon/tasks/known_dates.h"
-#include "addon/tasks/row_extent.h"
+#include "addon/ide/row_extent.h"
 #include "addon/tasks/task_form.h"
 #include "doctest.h"
 #include "tests/tasks/played_days.h"
