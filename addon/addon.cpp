@@ -29,6 +29,7 @@
 #include "addon/navigation/quick_find.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
+#include "addon/tasks/notifications.h"
 #include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/tasks/task_list.h"
@@ -57,6 +58,13 @@ class AddonMenuFeatures : public MenuFeatures {
   void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
 AddonMenuFeatures menuFeatures;
+
+// Only where the end of a task is told to others, and not at once.
+std::string pendingNotifications(const std::string& project_file) {
+  const bool with_delivery = taskList != nullptr && taskList->settings.mail_on != 0 &&
+                             taskList->settings.key_is_delivery != 0;
+  return with_delivery ? notificationPath(project_file).text() : "";
+}
 
 // A slot that memory was too short for stays null, and the start goes on.
 template <class T, class... Arguments>
@@ -140,6 +148,7 @@ void startAddon(IIde* ide) {
   create(generalBehaviours);
   create(rcGenerator);
   create(delivery);
+  notificationsToMail = pendingNotifications;
   create(editorServiceHolder);
   create(statusLineServiceHolder);
   create(toolTable);

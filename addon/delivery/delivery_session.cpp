@@ -20,6 +20,7 @@
 #include "addon/ide/progress_bar.h"
 #include "addon/ide/report_header.h"
 #include "addon/ide/status_line.h"
+#include "addon/ide/wait_cursor.h"
 #include "addon/mail/mail.h"
 
 namespace kesto {
@@ -28,15 +29,6 @@ namespace {
 constexpr char kErrorCaption[] = "Kesto AddOn error";
 constexpr char kNothing[] = "No files to deliver !";
 constexpr int kRowMargin = 4;  // pixels
-
-// The arrow again at its end.
-class WaitCursor {
- public:
-  WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_WAIT)); }
-  ~WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_ARROW)); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 class PaintsMeanwhile : public CompareWatch {
  public:
@@ -82,6 +74,10 @@ class Session {
 };
 
 void Session::run() {
+  // Directories may be meant from the project's on, wherever dialogs have led since.
+  if (isProjectOpen()) {
+    SetCurrentDirectoryA((projectDirectory() + '\\').c_str());
+  }
   const DeliveryNodes nodes = rebuildDeliveryGroups();
   for (int i = 0; i < deliveryProjectOptions.groups.count(); ++i) {
     groups_.append(std::make_unique<OneDelRep>(*deliveryProjectOptions.groups[i]).release());

@@ -43,6 +43,13 @@ class ToldFiles : public GroupFilesWin {
   std::uint64_t size_ = 0;
 };
 
+// Straight to the list's procedure: the hooks of the thread look at every message that is
+// sent, and of thousands that is felt.
+LRESULT tell(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
+  return CallWindowProcA(procedure, list, message, wParam, lParam);
+}
+
 std::string userName() {
   char name[kUserName] = "";
   DWORD size = sizeof name;
@@ -173,19 +180,19 @@ std::vector<std::string> GroupDialog::rowTexts() const {
 
 void GroupDialog::showRows() {
   const Enabling rewriting(list_);
-  SendMessageA(list_, LB_RESETCONTENT, 0, 0);
+  tell(list_, LB_RESETCONTENT, 0, 0);
   int extent = 0;
   for (const std::string& row : rowTexts()) {
-    SendMessageA(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
+    tell(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
     extent = std::max(extent, columns_.extentOf(row));
   }
-  SendMessageA(list_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+  tell(list_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
 }
 
 std::vector<int> GroupDialog::selectedRows() const {
-  const LRESULT count = SendMessageA(list_, LB_GETSELCOUNT, 0, 0);
+  const LRESULT count = tell(list_, LB_GETSELCOUNT, 0, 0);
   std::vector<int> rows(static_cast<std::size_t>(std::max<LRESULT>(count, 0)));
-  SendMessageA(list_, LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data()));
+  tell(list_, LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data()));
   return rows;
 }
 
@@ -196,31 +203,31 @@ void GroupDialog::press(int button) {
   if (!exchange_.press(button, selected)) {
     return;
   }
-  const LRESULT top = SendMessageA(list_, LB_GETTOPINDEX, 0, 0);
-  const LRESULT caret = SendMessageA(list_, LB_GETCARETINDEX, 0, 0);
+  const LRESULT top = tell(list_, LB_GETTOPINDEX, 0, 0);
+  const LRESULT caret = tell(list_, LB_GETCARETINDEX, 0, 0);
   const Enabling rewriting(list_);
   const std::vector<std::string> after = rowTexts();
   for (std::size_t row = 0; row < after.size(); ++row) {
     if (after[row] != before[row]) {
-      SendMessageA(list_, LB_DELETESTRING, row, 0);
-      SendMessageA(list_, LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(after[row].c_str()));
+      tell(list_, LB_DELETESTRING, row, 0);
+      tell(list_, LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(after[row].c_str()));
     }
   }
   for (const int row : selected) {
-    SendMessageA(list_, LB_SETSEL, TRUE, row);
+    tell(list_, LB_SETSEL, TRUE, row);
   }
-  SendMessageA(list_, LB_SETCARETINDEX, static_cast<WPARAM>(caret), FALSE);
-  SendMessageA(list_, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+  tell(list_, LB_SETCARETINDEX, static_cast<WPARAM>(caret), FALSE);
+  tell(list_, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
 }
 
 std::vector<int> GroupDialog::selectChosen() {
   std::vector<int> rows;
   const Enabling rewriting(list_);
-  SendMessageA(list_, LB_SETSEL, FALSE, -1);
+  tell(list_, LB_SETSEL, FALSE, -1);
   for (int i = 0; i < exchange_.count(); ++i) {
     if (exchange_.at(i).chosen()) {
       rows.push_back(i);
-      SendMessageA(list_, LB_SETSEL, TRUE, i);
+      tell(list_, LB_SETSEL, TRUE, i);
     }
   }
   return rows;
@@ -256,7 +263,8 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
   for (const int row : rows) {
     files.expect(exchange_.at(row).size);
     exchange_.transfer(row, transfer);
-    if (files.abandoned()) {
+    // The box of a copy that failed may have seen the session end.
+    if (files.abandoned() || groupwareProject == nullptr) {
       break;
     }
   }

@@ -21,17 +21,17 @@ class CopySource {
   virtual long read(char* bytes, std::size_t size) = 0;
 };
 
-// A file that grows. What is not put anywhere stays where it was created.
+// A file that grows beside the path it is meant for, and is removed unless it is put there.
 class CopyTarget {
  public:
   virtual ~CopyTarget() = default;
   virtual bool write(const char* bytes, std::size_t size) = 0;
   // The last thing that is written is its time.
   virtual void setModified(std::int64_t modified) = 0;
-  // Both close the file and give it that name. One fails when anything is there; the other
-  // puts the file in its place, unless that may not be written.
-  virtual bool rename(const char* new_path) = 0;
-  virtual bool replace(const char* new_path) = 0;
+  // Where nothing stands, and in the place of a file. Both close the file, and may be tried
+  // one after the other.
+  virtual bool put() = 0;
+  virtual bool replace() = 0;
 };
 
 // What stands where a file is to go.
@@ -51,9 +51,8 @@ class CopyFiles {
   // Null when it cannot be read.
   virtual std::unique_ptr<CopySource> open(const char* path) = 0;
   virtual CopyPlace place(const char* path) = 0;
-  // A new file, or an empty one in place of what was there; null on failure.
-  virtual std::unique_ptr<CopyTarget> create(const char* path) = 0;
-  virtual void remove(const char* path) = 0;
+  // Null when no file can be made there.
+  virtual std::unique_ptr<CopyTarget> grow(const char* path) = 0;
 };
 
 }  // namespace kesto

@@ -4,9 +4,11 @@
 
 #include <cstring>
 #include <new>
-#include <string>
 
 #include "addon/foundation/file_system_win.h"
+#include "addon/foundation/full_path.h"
+#include "addon/foundation/safe_write.h"
+#include "addon/foundation/string.h"
 #include "addon/ide/open_file_name.h"
 
 namespace kesto {
@@ -61,7 +63,14 @@ class SourceWin : public CopySource {
 
 class TargetWin : public CopyTarget {
  public:
-  TargetWin(HANDLE file, const char* path) : file_(file), path_(path) {}
+  TargetWin(HANDLE file, const String& grown, const String& path)
+      : file_(file), grown_(grown), path_(path) {}
+  ~TargetWin() override {
+    file_.close();
+    if (!put_) {
+      DeleteFileA(grown_);
+    }
+  }
 
   bool write(const char* bytes, std::size_t size) override {
     DWORD written = 0;
@@ -74,21 +83,27 @@ class TargetWin : public CopyTarget {
     memcpy(&time, &modified, sizeof time);
     SetFileTime(file_.get(), nullptr, nullptr, &time);
   }
-  bool rename(const char* new_path) override {
-    const bool renamed = renameOpenFile(file_.get(), new_path, false);
-    file_.close();
-    return renamed || MoveFileA(path_.c_str(), new_path) != FALSE;
+  bool put() override {
+    put_ = renameOpen(false) || MoveFileA(grown_, path_) != FALSE;
+    return put_;
   }
-  bool replace(const char* new_path) override {
-    const bool renamed = renameOpenFile(file_.get(), new_path, true);
-    file_.close();
+  bool replace() override {
     FileSystemWin files;
-    return renamed || files.replace(path_.c_str(), new_path);
+    put_ = renameOpen(true) || files.replace(grown_, path_);
+    return put_;
   }
 
  private:
+  bool renameOpen(bool replace) {
+    const bool renamed = renameOpenFile(file_.get(), path_, replace);
+    file_.close();
+    return renamed;
+  }
+
   OwnedFile file_;
-  std::string path_;
+  String grown_;
+  String path_;
+  bool put_ = false;
 };
 
 }  // namespace
@@ -131,15 +146,14 @@ CopyPlace CopyFilesWin::place(const char* path) {
              : CopyPlace::kTaken;
 }
 
-std::unique_ptr<CopyTarget> CopyFilesWin::create(const char* path) {
-  const HANDLE file = CreateFileA(path, GENERIC_WRITE | renamingAccess(), 0, nullptr, CREATE_ALWAYS,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+// A path is completed before its length is looked at.
+std::unique_ptr<CopyTarget> CopyFilesWin::grow(const char* path) {
+  const String whole(fullPath(path));
+  const String grown = newTextPath(whole.view());
+  const HANDLE file = CreateFileA(grown, GENERIC_WRITE | renamingAccess(), 0, nullptr,
+                                  CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   return std::unique_ptr<CopyTarget>(
-      file != INVALID_HANDLE_VALUE ? new (std::nothrow) TargetWin(file, path) : nullptr);
-}
-
-void CopyFilesWin::remove(const char* path) {
-  DeleteFileA(path);
+      file != INVALID_HANDLE_VALUE ? new (std::nothrow) TargetWin(file, grown, whole) : nullptr);
 }
 
 }  // namespace kesto

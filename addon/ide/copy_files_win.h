@@ -11,8 +11,7 @@ class CopyFilesWin : public CopyFiles {
   std::optional<std::uint64_t> size(const char* path) override;
   std::unique_ptr<CopySource> open(const char* path) override;
   CopyPlace place(const char* path) override;
-  std::unique_ptr<CopyTarget> create(const char* path) override;
-  void remove(const char* path) override;
+  std::unique_ptr<CopyTarget> grow(const char* path) override;
 };
 
 }  // namespace kesto

@@ -4,7 +4,6 @@
 
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/path.h"
-#include "addon/foundation/safe_write.h"
 
 namespace kesto {
 namespace {
@@ -49,18 +48,9 @@ CopyRun::Failure CopyRun::transfer(const char* source, const char* destination, 
   if (!from) {
     return {kOpening, source};
   }
-  const String grown = newTextPath(destination);
-  std::unique_ptr<CopyTarget> to =
-      isTaken(destination, end - done_) ? nullptr : files_.create(grown);
-  if (!to) {
-    return {kCreating, destination};
-  }
-  const Failure failure = fill(*to, *from, source, destination, end);
-  if (failure.text != nullptr || abandoned_) {
-    to.reset();
-    files_.remove(grown);
-  }
-  return failure;
+  const std::unique_ptr<CopyTarget> to =
+      isTaken(destination, end - done_) ? nullptr : files_.grow(destination);
+  return to ? fill(*to, *from, source, destination, end) : Failure{kCreating, destination};
 }
 
 CopyRun::Failure CopyRun::fill(CopyTarget& to, CopySource& from, const char* source,
@@ -93,11 +83,11 @@ bool CopyRun::isTaken(const char* destination, std::uint64_t size) {
 }
 
 bool CopyRun::put(CopyTarget& grown, const char* destination) {
-  if (last_place_ == CopyPlace::kVacant && grown.rename(destination)) {
+  if (last_place_ == CopyPlace::kVacant && grown.put()) {
     return true;
   }
   last_place_ = files_.place(destination);
-  return last_place_ != CopyPlace::kTaken && grown.replace(destination);
+  return last_place_ != CopyPlace::kTaken && grown.replace();
 }
 
 bool CopyRun::tell(const char* source, std::uint64_t done) {

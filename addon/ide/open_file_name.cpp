@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <string>
 
-#include "addon/foundation/full_path.h"
 #include "addon/foundation/path.h"
 
 namespace kesto {
@@ -30,8 +29,7 @@ SetInformation setInformation() {
 }
 
 // As the system's core names it.
-std::string coreName(const char* path) {
-  const std::string full = fullPath(path);
+std::string coreName(const std::string& full) {
   return full.starts_with("\\\\") ? "\\??\\UNC" + full.substr(1) : "\\??\\" + full;
 }
 

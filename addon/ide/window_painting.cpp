@@ -10,23 +10,32 @@ constexpr int kMostPaintings = 32;
 
 constexpr DWORD kPeriod = 50;  // milliseconds
 
+bool hasSession() {
+  return static_cast<bool>(acquireIde());
+}
+
 }  // namespace
 
 bool paintWindows() {
   MSG message;
-  for (int i = 0; i < kMostPaintings &&
+  for (int i = 0; i < kMostPaintings && hasSession() &&
                   PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE) != FALSE;
        ++i) {
+    // It comes whatever is asked for, and is meant for the IDE's own loop.
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      break;
+    }
     DispatchMessageA(&message);
   }
-  return static_cast<bool>(acquireIde());
+  return hasSession();
 }
 
 bool PaintingWatch::goOn() {
   const DWORD now = GetTickCount();
   painted_ = now - looked_ >= kPeriod;
   if (!painted_) {
-    return true;
+    return hasSession();
   }
   looked_ = now;
   return paintWindows();

@@ -106,11 +106,8 @@ void TaskList::load() {
 void TaskList::save() {
   SafeFile file(files_, path_.view());
   file.writeRecord(*this);
-  if (!file.finish()) {
-    return;
-  }
   String kept;
-  if (!keepUnread(kept)) {
+  if (!file.finish() || !keepUnread(kept)) {
     return;
   }
   if (file.put()) {

@@ -213,6 +213,13 @@ TEST_CASE("an IDE without services survives every command") {
   // Each of the four searches asked for a name both times, and each dialog of groupware for
   // a server directory.
   CHECK(EndsModalLoops::boxes == 1 + 8 + 4);
+  // What was never set is written as it was read.
+  char filters[80] = "";
+  CHECK(kesto::settings().readString("Groupware", "Filters", filters, sizeof filters, nullptr));
+  CHECK(std::string(filters) == "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif");
+  CHECK(kesto::settings().readInteger("Groupware", "Enabled", -1) == 1);
+  CHECK(kesto::settings().readInteger("Groupware", "MailOnGet", -1) == 0);
+  CHECK(kesto::settings().readInteger("Groupware", "MailOnSend", -1) == 1);
 }
 
 TEST_CASE("popups, menus and projects come and go and leave nothing") {

@@ -85,7 +85,8 @@ TEST_CASE("saving a project gives back what it stores, in order") {
       {"Kesto_ODR_REP_0", text("+D:\\out")}, {"Kesto_ODR_TYP_1", text("+.dll")},
       {"Kesto_ODR_REP_1", text("+")},        {"KestoGroupwareServer", text("~Z:\\srv")},
       {"Kesto_NB_MAIL", number(2)},          {"Kesto_MAIL_PJ_0", text("+anna")},
-      {"Kesto_MAIL_PJ_1", text("+bert")},    {"Other", "untouched"}};
+      {"Kesto_MAIL_PJ_1", text("+bert")},    {"Other", "untouched"},
+      {"Kesto_ODR_ACT_0", number(0)},        {"Kesto_ODR_ACT_1", number(1)}};
   session.ide.project.options = options;
   session.openProject("C:\\p.ide");
   REQUIRE(session.ide.project_save.clients.size() == 1);
@@ -95,7 +96,8 @@ TEST_CASE("saving a project gives back what it stores, in order") {
         Names{"Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_WITHDELIVERY", "Kesto_NB_ODR",
               "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_ODR_TYP_1", "Kesto_ODR_REP_1",
               "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0", "Kesto_MAIL_PJ_1", "KestoGroupwareServer",
-              "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI"});
+              "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU", "Kesto_HTMLFI",
+              "Kesto_ODR_ACT_0", "Kesto_ODR_ACT_1"});
   session.ide.project.close();
   CHECK(kesto::mail->recipients().count() == 0);
 }

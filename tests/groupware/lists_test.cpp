@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "addon/groupware/group_lists.h"
+#include "addon/groupware/group_exchange.h"
 #include "doctest.h"
 #include "tests/groupware/played_group.h"
 
@@ -242,6 +242,15 @@ TEST_CASE("the buttons of the get list") {
     CHECK(requests(list) == c.requests);
     CHECK(list.at(0)->chosen() == (*c.requests != '.'));
   }
+}
+
+TEST_CASE("the files that were left alone are named as far as a box holds them") {
+  const std::string head = "Changed on the server since the list was filled, and left alone:\n\n";
+  CHECK(leftAloneText({"a.h", "b\\c.h"}) == head + "a.h\nb\\c.h");
+  std::vector<std::string> names(21, "n");
+  CHECK(leftAloneText(names).ends_with("n, n"));
+  names.assign(100, std::string(100, 'n'));
+  CHECK(leftAloneText(names).ends_with("n\nand 72 more"));
 }
 
 }  // namespace kesto

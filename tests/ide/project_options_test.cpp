@@ -116,6 +116,51 @@ TEST_CASE("texts start behind their marker and end in time") {
   CHECK(store.stored("T") == std::string("~default\0", 9));
 }
 
+TEST_CASE("delivery groups without a type are skipped; without their node they are stored") {
+  Store store;
+  store.plantNumber("Kesto_NB_ODR", 3);
+  store.plantText("Kesto_ODR_TYP_0", "+.exe");
+  store.plantText("Kesto_ODR_REP_0", "+D:\\out");
+  store.plantText("Kesto_ODR_TYP_1", "+");
+  store.plantText("Kesto_ODR_REP_1", "+D:\\lost");
+  store.plantText("Kesto_ODR_TYP_2", "+.dll");
+  store.plantNumber("Kesto_ODR_ACT_2", 0);
+  kesto::DeliveryProjectOptions options;
+  options.groups.append(new kesto::OneDelRep("of another", "project"));
+  options.readCount(store);
+  options.readGroups(store);
+  REQUIRE(options.groups.count() == 2);
+  CHECK(options.groups[0]->directory == "D:\\out");
+  CHECK(options.groups[0]->active == 1);
+  CHECK(options.groups[1]->type == ".dll");
+  CHECK(options.groups[1]->directory.empty());
+  CHECK(options.groups[1]->active == 0);
+  CHECK(options.table_name == "Delivery");
+
+  for (const bool found : {true, false}) {
+    if (!found) {
+      kesto::DeliveryNodes nodes;
+      nodes.loaded = true;
+      options.rebuild(nodes);
+      options.rebuild(nodes);
+      CHECK(options.groups.count() == 0);
+    }
+    Store saved;
+    options.writeGroups(saved);
+    options.writeActive(saved);
+    CHECK(saved.stored("Kesto_NB_ODR") == std::string("\x02\0\0\0", 4));
+    CHECK(saved.stored("Kesto_ODR_TYP_1") == std::string("+.dll\0", 6));
+    CHECK(saved.stored("Kesto_ODR_ACT_0") == std::string("\x01\0\0\0", 4));
+    CHECK(saved.stored("Kesto_ODR_ACT_1") == std::string(4, '\0'));
+  }
+  // Those of another project are not this one's.
+  Store other;
+  options.readCount(other);
+  options.readGroups(other);
+  options.writeGroups(other);
+  CHECK(other.stored("Kesto_NB_ODR") == std::string(4, '\0'));
+}
+
 TEST_CASE("recipients, and counts that no project has") {
   for (const int count : {-1, 0, 2000000000}) {
     Store store;
