@@ -36,11 +36,8 @@ TEST_CASE("a new node stands where it was asked for, under the name that was mea
     const char* refusal;  // null: done
   } rows[] = {
       {3, {"util"}, "2 util.cpp ;", nullptr},
-      {3, {"util.h"}, "2 util.h ;", nullptr},
       {2, {".profile"}, "1 .profile ;", nullptr},
       {2, {"..\\util"}, "1 ..\\util ;", nullptr},
-      {2, {" "}, "1  .cpp ;", nullptr},
-      {2, {"util", false, "Pool", kRoot}, "1 util.cpp ;", nullptr},
       {3, {"util", true, "Pool", kSibling}, "2 Pool SourcePool;9 util.cpp ;", nullptr},
       {3, {"util", true, "Pool", kParent}, "1 Pool SourcePool;9 util.cpp ;", nullptr},
       {2, {"util", true, "Pool", kParent}, "1 Pool SourcePool;9 util.cpp ;", nullptr},
@@ -50,7 +47,6 @@ TEST_CASE("a new node stands where it was asked for, under the name that was mea
       {3, {"util", true, "", kRoot}, "", "You should specify a container name !"},
       {1, {"util"}, "", "No way to get parent node"},
       {1, {"util", true, "", kSibling}, "", "No way to get parent node"},
-      {1, {"util", true, "Pool", kParent}, "", "No way to get parent node"},
       {5, {"util", true, "Pool", kParent}, "", "No way to get parent node"},
       {0, {"util", true, "Pool", kRoot}, "", "No way to get parent node"},
   };
