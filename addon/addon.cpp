@@ -12,6 +12,7 @@
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/groupware_project.h"
 #include "addon/groupware/groupware_settings.h"
+#include "addon/groupware/quick_add_dialog.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/access.h"
@@ -54,6 +55,7 @@ class AddonMenuFeatures : public MenuFeatures {
     return groupwareSettings != nullptr && groupwareSettings->enabled();
   }
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
+  void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
 AddonMenuFeatures menuFeatures;
 

@@ -176,6 +176,9 @@ class Project : public Counted<IProjectService> {
   ProjectNode STDMETHODCALLTYPE GetNextSibling(ProjectNode node) override {
     return after(node, nodes[node - 1].parent);
   }
+  ProjectNode STDMETHODCALLTYPE GetNodeParent(ProjectNode node) override {
+    return exists(node) ? nodes[node - 1].parent : 0;
+  }
   ProjectNode STDMETHODCALLTYPE FindNode(IIdeString*) override { return 0; }
   IIdeString* STDMETHODCALLTYPE GetNodeName(ProjectNode node) override {
     return exists(node) ? new Text(nodes[node - 1].name) : nullptr;
