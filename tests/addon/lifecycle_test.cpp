@@ -173,6 +173,11 @@ TEST_CASE("a hundred sessions in one process leave nothing behind") {
   fake::Ide ide;
   // The first one makes the system load and keep what it needs.
   runOnce(ide);
+  // The delivery tool takes the place of one of its name, and goes with the session.
+  CHECK(ide.tools.steps ==
+        "delete\ncreate\nposition -3\nname KestoDelivery\nflags 8448\n"
+        "description Kesto Project delivery\nmenu Kesto &Delivery\n"
+        "text [Kesto AddOn extension]\nimplementor\nadd\ndelete\n");
   const int references = fake::live_references;
   const Counts before = countAll();
   for (int i = 0; i < 100; ++i) {
@@ -260,8 +265,10 @@ TEST_CASE("a project that is open at the start is no recent one") {
   ide.project.loaded = true;
   ide.project.project.file = "C:\\p\\p.ide";
   plantRecipients(ide.project, 2);
+  ide.project.options["Kesto_WITHDELIVERY"] = std::string(4, '\0');
   const std::map<std::string, std::string> options = ide.project.options;
   const Session session(ide);
+  CHECK(ide.tools.steps.empty());
   // Its recipients were read, if late.
   ide.project_save.clients[0]->ProjectSaving();
   for (const auto& [name, value] : options) {
