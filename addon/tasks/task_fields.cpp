@@ -155,6 +155,10 @@ void TaskDialog::put(HWND dialog, const TaskForm& form) {
   shown_ = fieldsOf(dialog);
 }
 
+int selectedEntry(HWND dialog, int combo) {
+  return std::max(0, static_cast<int>(SendDlgItemMessageA(dialog, combo, CB_GETCURSEL, 0, 0)));
+}
+
 TaskForm fieldsOf(HWND dialog) {
   TaskForm form;
   form.name = textOf(dialog, TASKS_NAME);
@@ -162,7 +166,7 @@ TaskForm fieldsOf(HWND dialog) {
   form.start = textOf(dialog, TASKS_START);
   form.end = textOf(dialog, TASKS_END);
   form.text = textOf(dialog, TASKS_TEXT);
-  form.state = static_cast<int>(SendDlgItemMessageA(dialog, TASKS_STATE, CB_GETCURSEL, 0, 0));
+  form.state = selectedEntry(dialog, TASKS_STATE);
   form.priority = GetDlgItemInt(dialog, TASKS_PRIORITY, nullptr, FALSE);
   form.is_public = IsDlgButtonChecked(dialog, TASKS_PUBLIC) == BST_CHECKED;
   return form;

@@ -1,5 +1,6 @@
-// Sending through MAPI32.DLL files that are really loaded: those of tests/mapi, by their
-// paths beforehand, as a library that is loaded already is found by its name alone.
+// What happens to a mail while MAPI shows its dialog; the mails themselves are compared
+// after tests/scenarios/mail.wbs. The MAPI32.DLL is that of tests/mapi, loaded by its path
+// beforehand, as a library that is loaded already is found by its name alone.
 #include "addon/mail/mail.h"
 
 #include <cstdio>
@@ -11,15 +12,11 @@
 #include "addon/foundation/text_file.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
-#include "tests/foundation/recorded_boxes.h"
 
 namespace {
 
 constexpr char kFile[] = "included.tmp";
 constexpr char kRecord[] = "mapi.txt";
-constexpr char kClosing[] =
-    "  \"----------------------------------------------------------------------\\n\"\n"
-    "  \"That's all folks !\\n\"\n";
 
 std::string takeRecord() {
   std::string record;
@@ -60,20 +57,19 @@ class AnswersBox {
 int AnswersBox::answer_ = 0;
 std::function<void()> AnswersBox::meanwhile_;
 
-// A mail object, and one of the libraries of tests/mapi.
+// A mail object, and a MAPI that notes what it is given.
 class MailFixture {
  public:
-  explicit MailFixture(const char* library = "recording_mapi", const char* answer = "0") {
-    kesto::recorded_boxes.clear();
+  MailFixture() {
     char folder[MAX_PATH] = "";
     GetCurrentDirectoryA(sizeof folder, folder);
     SetEnvironmentVariableA("KESTO_MAIL", folder);
-    SetEnvironmentVariableA("KESTO_MAPI_ANSWER", answer);
+    SetEnvironmentVariableA("KESTO_MAPI_ANSWER", "0");
     takeRecord();
     char path[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, path, sizeof path);
     *(strrchr(path, '\\') + 1) = '\0';
-    mapi_ = LoadLibraryA((std::string(path) + library + "\\mapi32.dll").c_str());
+    mapi_ = LoadLibraryA((std::string(path) + "recording_mapi\\mapi32.dll").c_str());
     REQUIRE(mapi_ != nullptr);
     kesto::mail = new kesto::Mail;
   }
@@ -95,60 +91,6 @@ class MailFixture {
 };
 
 }  // namespace
-
-TEST_CASE("every field of a mail, as MAPI is given it") {
-  MailFixture fixture;
-  WindowFixture windows;
-  kesto::mail->recipients().append(new kesto::String("Anna M\xFCller"));
-  kesto::mail->recipients().append(new kesto::String("bert@example.org"));
-  kesto::writeTextFile(kFile, "first\n\xE9\n");
-  CHECK(kesto::mail->send(windows.frame, "Sub \"j\"", "body\r\nmore\n", kFile));
-  CHECK(contents() == "(gone)");
-  char name[40] = "";
-  GetClassNameA(windows.frame, name, sizeof name);
-  CHECK(takeRecord() ==
-        std::string("send session 0, flags 1, reserved 0, window \"") + name + "\"\n" +
-            "message reserved 0, flags 0, type none, date none, conversation none, "
-            "originator none, files 0 none, recipients 2 given\n"
-            "recipient class 1, name \"Anna M\\xFCller\", address none, entry 0 none, reserved 0\n"
-            "recipient class 1, name \"bert@example.org\", address none, entry 0 none, reserved 0\n"
-            "subject \"Sub \\\"j\\\"\"\nnote\n"
-            "  \"body\\x0D\\n\"\n  \"more\\n\"\n  \"first\\n\"\n  \"\\xE9\\n\"\n" +
-            kClosing);
-  // A file that is not there, and nobody to send to.
-  kesto::mail->recipients().clear();
-  CHECK(kesto::mail->send(nullptr, "s", "body", kFile));
-  CHECK(takeRecord() ==
-        "send session 0, flags 1, reserved 0, window none\n"
-        "message reserved 0, flags 0, type none, date none, conversation none, "
-        "originator none, files 0 none, recipients 0 none\n"
-        "subject \"s\"\nnote\n  \"body\"\n");
-  CHECK(kesto::takeBoxes().empty());
-}
-
-TEST_CASE("what was not sent stays") {
-  MailFixture fixture("recording_mapi", "2");
-  kesto::writeTextFile(kFile, "kept\n");
-  CHECK(!kesto::mail->send(nullptr, "s", "", kFile));
-  CHECK(contents() == "kept\r\n");
-  CHECK(takeRecord().find("\"kept\\n\"") != std::string::npos);
-  CHECK(kesto::takeBoxes().empty());
-}
-
-TEST_CASE("a MAPI that cannot send") {
-  MailFixture fixture("mapi_without_entry");
-  kesto::writeTextFile(kFile, "kept\n");
-  CHECK(!kesto::mail->send(nullptr, "s", "", kFile));
-  CHECK(contents() == "kept\r\n");
-  const std::vector<kesto::RecordedBox> boxes = kesto::takeBoxes();
-  CHECK(boxes.size() == 1);
-  if (boxes.empty()) {
-    return;
-  }
-  CHECK(boxes[0].text == "MAPI not available !");
-  CHECK(boxes[0].caption == "Kesto AddOn error");
-  CHECK(boxes[0].flags == MB_ICONHAND);
-}
 
 TEST_CASE("MAPI's own dialog comes where the setting asks for it, and much can happen meanwhile") {
   for (const int answer : {IDOK, IDCANCEL}) {
