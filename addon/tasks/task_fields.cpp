@@ -58,6 +58,13 @@ std::uint32_t numberOf(HWND dialog, int id) {
   return number;
 }
 
+// Most controls show already what they are to show, and painting them takes time.
+void setText(HWND dialog, int id, const std::string& text) {
+  if (textOf(dialog, id) != text) {
+    SetDlgItemTextA(dialog, id, text.c_str());
+  }
+}
+
 // The keyboard would be lost in a control that is switched off.
 void switchControls(HWND dialog, bool enabled) {
   const HWND focus = GetFocus();
@@ -102,7 +109,7 @@ void TaskDialog::showCounts(HWND dialog) const {
   for (int state = 0; state < kTaskStates; ++state) {
     char caption[40] = "";
     wsprintfA(caption, kCounts[state], counts[state]);
-    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
+    setText(dialog, TASKS_SHOW_FIRST + state, caption);
   }
 }
 
@@ -153,14 +160,14 @@ void TaskDialog::show(HWND dialog, int row) {
 }
 
 void TaskDialog::put(HWND dialog, const TaskForm& form) {
-  SetDlgItemTextA(dialog, TASKS_NAME, form.name.c_str());
-  SetDlgItemTextA(dialog, TASKS_TYPE, form.type.c_str());
+  setText(dialog, TASKS_NAME, form.name);
+  setText(dialog, TASKS_TYPE, form.type);
   SendDlgItemMessageA(dialog, TASKS_STATE, CB_SETCURSEL, static_cast<WPARAM>(form.state), 0);
-  SetDlgItemInt(dialog, TASKS_PRIORITY, form.priority, FALSE);
+  setText(dialog, TASKS_PRIORITY, std::to_string(form.priority));
   CheckDlgButton(dialog, TASKS_PUBLIC, form.is_public ? BST_CHECKED : BST_UNCHECKED);
-  SetDlgItemTextA(dialog, TASKS_START, form.start.c_str());
-  SetDlgItemTextA(dialog, TASKS_END, form.end.c_str());
-  SetDlgItemTextA(dialog, TASKS_TEXT, form.text.c_str());
+  setText(dialog, TASKS_START, form.start);
+  setText(dialog, TASKS_END, form.end);
+  setText(dialog, TASKS_TEXT, form.text);
   // A field may hold a text otherwise than it was given.
   shown_ = fieldsOf(dialog);
 }
