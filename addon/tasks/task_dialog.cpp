@@ -80,6 +80,7 @@ INT_PTR TaskDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       dates_.forget();
       return FALSE;
     case WM_DESTROY:
+      columns_.giveBack();
       if (modified_) {
         tasks_.save();
       }
