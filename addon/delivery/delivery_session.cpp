@@ -20,6 +20,7 @@
 #include "addon/ide/progress_bar.h"
 #include "addon/ide/report_header.h"
 #include "addon/ide/status_line.h"
+#include "addon/ide/wait_cursor.h"
 #include "addon/mail/mail.h"
 
 namespace kesto {
@@ -28,15 +29,6 @@ namespace {
 constexpr char kErrorCaption[] = "Kesto AddOn error";
 constexpr char kNothing[] = "No files to deliver !";
 constexpr int kRowMargin = 4;  // pixels
-
-// The arrow again at its end.
-class WaitCursor {
- public:
-  WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_WAIT)); }
-  ~WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_ARROW)); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 class PaintsMeanwhile : public CompareWatch {
  public:

@@ -12,6 +12,7 @@
 #include "addon/ide/koptions.h"
 #include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
+#include "addon/ide/wait_cursor.h"
 #include "addon/navigation/name_search.h"
 #include "addon/navigation/popup_menu.h"
 #include "addon/navigation/text_prompt.h"
@@ -36,15 +37,6 @@ constexpr SearchTexts kTexts[kSearchCount] = {
     {"Find as method...", "Sorry, cannot find method ..."},
     {"Find as class ...", "Sorry, cannot find class ..."},
     {"Cross reference ...", "Sorry, cannot cross reference ..."}};
-
-// The wait cursor, and the arrow afterwards.
-class WaitCursor {
- public:
-  WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_WAIT)); }
-  ~WaitCursor() { SetCursor(LoadCursorA(nullptr, IDC_ARROW)); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 std::string searchingText(const std::string& name) {
   return "Searching " + name + " ...";
