@@ -6,10 +6,13 @@
 
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/completion/completion_settings.h"
+#include "addon/completion/completion_engine.h"
 #include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
+#include "addon/groupware/groupware_project.h"
+#include "addon/groupware/groupware_settings.h"
+#include "addon/groupware/quick_add_dialog.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/access.h"
@@ -48,7 +51,11 @@ FileSystemWin fileSystem;
 
 class AddonMenuFeatures : public MenuFeatures {
  public:
+  bool groupwareActive() const override {
+    return groupwareSettings != nullptr && groupwareSettings->enabled();
+  }
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
+  void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
 AddonMenuFeatures menuFeatures;
 
@@ -137,7 +144,7 @@ void startAddon(IIde* ide) {
   create(editorNavigation, barWindow, new_shell);
   create(topBar, new_shell, barWindow);
   create(barMenu, barWindow, menuFeatures);
-  create(completionSettings);
+  create(completionEngine);
   create(generalBehaviours);
   create(rcGenerator);
   create(delivery);
@@ -167,7 +174,9 @@ void startAddon(IIde* ide) {
   create(mail);
   runOnOpenProject(readMailRecipients);
   createTasks();
+  create(groupwareSettings);
   create(htmlSettings);
+  create(groupwareProject, projectTestA != nullptr ? projectTestA->service() : nullptr);
   create(documentationRun, barWindow);
   // The IDE may have no project to tell of; the menus come without one as well.
   PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);
@@ -190,15 +199,17 @@ void stopAddon() {
   destroy(editorNavigation);
   destroy(barMenu);
   destroy(topBar);
-  destroy(completionSettings);
+  destroy(completionEngine);
   destroy(editorServiceHolder);
   destroy(rcGenerator);
   destroy(generalBehaviours);
   destroy(statusLineServiceHolder);
   destroy(toolTable);
   destroyTasks();
+  destroy(groupwareSettings);
   destroy(documentationRun);
   destroy(htmlSettings);
+  destroy(groupwareProject);
   DestroyWindow(barWindow);
   barWindow = nullptr;
   if (projectTestA != nullptr) {

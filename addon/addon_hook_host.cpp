@@ -1,7 +1,7 @@
 #include "addon/addon_hook_host.h"
 
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/completion/completion_settings.h"
+#include "addon/completion/completion_engine.h"
 #include "addon/ide/completion_source.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
@@ -18,10 +18,9 @@ int AddonHookHost::titleButtonAt(HWND editor, POINT& point) const {
 }
 
 unsigned AddonHookHost::completionKey() const {
-  // Without an engine the key has to stay what it is on the keyboard.
-  return completionSource != nullptr && completionSettings != nullptr &&
-                 completionSettings->enabled()
-             ? completionSettings->keyCode()
+  // Where nothing can complete the key has to stay what it is on the keyboard.
+  return completionSource != nullptr && completionEngine != nullptr && completionEngine->enabled()
+             ? completionEngine->keyCode()
              : 0;
 }
 

@@ -3,6 +3,7 @@
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/delivery/delivery.h"
 #include "addon/delivery/project_options.h"
+#include "addon/groupware/groupware_project.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
@@ -51,9 +52,11 @@ void recordRecentProject(Work work) {
   }
 }
 
+// A project that does not load has no file for them, least of all that of the one before.
 void emptyTasks(Work) {
   if (taskList != nullptr) {
     taskList->clear();
+    taskList->setPath({});
   }
 }
 
@@ -132,6 +135,12 @@ void unregisterDeliveryTool(Work) {
   }
 }
 
+void tellGroupware(Work) {
+  if (groupwareProject != nullptr) {
+    groupwareProject->projectChanged();
+  }
+}
+
 constexpr ProjectStep kAnnounced[] = {closeTaskDialog,     emptyTasks,    placeBar,
                                       forgetRecentProject, resetAutoSave, readBarSettings};
 
@@ -140,6 +149,7 @@ constexpr ProjectStep kOpened[] = {
     enterProjectDirectory,
     viewProject,
     [](Work) { registerMakeClient(createMakeClient); },
+    tellGroupware,
     [](Work work) { readBarConstruction(work.options); },
     [](Work work) { readBarHidesWithView(work.options); },
     [](Work work) { rcgenProjectOptions.dialog_classes.read(work.options); },
@@ -163,7 +173,7 @@ constexpr ProjectStep kClosing[] = {collapseBar, closeTaskDialog, closeFlash};
 constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMakeClient(); },
                                           unregisterDeliveryTool, recordRecentProject};
 
-constexpr ProjectStep kClosed[] = {forgetMailRecipients};
+constexpr ProjectStep kClosed[] = {tellGroupware, forgetMailRecipients};
 
 // The project's own menus go with it.
 constexpr ProjectStep kGone[] = {rebuildBarMenu};

@@ -23,6 +23,11 @@ bool FileMask::plain() const {
 // Only the last "*" met is ever taken back: it can stand for whatever an earlier one could.
 bool FileMask::fits(std::string_view name) const {
   const std::string_view mask = mask_;
+  // Most names are told by their last letter.
+  if (!mask.empty() && mask.back() != '*' &&
+      (name.empty() || upperAscii(mask.back()) != upperAscii(name.back()))) {
+    return false;
+  }
   std::size_t in_mask = 0;
   std::size_t in_name = 0;
   std::size_t star = std::string_view::npos;

@@ -1,4 +1,4 @@
-// The wait cursor as long as it lives, and the arrow afterwards. User-interface thread only.
+// The hourglass as long as it lives, the arrow from then on. User-interface thread only.
 #pragma once
 
 #include <windows.h>

@@ -1,5 +1,4 @@
-// The columns of the task list's list box: tab stops, headings above them, and a font in
-// which a row with two dates fits. The same stops lie closer in a smaller font.
+// The columns of the task list's list box, in a font in which a row with two dates fits.
 // User-interface thread only.
 #pragma once
 
@@ -7,8 +6,7 @@
 
 #include <string_view>
 
-#include "addon/ide/gdi_handles.h"
-#include "addon/tasks/row_extent.h"
+#include "addon/ide/tab_rows.h"
 #include "addon/tasks/task_date.h"
 
 namespace kesto {
@@ -17,20 +15,12 @@ class TaskColumns {
  public:
   // Once for each opening of the dialog; the font stays good until the next.
   void setUp(HWND dialog, const DateFormat& format);
+  void giveBack() const { rows_.giveBack(); }
   // Pixels that a row takes up.
-  int extentOf(std::string_view row) const;
+  int extentOf(std::string_view row) const { return rows_.extentOf(row); }
 
  private:
-  static constexpr int kStopCount = 5;
-
-  // Measures rows in a font.
-  void measure(HWND list, HFONT font);
-  bool fits(HWND list, const std::string& dates) const;
-  void placeHeadings(HWND dialog, HWND list, const std::string& dates) const;
-
-  OwnedFont font_;
-  int stops_[kStopCount] = {};
-  RowMetrics row_ = {{}, stops_, 0};
+  TabRows rows_;
 };
 
 }  // namespace kesto

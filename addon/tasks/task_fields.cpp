@@ -1,5 +1,6 @@
 // The task list's controls: its list of rows and its edit area.
 #include <algorithm>
+#include <charconv>
 #include <string>
 
 #include "addon/tasks/task_dialog.h"
@@ -48,6 +49,22 @@ std::string textOf(HWND dialog, int id) {
   return text;
 }
 
+// 0 when there is none. GetDlgItemInt takes the greatest one for a failure on some systems.
+std::uint32_t numberOf(HWND dialog, int id) {
+  const std::string text = textOf(dialog, id);
+  const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
+  std::uint32_t number = 0;
+  std::from_chars(text.data() + start, text.data() + text.size(), number);
+  return number;
+}
+
+// Most controls show already what they are to show, and painting them takes time.
+void setText(HWND dialog, int id, const std::string& text) {
+  if (textOf(dialog, id) != text) {
+    SetDlgItemTextA(dialog, id, text.c_str());
+  }
+}
+
 // The keyboard would be lost in a control that is switched off.
 void switchControls(HWND dialog, bool enabled) {
   const HWND focus = GetFocus();
@@ -92,7 +109,7 @@ void TaskDialog::showCounts(HWND dialog) const {
   for (int state = 0; state < kTaskStates; ++state) {
     char caption[40] = "";
     wsprintfA(caption, kCounts[state], counts[state]);
-    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
+    setText(dialog, TASKS_SHOW_FIRST + state, caption);
   }
 }
 
@@ -143,16 +160,20 @@ void TaskDialog::show(HWND dialog, int row) {
 }
 
 void TaskDialog::put(HWND dialog, const TaskForm& form) {
-  SetDlgItemTextA(dialog, TASKS_NAME, form.name.c_str());
-  SetDlgItemTextA(dialog, TASKS_TYPE, form.type.c_str());
+  setText(dialog, TASKS_NAME, form.name);
+  setText(dialog, TASKS_TYPE, form.type);
   SendDlgItemMessageA(dialog, TASKS_STATE, CB_SETCURSEL, static_cast<WPARAM>(form.state), 0);
-  SetDlgItemInt(dialog, TASKS_PRIORITY, form.priority, FALSE);
+  setText(dialog, TASKS_PRIORITY, std::to_string(form.priority));
   CheckDlgButton(dialog, TASKS_PUBLIC, form.is_public ? BST_CHECKED : BST_UNCHECKED);
-  SetDlgItemTextA(dialog, TASKS_START, form.start.c_str());
-  SetDlgItemTextA(dialog, TASKS_END, form.end.c_str());
-  SetDlgItemTextA(dialog, TASKS_TEXT, form.text.c_str());
+  setText(dialog, TASKS_START, form.start);
+  setText(dialog, TASKS_END, form.end);
+  setText(dialog, TASKS_TEXT, form.text);
   // A field may hold a text otherwise than it was given.
   shown_ = fieldsOf(dialog);
+}
+
+int selectedEntry(HWND dialog, int combo) {
+  return std::max(0, static_cast<int>(SendDlgItemMessageA(dialog, combo, CB_GETCURSEL, 0, 0)));
 }
 
 TaskForm fieldsOf(HWND dialog) {
@@ -162,8 +183,8 @@ TaskForm fieldsOf(HWND dialog) {
   form.start = textOf(dialog, TASKS_START);
   form.end = textOf(dialog, TASKS_END);
   form.text = textOf(dialog, TASKS_TEXT);
-  form.state = static_cast<int>(SendDlgItemMessageA(dialog, TASKS_STATE, CB_GETCURSEL, 0, 0));
-  form.priority = GetDlgItemInt(dialog, TASKS_PRIORITY, nullptr, FALSE);
+  form.state = selectedEntry(dialog, TASKS_STATE);
+  form.priority = numberOf(dialog, TASKS_PRIORITY);
   form.is_public = IsDlgButtonChecked(dialog, TASKS_PUBLIC) == BST_CHECKED;
   return form;
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "addon/foundation/path.h"
+#include "addon/groupware/groupware_project.h"
 #include "addon/html/documentation_run.h"
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/find_window.h"
@@ -105,6 +106,15 @@ bool generateDocumentation(const Command&) {
   return true;
 }
 
+bool openGroupware(const Command& command) {
+  if (groupwareProject != nullptr && command.position == 0) {
+    groupwareProject->openGet(findFrame());
+  } else if (groupwareProject != nullptr) {
+    groupwareProject->openSend(findFrame());
+  }
+  return true;
+}
+
 bool showDocumentation(const Command&) {
   if (documentationRun != nullptr) {
     documentationRun->show();
@@ -161,7 +171,7 @@ constexpr CommandRange kCommands[] = {
     {171, 171, showTasks, nullptr},
     {kCommandFlash, kCommandFlash, flashWhenDue, nullptr},
     {173, 173, flashOnDemand, nullptr},
-    {175, 176, nullptr, nullptr},  // groupware get, send
+    {175, 176, openGroupware, nullptr},
     {177, 177, [](const Command&) { return editDocumentation(); }, nullptr},
     {184, 184, showMethodResults, nullptr},
     {187, 187, [](const Command& c) { return showIncludesPopup(c.bar); }, nullptr},

@@ -146,6 +146,7 @@ class EndsModalLoops {
     if (code == HCBT_ACTIVATE && strcmp(name, "#32770") == 0) {
       ++boxes;
       PostMessageA(reinterpret_cast<HWND>(wParam), WM_COMMAND, IDOK, 0);
+      PostMessageA(reinterpret_cast<HWND>(wParam), WM_COMMAND, IDCANCEL, 0);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
   }
@@ -214,8 +215,16 @@ TEST_CASE("an IDE without services survives every command") {
     CHECK(EndsModalLoops::menus == 8);
     drain();
   }
-  // Each of the four searches asked for a name both times.
-  CHECK(EndsModalLoops::boxes == 1 + 8);
+  // Each of the four searches asked for a name both times, and each dialog of groupware for
+  // a server directory.
+  CHECK(EndsModalLoops::boxes == 1 + 8 + 4);
+  // What was never set is written as it was read.
+  char filters[80] = "";
+  CHECK(kesto::settings().readString("Groupware", "Filters", filters, sizeof filters, nullptr));
+  CHECK(std::string(filters) == "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif");
+  CHECK(kesto::settings().readInteger("Groupware", "Enabled", -1) == 1);
+  CHECK(kesto::settings().readInteger("Groupware", "MailOnGet", -1) == 0);
+  CHECK(kesto::settings().readInteger("Groupware", "MailOnSend", -1) == 1);
 }
 
 TEST_CASE("popups, menus and projects come and go and leave nothing") {
@@ -232,10 +241,11 @@ TEST_CASE("popups, menus and projects come and go and leave nothing") {
   const Session session(ide);
   const auto round = [&](int construction) {
     ide.project.options["Kesto_HIERARCH"] = {static_cast<char>(construction), 0, 0, 0};
+    ide.project.options["KestoGroupwareServer"] = std::string("~C:\\nowhere", 12);
     ide.project.loaded = true;
     ide.project.open("C:\\p\\p.ide");
     CHECK(GetMenuItemCount(GetMenu(ownBar())) == (construction == 0 ? 3 : 2));
-    for (const WPARAM command : {103, 111, 187, 188, 189, 197}) {
+    for (const WPARAM command : {103, 111, 175, 176, 187, 188, 189, 197}) {
       SendMessageA(ownBar(), WM_COMMAND, command, reinterpret_cast<LPARAM>(editor));
     }
     ide.project.close();

@@ -2,8 +2,8 @@
 #include <array>
 #include <string>
 
+#include "addon/ide/row_extent.h"
 #include "addon/tasks/known_dates.h"
-#include "addon/tasks/row_extent.h"
 #include "addon/tasks/task_form.h"
 #include "doctest.h"
 #include "tests/tasks/played_days.h"

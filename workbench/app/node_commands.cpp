@@ -109,9 +109,7 @@ void Application::addFiles() {
   const unsigned int parent = project_.containerFor(project_window_.selected());
   int added = 0;
   for (const std::string& path : paths) {
-    std::string type(extensionOf(path));
-    // A file without an extension is a text like any other.
-    added += addNode(parent, path, type.empty() ? ".txt" : type) != 0 ? 1 : 0;
+    added += addNode(parent, path, {}) != 0 ? 1 : 0;
   }
   setStatus("Added " + std::to_string(added) + (added == 1 ? " file" : " files"));
 }

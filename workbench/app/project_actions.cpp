@@ -265,7 +265,7 @@ unsigned int Application::findNode(const std::string& name) {
 
 unsigned int Application::addNode(unsigned int parent, const std::string& name,
                                   const std::string& type) {
-  return root_.project().add(parent, project_.fullName(parent, name, type), type);
+  return root_.project().add(parent, name, type);
 }
 
 bool Application::renameNode(unsigned int node, const std::string& name) {

@@ -30,6 +30,12 @@ bool isContainer(const NodeInfo& node) {
   return type.empty() || type[0] != '.' || type == ".exe" || type == ".dll" || type == ".lib";
 }
 
+std::string Project::typeFor(const std::string& name) {
+  const std::string_view extension = extensionOf(name);
+  // A file without an extension is a text like any other.
+  return extension.size() > 1 ? std::string(extension) : ".txt";
+}
+
 std::string Project::fullName(unsigned int parent, const std::string& name,
                               const std::string& type) const {
   const bool whole = name.empty() || !tree_.isPathName(parent, name, type) || isAbsolutePath(name);

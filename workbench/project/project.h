@@ -32,6 +32,8 @@ class Project {
   // Full path, empty without a project; the file need not exist.
   const std::string& file() const { return file_; }
   const std::string& folder() const { return folder_; }
+  // The type of a file of which nothing else is said.
+  static std::string typeFor(const std::string& name);
   // What a node of that type is called below that parent: the full path for a file or
   // folder, which may be given from the project's folder on; any other name, and one that
   // starts with "#", as it stands.

@@ -92,6 +92,14 @@ bool selectInList(HWND control, WPARAM index) {
   return true;
 }
 
+// Takes a row out of the selection of a list that has more than one.
+bool leaveOutOfList(HWND control, WPARAM index) {
+  const bool left_out =
+      SendMessageA(control, LB_SETSEL, FALSE, static_cast<LPARAM>(index)) != LB_ERR;
+  notifyParent(control, LBN_SELCHANGE);
+  return left_out;
+}
+
 bool selectInCombo(HWND control, WPARAM index) {
   if (SendMessageA(control, CB_SETCURSEL, index, 0) == CB_ERR) {
     return false;
@@ -204,6 +212,12 @@ StepResult stepSelectItem(StepTry& step) {
   for (const auto& kind : kinds) {
     if (!isClass(control, kind.name)) {
       continue;
+    }
+    if (step.argCount() > 2) {
+      const bool can = kind.select == selectInList && step.arg(2) == "off";
+      return can && leaveOutOfList(control, static_cast<WPARAM>(index))
+                 ? StepResult::kDone
+                 : step.fail("the control " + step.arg(0) + " cannot be left without that item");
     }
     return kind.select(control, static_cast<WPARAM>(index))
                ? StepResult::kDone

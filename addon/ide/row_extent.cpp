@@ -1,4 +1,4 @@
-#include "addon/tasks/row_extent.h"
+#include "addon/ide/row_extent.h"
 
 namespace kesto {
 

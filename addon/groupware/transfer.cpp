@@ -1,0 +1,129 @@
+#include "addon/groupware/transfer.h"
+
+#include "addon/foundation/path.h"
+
+namespace kesto {
+
+namespace {
+
+// Earlier texts of one file that are kept at most.
+constexpr int kMostKept = 9999;
+
+}  // namespace
+
+bool Transfer::isAsListed(const EltGW& element, const std::string& server_path) const {
+  // A server that went away has not lost its files: nothing is made in its place.
+  if (server_was_there_ && !files_.isDirectory(roots_.server.c_str())) {
+    return false;
+  }
+  const std::optional<FileFacts> now = files_.facts(server_path.c_str());
+  if (!now || !element.server) {
+    return now.has_value() == element.server.has_value();
+  }
+  return now->modified == element.server->modified && now->writable == element.server->writable;
+}
+
+bool Transfer::leaveAlone(const EltGW& element, const std::string& server_path,
+                          const std::string& name) {
+  if (isAsListed(element, server_path)) {
+    return false;
+  }
+  changed_.push_back(name);
+  return true;
+}
+
+void Transfer::transfer(const EltGWsend& element) {
+  const std::string name = element.listedName(roots_.project.size());
+  const std::string server = pathBelow(roots_.server, name);
+  if (leaveAlone(element, server, name)) {
+    return;
+  }
+  makeFolders(roots_.server, name);
+  if (element.server) {
+    files_.setWritable(server.c_str(), true);
+  }
+  const bool copied = files_.copy(element.path, server.c_str());
+  if (element.request == SendRequest::kUpdate) {
+    files_.setWritable(server.c_str(), false);
+  } else {
+    files_.setWritable(server.c_str(), true);
+    // A read-only copy may be refreshed away: what was not sent is kept first.
+    if (copied || keepLocal(name)) {
+      files_.setWritable(element.path, false);
+    }
+  }
+  if (copied) {
+    report_ += name;
+    report_ += element.request == SendRequest::kUpdate ? " is refreshed\n"
+                                                       : " is delivered and unlocked\n";
+  }
+}
+
+void Transfer::transfer(const EltGWget& element) {
+  const std::string name = element.listedName(roots_.server.size());
+  if (leaveAlone(element, element.path.text(), name)) {
+    return;
+  }
+  const std::string local = pathBelow(roots_.project, name);
+  const std::optional<FileFacts> before = files_.facts(local.c_str());
+  const bool was_writable = before && before->writable;
+  makeFolders(roots_.project, name);
+  const bool kept =
+      !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
+  if (before && !was_writable) {
+    files_.setWritable(local.c_str(), true);
+  }
+  const bool copied = kept && files_.copy(element.path, local.c_str());
+  if (element.request == GetRequest::kRefresh) {
+    files_.setWritable(local.c_str(), was_writable);
+    return;
+  }
+  files_.setWritable(local.c_str(), true);
+  if (files_.setWritable(element.path, false) && !user_.empty()) {
+    files_.writeText((std::string(element.path.text()) + ".lock").c_str(), user_);
+  }
+  if (copied) {
+    report_ += name + " is locked\n";
+  }
+}
+
+void Transfer::makeFolders(const std::string& root, const std::string& name) {
+  const auto make = [this](const std::string& folder) {
+    if (!files_.isDirectory(folder.c_str())) {
+      files_.makeDirectory(folder.c_str());
+    }
+  };
+  make(root);
+  for (std::size_t end = name.find('\\'); end != std::string::npos;
+       end = name.find('\\', end + 1)) {
+    make(pathBelow(root, name.substr(0, end)));
+  }
+}
+
+// The text that was kept last stands under the file's own name, those before it have
+// numbers behind.
+bool Transfer::keepLocal(const std::string& name) {
+  const std::string local = pathBelow(roots_.project, name);
+  const std::string below_project = pathBelow(kKeptFolder, name);
+  const std::string kept = pathBelow(roots_.project, below_project);
+  if (files_.sameText(local.c_str(), kept.c_str())) {
+    return true;
+  }
+  makeFolders(roots_.project, below_project);
+  return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
+}
+
+bool Transfer::makeRoomForKept(const std::string& kept) {
+  if (!files_.facts(kept.c_str())) {
+    return true;
+  }
+  for (int number = 1; number <= kMostKept; ++number) {
+    const std::string earlier = kept + '.' + std::to_string(number);
+    if (!files_.facts(earlier.c_str())) {
+      return files_.rename(kept.c_str(), earlier.c_str());
+    }
+  }
+  return false;
+}
+
+}  // namespace kesto

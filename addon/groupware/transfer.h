@@ -1,0 +1,51 @@
+// One "SEND !" or "GET !": what is done to both copies of each chosen file, in list order,
+// and what the report says of it. Made for one action, when the person has chosen; plain
+// code, user-interface thread.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "addon/groupware/elt_gw.h"
+#include "addon/groupware/group_tree.h"
+
+namespace kesto {
+
+// The folder below the project's directory that keeps what a get, or a send that failed,
+// would have cost somebody. No scan enters it.
+inline constexpr char kKeptFolder[] = ".kesto";
+
+class Transfer {
+ public:
+  // server_was_there: whether the server directory was when the list was filled. user is
+  // the name for the lock files, which are not written when it is empty. Both references
+  // must outlive it.
+  Transfer(GroupFiles& files, const GroupRoots& roots, bool server_was_there, std::string user = {})
+      : files_(files), roots_(roots), server_was_there_(server_was_there), user_(std::move(user)) {}
+
+  // A file whose server copy is another than the list says is left alone.
+  void transfer(const EltGWsend& element);
+  void transfer(const EltGWget& element);
+
+  // A line for each file that was copied and whose action has one.
+  const std::string& report() const { return report_; }
+  // The listed names of those left alone.
+  const std::vector<std::string>& changed() const { return changed_; }
+
+ private:
+  bool isAsListed(const EltGW& element, const std::string& server_path) const;
+  bool leaveAlone(const EltGW& element, const std::string& server_path, const std::string& name);
+  // The folders of root\name that are missing.
+  void makeFolders(const std::string& root, const std::string& name);
+  bool keepLocal(const std::string& name);
+  bool makeRoomForKept(const std::string& kept);
+
+  GroupFiles& files_;
+  const GroupRoots& roots_;
+  bool server_was_there_;
+  std::string user_;
+  std::string report_;
+  std::vector<std::string> changed_;
+};
+
+}  // namespace kesto
