@@ -27,6 +27,7 @@ class GroupDialog {
   class Enabling;
   struct Outcome {
     std::string report;
+    std::string notice;
     std::vector<std::string> left_alone;  // changed on the server meanwhile
   };
 
