@@ -84,6 +84,8 @@ INT_PTR TaskDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       if (modified_) {
         tasks_.save();
       }
+      // A closed dialog is not told of another way to write days.
+      dates_.forget();
       return TRUE;
     default:
       return FALSE;
@@ -128,7 +130,7 @@ void TaskDialog::command(HWND dialog, int id, int notification) {
 void TaskDialog::changeOrder(HWND dialog, int id) {
   const Task* selected = taskAt(selectedRow(dialog));
   if (id == TASKS_ORDER) {
-    tasks_.order = static_cast<int>(SendDlgItemMessageA(dialog, id, CB_GETCURSEL, 0, 0));
+    tasks_.order = selectedEntry(dialog, id);
   } else if (id == TASKS_REVERSE) {
     tasks_.reverse = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
   } else {

@@ -60,6 +60,8 @@ class TaskDialog final : public ModelessDialog {
   unsigned opening_ = 0;  // which of all openings this one is
 };
 
+// Of a combo box; the first where none is.
+int selectedEntry(HWND dialog, int combo);
 // What stands in the fields of the edit area.
 TaskForm fieldsOf(HWND dialog);
 

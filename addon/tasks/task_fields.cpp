@@ -1,5 +1,6 @@
 // The task list's controls: its list of rows and its edit area.
 #include <algorithm>
+#include <charconv>
 #include <string>
 
 #include "addon/tasks/task_dialog.h"
@@ -46,6 +47,15 @@ std::string textOf(HWND dialog, int id) {
   text.resize(
       static_cast<size_t>(GetWindowTextA(control, text.data(), static_cast<int>(text.size()))));
   return text;
+}
+
+// 0 when there is none. GetDlgItemInt takes the greatest one for a failure on some systems.
+std::uint32_t numberOf(HWND dialog, int id) {
+  const std::string text = textOf(dialog, id);
+  const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
+  std::uint32_t number = 0;
+  std::from_chars(text.data() + start, text.data() + text.size(), number);
+  return number;
 }
 
 // Most controls show already what they are to show, and painting them takes time.
@@ -162,6 +172,10 @@ void TaskDialog::put(HWND dialog, const TaskForm& form) {
   shown_ = fieldsOf(dialog);
 }
 
+int selectedEntry(HWND dialog, int combo) {
+  return std::max(0, static_cast<int>(SendDlgItemMessageA(dialog, combo, CB_GETCURSEL, 0, 0)));
+}
+
 TaskForm fieldsOf(HWND dialog) {
   TaskForm form;
   form.name = textOf(dialog, TASKS_NAME);
@@ -169,8 +183,8 @@ TaskForm fieldsOf(HWND dialog) {
   form.start = textOf(dialog, TASKS_START);
   form.end = textOf(dialog, TASKS_END);
   form.text = textOf(dialog, TASKS_TEXT);
-  form.state = static_cast<int>(SendDlgItemMessageA(dialog, TASKS_STATE, CB_GETCURSEL, 0, 0));
-  form.priority = GetDlgItemInt(dialog, TASKS_PRIORITY, nullptr, FALSE);
+  form.state = selectedEntry(dialog, TASKS_STATE);
+  form.priority = numberOf(dialog, TASKS_PRIORITY);
   form.is_public = IsDlgButtonChecked(dialog, TASKS_PUBLIC) == BST_CHECKED;
   return form;
 }

@@ -1,4 +1,4 @@
-// The view of a task list, the rows of its tasks, the types, and the report of a day.
+// The view of a task list, the types, and the report of a day.
 #include <climits>
 #include <functional>
 #include <map>
@@ -57,20 +57,6 @@ TEST_CASE("each order compares its keys one after the other") {
       CHECK(list.view()[0] == later);
     }
   }
-}
-
-TEST_CASE("a row shows a public task's state in capitals") {
-  Task task(day(1996, 2, 29));
-  task.end = day(1996, 3, 1);
-  task.state = kTested;
-  task.priority = -3;
-  String row("> ");
-  task.appendRow(row, DottedDays());
-  task.is_public = 8;
-  task.appendRow(row, DottedDays());
-  CHECK(row.view() ==
-        "> New task\tBug\ttested\t-3\t29.2.1996\t1.3.1996"
-        "New task\tBug\tTESTED\t-3\t29.2.1996\t1.3.1996");
 }
 
 TEST_CASE("the types stand in one text with semicolons, cut at 511 characters") {
