@@ -53,7 +53,7 @@ class GroupDialog {
   std::string name_;
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
-  TabRows columns_;
+  TabRows rows_;
   bool server_was_there_ = false;
   bool busy_ = false;  // boxes have loops of their own
 };
