@@ -163,7 +163,7 @@ void GroupDialog::fill() {
     return;
   }
   GroupFilesWin files;
-  server_was_there_ = files.isDirectory(roots_.server.c_str());
+  server_ = serverState(files, roots_.server);
   SearchWatch watch("Groupware: listing");
   exchange_.fill(files, roots_, groupwareSettings->filters().view(), &watch);
   watch.finished(watch.stopped() ? "Groupware: stopped, not all files are listed" : " ");
@@ -245,7 +245,12 @@ void GroupDialog::perform() {
     return;
   }
   fill();
-  if (!outcome.left_alone.empty()) {
+  if (!outcome.failures.empty()) {
+    showMessage(dialog_, failuresText(outcome.failures).c_str(), "Kesto Addon error",
+                kMessageIconHand);
+  }
+  // The session may have ended below that box.
+  if (groupwareProject != nullptr && !outcome.left_alone.empty()) {
     showMessage(dialog_, leftAloneText(outcome.left_alone).c_str(), "Warning",
                 kMessageIconExclamation);
   }
@@ -259,7 +264,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
   }
   const WaitCursor waiting;
   ToldFiles files(total, dialog_);
-  Transfer transfer(files, roots_, server_was_there_, userName());
+  Transfer transfer(files, roots_, server_, userName());
   for (const int row : rows) {
     files.expect(exchange_.at(row).size);
     exchange_.transfer(row, transfer);
@@ -268,7 +273,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
       break;
     }
   }
-  return {transfer.report(), transfer.changed()};
+  return {transfer.report(), transfer.changed(), transfer.failures()};
 }
 
 // The recipients are the open project's.

@@ -9,6 +9,7 @@
 
 #include "addon/groupware/group_exchange.h"
 #include "addon/groupware/group_files_win.h"
+#include "addon/groupware/transfer.h"
 #include "addon/ide/tab_rows.h"
 
 namespace kesto {
@@ -28,6 +29,7 @@ class GroupDialog {
   struct Outcome {
     std::string report;
     std::vector<std::string> left_alone;  // changed on the server meanwhile
+    std::vector<std::string> failures;
   };
 
   static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
@@ -53,8 +55,8 @@ class GroupDialog {
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
   TabRows columns_;
-  bool server_was_there_ = false;
-  bool busy_ = false;  // boxes have loops of their own
+  ServerState server_ = ServerState::kAbsent;  // when the list was filled
+  bool busy_ = false;                          // boxes have loops of their own
 };
 
 }  // namespace kesto

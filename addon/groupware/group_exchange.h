@@ -65,5 +65,7 @@ class GetExchange : public GroupExchange {
 
 // What the box says of the files that were left alone, one or more of them.
 std::string leftAloneText(const std::vector<std::string>& names);
+// What that of other failures says, which are lines, one or more.
+std::string failuresText(const std::vector<std::string>& lines);
 
 }  // namespace kesto

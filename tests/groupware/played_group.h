@@ -23,6 +23,7 @@ class PlayedGroup : public GroupFiles {
   std::map<std::string, File> files;
   std::set<std::string> directories;
   std::string failing;           // a part of the paths that no copy gets to
+  std::string stuck;             // the path whose flag stays
   int copies = 0;                // so far; copyAside counts
   int failing_copy = 0;          // which of them fails; they count from 1
   std::set<std::string> listed;  // "DIRECTORY|MASK"
@@ -63,13 +64,18 @@ class PlayedGroup : public GroupFiles {
     return found != files.end() ? std::optional(factsOf(found->second)) : std::nullopt;
   }
   bool isDirectory(const char* path) override { return directories.count(path) != 0; }
+  bool holdsAnything(const char* path) override {
+    const std::string below = std::string(path) + '\\';
+    const auto found = files.lower_bound(below);
+    return found != files.end() && found->first.starts_with(below);
+  }
   bool makeDirectory(const char* path) override {
     const bool top = std::string(path).find('\\') == std::string::npos;
     return (top || isDirectory(parent(path).c_str())) && directories.insert(path).second;
   }
   bool setWritable(const char* path, bool writable) override {
     const auto found = files.find(path);
-    if (found == files.end()) {
+    if (found == files.end() || path == stuck) {
       return false;
     }
     found->second.writable = writable;

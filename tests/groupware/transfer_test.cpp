@@ -15,19 +15,23 @@ const GroupRoots kRoots = {"P", "S"};
 struct Outcome {
   std::string report;
   std::string changed;
+  std::string failures;
 };
 
 template <class T>
-Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, bool there) {
+Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, ServerState there) {
   Transfer transfer(files, kRoots, there, user);
   for (int i = 0; i < list.count(); ++i) {
     if (list.at(i)->chosen()) {
       transfer.transfer(*list.at(i));
     }
   }
-  Outcome outcome = {transfer.report(), ""};
+  Outcome outcome = {transfer.report(), "", ""};
   for (const std::string& name : transfer.changed()) {
     outcome.changed += name + '\n';
+  }
+  for (const std::string& line : transfer.failures()) {
+    outcome.failures += line + '\n';
   }
   return outcome;
 }
@@ -40,7 +44,7 @@ Outcome send(PlayedGroup& files, SendRequest request, const Change& change) {
   for (int i = 0; i < list.count(); ++i) {
     list.at(i)->request = request;
   }
-  const bool there = files.isDirectory("S");
+  const ServerState there = serverState(files, "S");
   change();
   return perform(files, list, "", there);
 }
@@ -54,7 +58,7 @@ Outcome get(PlayedGroup& files, GetRequest request, const Change& change,
     list.at(i)->request = request;
   }
   change();
-  return perform(files, list, user, true);
+  return perform(files, list, user, ServerState::kFilled);
 }
 
 void nothing() {}
@@ -152,6 +156,36 @@ TEST_CASE("a server that went away is not made anew") {
   CHECK(outcome.changed == "a.h\n");
   CHECK(files.at("P\\a.h") == "text w");
   CHECK(files.directories.count("S") == 0);
+}
+
+// A disk that is taken away leaves an empty folder; one that was empty before takes files.
+TEST_CASE("nothing is put where the server's disk was") {
+  PlayedGroup files;
+  files.put("P\\a.h", "text", 5);
+  files.put("P\\b.h", "more", 5);
+  files.put("S\\c.h", "hers", 5);
+  CHECK(send(files, SendRequest::kSend, [&files] { files.files.erase("S\\c.h"); }).changed ==
+        "a.h\nb.h\n");
+  CHECK(files.at("P\\a.h") == "text w");
+  CHECK(send(files, SendRequest::kUpdate, nothing).changed.empty());
+  CHECK(files.at("S\\b.h") == "more r");
+}
+
+TEST_CASE("what is not locked, or cannot be kept, is told") {
+  PlayedGroup files;
+  files.directories = {"P"};
+  files.put("S\\a.h", "hers", 6);
+  files.stuck = "S\\a.h";
+  Outcome outcome = get(files, GetRequest::kGet, nothing);
+  CHECK(outcome.report.empty());
+  CHECK(outcome.failures == "Error in locking file S\\a.h\n");
+  CHECK(files.at("P\\a.h") == "hers w");
+  CHECK(files.at("S\\a.h.lock").empty());
+  files.put("P\\a.h", "mine", 5);
+  files.failing = ".kesto";
+  outcome = get(files, GetRequest::kRefresh, nothing);
+  CHECK(outcome.failures == "Error in creating file P\\.kesto\\a.h\n");
+  CHECK(files.at("P\\a.h") == "mine w");
 }
 
 // The server's copies since the list was filled: 1 came, 2 went, 3 has another time within
