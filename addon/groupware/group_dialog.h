@@ -9,6 +9,7 @@
 
 #include "addon/groupware/group_exchange.h"
 #include "addon/groupware/group_files_win.h"
+#include "addon/groupware/transfer.h"
 #include "addon/ide/tab_rows.h"
 
 namespace kesto {
@@ -54,8 +55,8 @@ class GroupDialog {
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
   TabRows rows_;
-  bool server_was_there_ = false;
-  bool busy_ = false;  // boxes have loops of their own
+  ServerState server_ = ServerState::kAbsent;  // when the list was filled
+  bool busy_ = false;                          // boxes have loops of their own
 };
 
 }  // namespace kesto

@@ -75,6 +75,7 @@ StepResult stepEndRepeat(StepTry& step);
 
 // event_steps.cpp: what has happened
 StepResult stepWait(StepTry& step);
+StepResult stepWaitFile(StepTry& step);
 StepResult stepExpect(StepTry& step);
 StepResult stepExpectNot(StepTry& step);
 StepResult stepMark(StepTry& step);
@@ -90,6 +91,7 @@ StepResult stepRegistryDelete(StepTry& step);
 StepResult stepExpectRegistry(StepTry& step);
 StepResult stepScreenshot(StepTry& step);
 StepResult stepHandles(StepTry& step);
+StepResult stepHold(StepTry& step);
 StepResult stepMemory(StepTry& step);
 
 }  // namespace workbench
