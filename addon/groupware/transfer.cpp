@@ -81,6 +81,10 @@ void Transfer::transfer(const EltGWget& element) {
   makeFolders(roots_.project, name);
   const bool kept =
       !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
+  if (!kept) {
+    failures_.push_back("Error in creating file " +
+                        pathBelow(roots_.project, pathBelow(kKeptFolder, name)));
+  }
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
   }
@@ -125,11 +129,7 @@ bool Transfer::keepLocal(const std::string& name) {
     return true;
   }
   makeFolders(roots_.project, below_project);
-  if (makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str())) {
-    return true;
-  }
-  failures_.push_back("Error in creating file " + kept);
-  return false;
+  return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
 }
 
 bool Transfer::makeRoomForKept(const std::string& kept) {
