@@ -6,12 +6,13 @@
 
 #include "addon/addon_hook_host.h"
 #include "addon/behaviours/general_behaviours.h"
-#include "addon/completion/completion_settings.h"
+#include "addon/completion/completion_engine.h"
 #include "addon/delivery/delivery.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/settings_store.h"
 #include "addon/groupware/groupware_project.h"
 #include "addon/groupware/groupware_settings.h"
+#include "addon/groupware/quick_add_dialog.h"
 #include "addon/html/documentation_run.h"
 #include "addon/html/html_settings.h"
 #include "addon/ide/access.h"
@@ -54,6 +55,7 @@ class AddonMenuFeatures : public MenuFeatures {
     return groupwareSettings != nullptr && groupwareSettings->enabled();
   }
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
+  void quickAdd(unsigned node) override { showQuickAdd(node); }
 };
 AddonMenuFeatures menuFeatures;
 
@@ -142,7 +144,7 @@ void startAddon(IIde* ide) {
   create(editorNavigation, barWindow, new_shell);
   create(topBar, new_shell, barWindow);
   create(barMenu, barWindow, menuFeatures);
-  create(completionSettings);
+  create(completionEngine);
   create(generalBehaviours);
   create(rcGenerator);
   create(delivery);
@@ -197,7 +199,7 @@ void stopAddon() {
   destroy(editorNavigation);
   destroy(barMenu);
   destroy(topBar);
-  destroy(completionSettings);
+  destroy(completionEngine);
   destroy(editorServiceHolder);
   destroy(rcGenerator);
   destroy(generalBehaviours);

@@ -52,9 +52,11 @@ void recordRecentProject(Work work) {
   }
 }
 
+// A project that does not load has no file for them, least of all that of the one before.
 void emptyTasks(Work) {
   if (taskList != nullptr) {
     taskList->clear();
+    taskList->setPath({});
   }
 }
 

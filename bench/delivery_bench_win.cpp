@@ -26,7 +26,7 @@
 namespace kesto {
 namespace {
 
-constexpr int kRounds = 15;
+constexpr int kRounds = 25;
 constexpr std::size_t kBlock = 65536;
 
 class Ide : public IUnknownImp<IIde> {

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "addon/delivery/mail_project_options.h"
 #include "addon/delivery/project_options.h"
 #include "addon/foundation/path.h"
 #include "addon/foundation/settings_values.h"
 #include "addon/foundation/text_file.h"
 #include "addon/groupware/project_options.h"
 #include "addon/html/project_options.h"
+#include "addon/mail/project_options.h"
 #include "addon/rcgen/project_options.h"
 #include "fuzz/fuzz.h"
 
@@ -172,7 +172,7 @@ void fill(StoredOptions& store, std::string_view lines) {
 
 struct AllOptions {
   DeliveryProjectOptions delivery;
-  MailProjectOptions mail;
+  Ensemble<String> recipients;
   GroupwareProjectOptions groupware;
   HtmlProjectOptions html;
   RcgenProjectOptions rcgen;
@@ -181,7 +181,7 @@ struct AllOptions {
     delivery.readCount(store);
     delivery.readGroups(store);
     delivery.tool_present.read(store);
-    mail.read(store);
+    readRecipients(store, recipients);
     groupware.server_directory.read(store);
     html.enabled.read(store);
     html.automatic.read(store);
@@ -191,8 +191,9 @@ struct AllOptions {
   }
   void write(ProjectOptionStore& store) const {
     delivery.writeGroups(store);
+    delivery.writeActive(store);
     delivery.tool_present.write(store);
-    mail.write(store);
+    writeRecipients(store, recipients);
     groupware.server_directory.write(store);
     html.enabled.write(store);
     html.automatic.write(store);
@@ -207,8 +208,8 @@ void checkOptions(std::string_view lines) {
   fill(damaged, lines);
   AllOptions options;
   options.read(damaged);
-  const auto limit = static_cast<std::size_t>(kOptionListLimit);
-  FUZZ_CHECK(options.delivery.groups.size() <= limit && options.mail.recipients.size() <= limit);
+  FUZZ_CHECK(options.delivery.groups.count() <= kOptionListLimit);
+  FUZZ_CHECK(options.recipients.count() <= kOptionListLimit);
   StoredOptions first;
   options.write(first);
   AllOptions again;
@@ -216,8 +217,8 @@ void checkOptions(std::string_view lines) {
   StoredOptions second;
   again.write(second);
   FUZZ_CHECK(first.contents() == second.contents());
-  FUZZ_CHECK(again.mail.recipients == options.mail.recipients);
-  FUZZ_CHECK(again.delivery.groups.size() == options.delivery.groups.size());
+  FUZZ_CHECK(again.recipients.count() == options.recipients.count());
+  FUZZ_CHECK(again.delivery.groups.count() == options.delivery.groups.count());
   FUZZ_CHECK(again.html.filters.value == options.html.filters.value);
 }
 

@@ -210,6 +210,8 @@ struct IProjectService : IUnknown {
   virtual ProjectNode STDMETHODCALLTYPE GetTopNode() = 0;
   virtual ProjectNode STDMETHODCALLTYPE GetFirstChild(ProjectNode node) = 0;
   virtual ProjectNode STDMETHODCALLTYPE GetNextSibling(ProjectNode node) = 0;
+  // The node above, or 0 for one at the top level.
+  virtual ProjectNode STDMETHODCALLTYPE GetNodeParent(ProjectNode node) = 0;
   // The first node, in tree order, whose name is that file, or 0.
   virtual ProjectNode STDMETHODCALLTYPE FindNode(IIdeString* file) = 0;
   // Null for a node that does not exist. A file's type is its extension with
@@ -217,7 +219,9 @@ struct IProjectService : IUnknown {
   virtual IIdeString* STDMETHODCALLTYPE GetNodeName(ProjectNode node) = 0;
   virtual IIdeString* STDMETHODCALLTYPE GetNodeType(ProjectNode node) = 0;
   virtual IIdeString* STDMETHODCALLTYPE GetNodeDescription(ProjectNode node) = 0;
-  // Appends under the parent (0: the top level). Returns 0 on failure.
+  // Appends under the parent (0: the top level). The name of a file may start at the
+  // project's folder; no file is made of it. A null or empty type is that of the name's
+  // extension. Returns 0 on failure.
   virtual ProjectNode STDMETHODCALLTYPE AddNode(ProjectNode parent, IIdeString* name,
                                                 IIdeString* type) = 0;
   // Removes the node with its children. Returns 1 on success.

@@ -9,7 +9,6 @@
 
 #include "addon/groupware/group_exchange.h"
 #include "addon/groupware/group_files_win.h"
-#include "addon/groupware/transfer.h"
 #include "addon/ide/tab_rows.h"
 
 namespace kesto {
@@ -28,8 +27,8 @@ class GroupDialog {
   class Enabling;
   struct Outcome {
     std::string report;
+    std::string notice;
     std::vector<std::string> left_alone;  // changed on the server meanwhile
-    std::vector<std::string> failures;
   };
 
   static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
@@ -54,7 +53,7 @@ class GroupDialog {
   std::string name_;
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
-  TabRows columns_;
+  TabRows rows_;
   ServerState server_ = ServerState::kAbsent;  // when the list was filled
   bool busy_ = false;                          // boxes have loops of their own
 };

@@ -17,19 +17,6 @@ constexpr ExchangeLook kGetLook = {"GroupwareGet", kGetStops, "\tYes\tNewer\tRef
 constexpr std::size_t kColumnOfNames = 20;
 constexpr std::size_t kMostCharacters = 3000;
 
-// As many names as a box holds, and most at most.
-std::string joined(std::string text, const std::vector<std::string>& names, const char* between,
-                   std::size_t most) {
-  text += names.front();
-  for (std::size_t i = 1; i < names.size(); ++i) {
-    if (i == most || text.size() + names[i].size() > kMostCharacters) {
-      return text + "\nand " + std::to_string(names.size() - i) + " more";
-    }
-    text += between + names[i];
-  }
-  return text;
-}
-
 }  // namespace
 
 const ExchangeLook& SendExchange::look() const {
@@ -94,12 +81,16 @@ bool GetExchange::press(int button, const std::vector<int>& selected) {
 }
 
 std::string leftAloneText(const std::vector<std::string>& names) {
-  return joined("Changed on the server since the list was filled, and left alone:\n\n", names,
-                names.size() > kColumnOfNames ? ", " : "\n", names.size());
-}
-
-std::string failuresText(const std::vector<std::string>& lines) {
-  return joined("", lines, "\n", kColumnOfNames);
+  std::string text =
+      "Changed on the server since the list was filled, and left alone:\n\n" + names.front();
+  const char* between = names.size() > kColumnOfNames ? ", " : "\n";
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    if (text.size() + names[i].size() > kMostCharacters) {
+      return text + "\nand " + std::to_string(names.size() - i) + " more";
+    }
+    text += between + names[i];
+  }
+  return text;
 }
 
 }  // namespace kesto

@@ -60,6 +60,7 @@ void Transfer::transfer(const EltGWsend& element) {
     // A read-only copy may be refreshed away: what was not sent is kept first.
     if (copied || keepLocal(name)) {
       files_.setWritable(element.path, false);
+      unsent_ += copied ? "" : ", " + name;
     }
   }
   if (copied) {
@@ -82,8 +83,7 @@ void Transfer::transfer(const EltGWget& element) {
   const bool kept =
       !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
   if (!kept) {
-    failures_.push_back("Error in creating file " +
-                        pathBelow(roots_.project, pathBelow(kKeptFolder, name)));
+    files_.tellRefused(keptPath(name).c_str());
   }
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
@@ -94,8 +94,12 @@ void Transfer::transfer(const EltGWget& element) {
     return;
   }
   files_.setWritable(local.c_str(), true);
+  lock(element, name, copied);
+}
+
+void Transfer::lock(const EltGWget& element, const std::string& name, bool copied) {
   if (!files_.setWritable(element.path, false)) {
-    failures_.push_back(std::string("Error in locking file ") + element.path.text());
+    unlocked_ += ", " + name;
     return;
   }
   if (!user_.empty()) {
@@ -104,6 +108,14 @@ void Transfer::transfer(const EltGWget& element) {
   if (copied) {
     report_ += name + " is locked\n";
   }
+}
+
+std::string Transfer::notice() const {
+  constexpr std::size_t kBetween = 2;
+  if (!unsent_.empty()) {
+    return "Not sent, read-only now and kept in .kesto: " + unsent_.substr(kBetween);
+  }
+  return unlocked_.empty() ? "" : "Not locked: " + unlocked_.substr(kBetween);
 }
 
 void Transfer::makeFolders(const std::string& root, const std::string& name) {
@@ -119,16 +131,19 @@ void Transfer::makeFolders(const std::string& root, const std::string& name) {
   }
 }
 
+std::string Transfer::keptPath(const std::string& name) const {
+  return pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+}
+
 // The text that was kept last stands under the file's own name, those before it have
 // numbers behind.
 bool Transfer::keepLocal(const std::string& name) {
   const std::string local = pathBelow(roots_.project, name);
-  const std::string below_project = pathBelow(kKeptFolder, name);
-  const std::string kept = pathBelow(roots_.project, below_project);
+  const std::string kept = keptPath(name);
   if (files_.sameText(local.c_str(), kept.c_str())) {
     return true;
   }
-  makeFolders(roots_.project, below_project);
+  makeFolders(roots_.project, pathBelow(kKeptFolder, name));
   return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
 }
 

@@ -4,23 +4,25 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace kesto {
 
-struct CompletionAnswer {
-  int result = 0;           // 0 no match, 1 a unique one, 2 several
-  std::string text;         // what continues the word, may be empty
-  std::string status;       // what the status line shows of the matches
-  std::string description;  // of the matched entry, may be empty
+// What a strike of the key comes to.
+struct CompletionStep {
+  std::string text;                                // to insert at the caret, may be empty
+  std::string status = "No available completion";  // for the status line
 };
 
 class CompletionSource {
  public:
   virtual ~CompletionSource() = default;
-  virtual CompletionAnswer complete(const char* prefix) = 0;
+  // The word before the caret: at most 99 characters, and not empty.
+  virtual CompletionStep strike(std::string_view word) = 0;
 };
 
-// Null while there is no engine: every word is then one without a match.
+// Null while nothing can complete: every word is then one without a match, and a key that
+// writes an ordinary one.
 extern CompletionSource* completionSource;
 
 }  // namespace kesto

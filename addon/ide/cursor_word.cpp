@@ -40,10 +40,10 @@ std::string_view wordAround(std::string_view line, int column) {
 }
 
 std::string_view wordBefore(std::string_view line, int column) {
-  if (column <= 1) {
+  if (column <= 1 || static_cast<size_t>(column) - 1 > line.size()) {
     return {};
   }
-  const size_t end = std::min(static_cast<size_t>(column) - 1, line.size());
+  const size_t end = static_cast<size_t>(column) - 1;
   size_t start = end;
   while (start > 0 && isIdentifierCharacter(line[start - 1])) {
     --start;

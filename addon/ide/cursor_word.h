@@ -9,8 +9,8 @@ namespace kesto {
 // the column lies outside the line.
 std::string_view wordAround(std::string_view line, int column);
 
-// The word that ends before the 1-based column; empty in column 1. A column
-// past the end means the end.
+// The word that ends before the 1-based column; empty in column 1. Past the end there is
+// none either: a caret may stand away from its line's text.
 std::string_view wordBefore(std::string_view line, int column);
 
 }  // namespace kesto

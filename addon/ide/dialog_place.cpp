@@ -4,10 +4,11 @@ namespace kesto {
 
 void centreOnOwner(HWND dialog) {
   const HWND owner = GetParent(dialog);
+  const bool shown = owner != nullptr && !IsIconic(owner);
   RECT place = {};
   RECT around = {};
   GetWindowRect(dialog, &place);
-  GetWindowRect(owner != nullptr ? owner : GetDesktopWindow(), &around);
+  GetWindowRect(shown ? owner : GetDesktopWindow(), &around);
   SetWindowPos(dialog, nullptr, (around.left + around.right - (place.right - place.left)) / 2,
                (around.top + around.bottom - (place.bottom - place.top)) / 2, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);

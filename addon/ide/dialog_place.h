@@ -5,7 +5,7 @@
 
 namespace kesto {
 
-// In the middle of its owner, or of the screen without one.
+// In the middle of its owner, or of the screen when that is minimised or there is none.
 void centreOnOwner(HWND dialog);
 
 }  // namespace kesto

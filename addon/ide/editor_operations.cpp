@@ -55,22 +55,20 @@ class EditorTransaction {
   bool aimed_ = false;
 };
 
-void insertAtCursor(const EditorTransaction& editor, const std::string& text, int column,
+// False when nothing came of it: the IDE may ask about a file that is not to be changed.
+bool insertAtCursor(const EditorTransaction& editor, const std::string& text, int column,
                     int line) {
-  if (const ComPtr<IIdeString> string = makeIdeString(text.c_str())) {
-    editor->InsertText(string.get());
-    editor->SetCursor(column + static_cast<int>(text.size()), line);
+  const ComPtr<IIdeString> string = makeIdeString(text.c_str());
+  if (!string) {
+    return false;
   }
-}
-
-// A second request on a word that cannot be continued shows its description.
-void showAnswerWithoutText(const CompletionAnswer& answer, std::string& shown_description) {
-  if (answer.description != shown_description) {
-    shown_description = answer.description;
-    showStatus(answer.status.c_str());
-    return;
+  const std::string before = editor.line(line);
+  editor->InsertText(string.get());
+  if (editor.line(line) == before) {
+    return false;
   }
-  showStatus(answer.description.empty() ? answer.status.c_str() : answer.description.c_str());
+  editor->SetCursor(column + static_cast<int>(text.size()), line);
+  return true;
 }
 
 }  // namespace
@@ -102,7 +100,6 @@ void wordAtCursor(const char* file, char (&output)[kWordBufferSize]) {
 }
 
 void completeAtCursor(const char* file) {
-  static std::string shown_description;
   const std::string name(fileWithoutLine(file));
   const EditorTransaction editor(name.c_str());
   if (!editor) {
@@ -112,23 +109,16 @@ void completeAtCursor(const char* file) {
   int line = 0;
   editor->GetCursor(&column, &line);
   const std::string text = editor.line(line);
-  const std::string word(wordBefore(text, column));
+  const std::string_view word = wordBefore(text, column);
   if (word.empty() || word.size() > kLongestCompletedWord) {
     return;
   }
-  const CompletionAnswer answer =
-      completionSource != nullptr ? completionSource->complete(word.c_str()) : CompletionAnswer{};
-  if (answer.result == 0) {
-    showStatus("No available completion");
+  const CompletionStep step =
+      completionSource != nullptr ? completionSource->strike(word) : CompletionStep{};
+  if (!step.text.empty() && !insertAtCursor(editor, step.text, column, line)) {
     return;
   }
-  if (answer.text.empty()) {
-    showAnswerWithoutText(answer, shown_description);
-    return;
-  }
-  insertAtCursor(editor, answer.text, column, line);
-  shown_description = answer.description;
-  showStatus(answer.result == 1 ? "Completion done" : answer.status.c_str());
+  showStatus(step.status.c_str());
 }
 
 }  // namespace kesto

@@ -165,4 +165,10 @@ void ProjectTestA::unregisterClients() {
   setProjectOpen(false);
 }
 
+void ProjectTestA::tellAdded(ProjectNode node) const {
+  if (client_) {
+    client_->NodeAdded(node);
+  }
+}
+
 }  // namespace kesto

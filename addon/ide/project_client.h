@@ -79,6 +79,8 @@ class ProjectTestA {
   virtual void registerClients();
   virtual void unregisterClients();
 
+  // Has the add-on take in a node that it added itself, whether the IDE tells of it or not.
+  void tellAdded(ProjectNode node) const;
   // Null when the IDE has none.
   IProjectService* service() const { return service_.get(); }
 

@@ -26,6 +26,14 @@ bool ProjectNodes::exists(unsigned node) const {
   return service_ && takeIdeString(service_->GetNodeName(node)) != nullptr;
 }
 
+unsigned ProjectNodes::add(unsigned parent, const std::string& name, const std::string& type) {
+  const ComPtr<IIdeString> name_string = makeIdeString(name.c_str());
+  const ComPtr<IIdeString> type_string =
+      type.empty() ? ComPtr<IIdeString>() : makeIdeString(type.c_str());
+  const bool made = name_string && (type.empty() || type_string);
+  return service_ && made ? service_->AddNode(parent, name_string.get(), type_string.get()) : 0;
+}
+
 void ProjectNodes::remove(unsigned node) const {
   if (service_) {
     service_->RemoveNode(node);

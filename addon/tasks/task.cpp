@@ -74,12 +74,6 @@ void Task::appendRow(std::string& out, const DateFormat& format) const {
   out += format.shortDate(end);
 }
 
-void Task::appendRow(String& out, const DateFormat& format) const {
-  std::string row;
-  appendRow(row, format);
-  out += std::string_view(row);
-}
-
 // The public flag stands twice in a record; the second one counts.
 int Task::writeNumbers(FILE* file) const {
   NumberBlock block;

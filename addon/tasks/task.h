@@ -25,7 +25,6 @@ class Task : public Basic {
   // Appends the row of the task list: name, type, state, priority and both dates, with
   // tabs in between.
   void appendRow(std::string& out, const DateFormat& format) const;
-  void appendRow(String& out, const DateFormat& format) const;
 
   // The record of a task file. A failed read leaves what arrived. A state that there is
   // not is read as "to do".

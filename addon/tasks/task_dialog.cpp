@@ -1,5 +1,6 @@
 #include "addon/tasks/task_dialog.h"
 
+#include <algorithm>
 #include <string>
 
 #include "addon/foundation/message_box.h"
@@ -84,6 +85,8 @@ INT_PTR TaskDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       if (modified_) {
         tasks_.save();
       }
+      // A closed dialog is not told of another way to write days.
+      dates_.forget();
       return TRUE;
     default:
       return FALSE;
@@ -128,7 +131,7 @@ void TaskDialog::command(HWND dialog, int id, int notification) {
 void TaskDialog::changeOrder(HWND dialog, int id) {
   const Task* selected = taskAt(selectedRow(dialog));
   if (id == TASKS_ORDER) {
-    tasks_.order = static_cast<int>(SendDlgItemMessageA(dialog, id, CB_GETCURSEL, 0, 0));
+    tasks_.order = selectedEntry(dialog, id);
   } else if (id == TASKS_REVERSE) {
     tasks_.reverse = IsDlgButtonChecked(dialog, id) == BST_CHECKED;
   } else {
@@ -165,9 +168,7 @@ void TaskDialog::remove(HWND dialog) {
   modified_ = true;
   tasks_.removeTask(task);
   tasks_.rebuildView();
-  refresh(dialog);
-  const int last = tasks_.view().count() - 1;
-  selectRow(dialog, row < last ? row : last);
+  refresh(dialog, std::min(row, tasks_.view().count() - 1));
 }
 
 void TaskDialog::apply(HWND dialog) {

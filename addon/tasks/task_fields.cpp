@@ -1,5 +1,6 @@
 // The task list's controls: its list of rows and its edit area.
 #include <algorithm>
+#include <charconv>
 #include <string>
 
 #include "addon/tasks/task_dialog.h"
@@ -18,7 +19,6 @@ constexpr const char* kCounts[kTaskStates] = {"to &Do : %d", "&Coded : %d", "&Te
 constexpr int kTaskControls[] = {TASKS_REMOVE, TASKS_NAME,  TASKS_TYPE, TASKS_STATE, TASKS_PRIORITY,
                                  TASKS_PUBLIC, TASKS_START, TASKS_END,  TASKS_TEXT,  TASKS_OK};
 constexpr int kDigits = 10;
-constexpr int kRowBytes = 64;  // that a row takes, about
 
 void addTo(HWND dialog, int combo, const char* text) {
   SendDlgItemMessageA(dialog, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -46,6 +46,22 @@ std::string textOf(HWND dialog, int id) {
   text.resize(
       static_cast<size_t>(GetWindowTextA(control, text.data(), static_cast<int>(text.size()))));
   return text;
+}
+
+// 0 when there is none. GetDlgItemInt takes the greatest one for a failure on some systems.
+std::uint32_t numberOf(HWND dialog, int id) {
+  const std::string text = textOf(dialog, id);
+  const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
+  std::uint32_t number = 0;
+  std::from_chars(text.data() + start, text.data() + text.size(), number);
+  return number;
+}
+
+// Most controls show already what they are to show, and painting them takes time.
+void setText(HWND dialog, int id, const std::string& text) {
+  if (textOf(dialog, id) != text) {
+    SetDlgItemTextA(dialog, id, text.c_str());
+  }
 }
 
 // The keyboard would be lost in a control that is switched off.
@@ -79,8 +95,7 @@ void TaskDialog::fill(HWND dialog) {
     addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
   }
   columns_.setUp(dialog, dates_);
-  refresh(dialog);
-  selectRow(dialog, tasks_.view().count() > 0 ? 0 : -1, true);
+  refresh(dialog, std::min(0, tasks_.view().count() - 1), true);
   modified_ = false;
 }
 
@@ -92,7 +107,7 @@ void TaskDialog::showCounts(HWND dialog) const {
   for (int state = 0; state < kTaskStates; ++state) {
     char caption[40] = "";
     wsprintfA(caption, kCounts[state], counts[state]);
-    SetDlgItemTextA(dialog, TASKS_SHOW_FIRST + state, caption);
+    setText(dialog, TASKS_SHOW_FIRST + state, caption);
   }
 }
 
@@ -100,40 +115,27 @@ Task* TaskDialog::taskAt(int row) const {
   return row >= 0 && row < tasks_.view().count() ? tasks_.view()[row] : nullptr;
 }
 
-void TaskDialog::refresh(HWND dialog) {
+// The row is selected before the list is painted: to scroll there afterwards takes as long
+// as painting does.
+void TaskDialog::refresh(HWND dialog, int selected, bool force) {
   const HWND list = GetDlgItem(dialog, TASKS_LIST);
   const Tableau<Task>& view = tasks_.view();
   SendMessageA(list, WM_SETREDRAW, FALSE, 0);
-  SendMessageA(list, LB_RESETCONTENT, 0, 0);
-  SendMessageA(list, LB_INITSTORAGE, static_cast<WPARAM>(view.count()), view.count() * kRowBytes);
-  // Straight to the list: message hooks would look at each of thousands of rows.
-  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
-  std::string row;
-  int extent = 0;
-  for (int i = 0; i < view.count(); ++i) {
-    row.clear();
-    view[i]->appendRow(row, dates_);
-    CallWindowProcA(procedure, list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
-    extent = std::max(extent, columns_.extentOf(row));
-  }
-  SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+  columns_.rows().replace(view.count(),
+                          [&](int row, std::string& text) { view[row]->appendRow(text, dates_); });
+  SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(selected), 0);
   SendMessageA(list, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(list, nullptr, TRUE);
   showCounts(dialog);
+  show(dialog, selected);
+  enable(dialog, selected, force);
 }
 
 // After a change: the task stays selected while it is in view, else the first is.
 void TaskDialog::refreshAndKeep(HWND dialog, const Task* task) {
   tasks_.rebuildView();
-  refresh(dialog);
   const int row = task != nullptr ? tasks_.view().indexOf(task) : kErrTab;
-  selectRow(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
-}
-
-void TaskDialog::selectRow(HWND dialog, int row, bool force) {
-  SendDlgItemMessageA(dialog, TASKS_LIST, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
-  show(dialog, row);
-  enable(dialog, row, force);
+  refresh(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
 }
 
 void TaskDialog::show(HWND dialog, int row) {
@@ -143,16 +145,20 @@ void TaskDialog::show(HWND dialog, int row) {
 }
 
 void TaskDialog::put(HWND dialog, const TaskForm& form) {
-  SetDlgItemTextA(dialog, TASKS_NAME, form.name.c_str());
-  SetDlgItemTextA(dialog, TASKS_TYPE, form.type.c_str());
+  setText(dialog, TASKS_NAME, form.name);
+  setText(dialog, TASKS_TYPE, form.type);
   SendDlgItemMessageA(dialog, TASKS_STATE, CB_SETCURSEL, static_cast<WPARAM>(form.state), 0);
-  SetDlgItemInt(dialog, TASKS_PRIORITY, form.priority, FALSE);
+  setText(dialog, TASKS_PRIORITY, std::to_string(form.priority));
   CheckDlgButton(dialog, TASKS_PUBLIC, form.is_public ? BST_CHECKED : BST_UNCHECKED);
-  SetDlgItemTextA(dialog, TASKS_START, form.start.c_str());
-  SetDlgItemTextA(dialog, TASKS_END, form.end.c_str());
-  SetDlgItemTextA(dialog, TASKS_TEXT, form.text.c_str());
+  setText(dialog, TASKS_START, form.start);
+  setText(dialog, TASKS_END, form.end);
+  setText(dialog, TASKS_TEXT, form.text);
   // A field may hold a text otherwise than it was given.
   shown_ = fieldsOf(dialog);
+}
+
+int selectedEntry(HWND dialog, int combo) {
+  return std::max(0, static_cast<int>(SendDlgItemMessageA(dialog, combo, CB_GETCURSEL, 0, 0)));
 }
 
 TaskForm fieldsOf(HWND dialog) {
@@ -162,8 +168,8 @@ TaskForm fieldsOf(HWND dialog) {
   form.start = textOf(dialog, TASKS_START);
   form.end = textOf(dialog, TASKS_END);
   form.text = textOf(dialog, TASKS_TEXT);
-  form.state = static_cast<int>(SendDlgItemMessageA(dialog, TASKS_STATE, CB_GETCURSEL, 0, 0));
-  form.priority = GetDlgItemInt(dialog, TASKS_PRIORITY, nullptr, FALSE);
+  form.state = selectedEntry(dialog, TASKS_STATE);
+  form.priority = numberOf(dialog, TASKS_PRIORITY);
   form.is_public = IsDlgButtonChecked(dialog, TASKS_PUBLIC) == BST_CHECKED;
   return form;
 }

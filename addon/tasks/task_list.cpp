@@ -104,6 +104,9 @@ void TaskList::load() {
 }
 
 void TaskList::save() {
+  if (path_.empty()) {
+    return;
+  }
   SafeFile file(files_, path_.view());
   file.writeRecord(*this);
   String kept;

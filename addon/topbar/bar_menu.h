@@ -18,7 +18,7 @@ class MenuFeatures {
   virtual ~MenuFeatures() = default;
   virtual bool groupwareActive() const { return false; }
   virtual bool htmlActive() const { return false; }
-  // Offers to add what the file of the node includes to the project.
+  // Offers a new node for the project, next to this one.
   virtual void quickAdd(unsigned /*node*/) {}
 };
 

@@ -1,6 +1,7 @@
 // The bar's menus and their commands, with a project in the played IDE.
 #include "addon/topbar/bar_commands.h"
 
+#include "addon/ide/project_client.h"
 #include "addon/topbar/command_table.h"
 #include "addon/topbar/recent_files.h"
 #include "doctest.h"
@@ -90,6 +91,13 @@ TEST_CASE("items tell what they would do, and run the tools of what they name") 
   session.ide.tools.result = kToolErrors;
   session.command(10000);
   CHECK(session.lastStatus() == "Tool: Errors");
+}
+
+TEST_CASE("the menus take in a node that the IDE does not tell of") {
+  Project session;
+  session.windows.commands();
+  kesto::projectTestA->tellAdded(2);
+  CHECK(session.windows.commands() == std::vector<int>{103});
 }
 
 TEST_CASE("keys held make other commands of a project file") {

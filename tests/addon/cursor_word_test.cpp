@@ -35,6 +35,7 @@ TEST_CASE("the word before a column") {
   CHECK(kesto::wordBefore("  print(x", 8) == "print");
   CHECK(kesto::wordBefore("  print(x", 6) == "pri");
   CHECK(kesto::wordBefore("print", 1).empty());
-  CHECK(kesto::wordBefore("print", 99) == "print");
+  CHECK(kesto::wordBefore("print", 6) == "print");
+  CHECK(kesto::wordBefore("print", 7).empty());
   CHECK(kesto::wordBefore("a b", 3).empty());
 }

@@ -13,13 +13,13 @@
 
 namespace {
 
-class Answering : public kesto::CompletionSource {
+class Stepping : public kesto::CompletionSource {
  public:
-  kesto::CompletionAnswer answer;
+  kesto::CompletionStep step;
   std::string asked;
-  kesto::CompletionAnswer complete(const char* prefix) override {
-    asked = prefix;
-    return answer;
+  kesto::CompletionStep strike(std::string_view word) override {
+    asked = word;
+    return step;
   }
 };
 
@@ -47,28 +47,40 @@ int Client::living = 0;
 
 }  // namespace
 
-TEST_CASE("an engine's answer is inserted, and a second strike describes the word") {
+TEST_CASE("what completes a word is inserted at the caret, which moves behind it") {
   Session session;
   session.create();
-  Answering engine;
+  Stepping engine;
   kesto::completionSource = &engine;
   session.edit("x = pri;", 8);
-  engine.answer = {2, "nt", "Possible : print, printf", "what print does"};
+  engine.step = {"nt", "Possible :print, printf"};
   kesto::completeAtCursor("C:\\A.CPP");
   CHECK(engine.asked == "pri");
   CHECK(session.ide.editor.lines[0] == "x = print;");
   CHECK(session.ide.editor.column == 10);
-  CHECK(session.lastStatus() == "Possible : print, printf");
-  engine.answer = {1, "f", "Completion complete", "printf: 100% formatted"};
+  CHECK(session.lastStatus() == "Possible :print, printf");
+  engine.step = {"", "100% formatted"};
+  kesto::completeAtCursor("C:\\A.CPP:2");
+  CHECK(session.ide.editor.lines[0] == "x = print;");
+  CHECK(session.lastStatus() == "100% formatted");
+  const size_t told = session.ide.status_line.texts.size();
+  session.ide.editor.refuses = true;
+  engine.step.text = "er";
   kesto::completeAtCursor("C:\\A.CPP");
-  CHECK(session.ide.editor.lines[0] == "x = printf;");
-  CHECK(session.lastStatus() == "Completion done");
-  engine.answer.text.clear();
+  CHECK(session.ide.editor.column == 10);
+  CHECK(session.ide.status_line.texts.size() == told);
+  // No word, or one of 100 characters, is none to complete.
+  engine.asked.clear();
+  session.edit("a " + std::string(100, 'w'), 103);
+  for (const int column : {1, 3, 103}) {
+    session.ide.editor.column = column;
+    kesto::completeAtCursor("C:\\A.CPP");
+  }
+  CHECK(engine.asked.empty());
+  CHECK(session.ide.status_line.texts.size() == told);
+  session.ide.editor.column = 102;
   kesto::completeAtCursor("C:\\A.CPP");
-  CHECK(session.lastStatus() == "printf: 100% formatted");
-  engine.answer.description = "another";
-  kesto::completeAtCursor("C:\\A.CPP");
-  CHECK(session.lastStatus() == "Completion complete");
+  CHECK(engine.asked == std::string(99, 'w'));
   kesto::completionSource = nullptr;
 }
 

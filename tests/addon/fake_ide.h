@@ -91,8 +91,11 @@ class Editor : public Counted<IEditorService> {
                : nullptr;
   }
   void STDMETHODCALLTYPE InsertText(IIdeString* text) override {
-    lines[static_cast<size_t>(line) - 1].insert(static_cast<size_t>(column) - 1, text->GetText());
+    if (!refuses) {
+      lines[static_cast<size_t>(line) - 1].insert(static_cast<size_t>(column) - 1, text->GetText());
+    }
   }
+  bool refuses = false;  // as its user answers about a file that is not to be changed
   int STDMETHODCALLTYPE SaveModified(IIdeString** names) override {
     ++savings;
     if (modified.empty()) {
@@ -172,6 +175,9 @@ class Project : public Counted<IProjectService> {
   ProjectNode STDMETHODCALLTYPE GetFirstChild(ProjectNode node) override { return after(0, node); }
   ProjectNode STDMETHODCALLTYPE GetNextSibling(ProjectNode node) override {
     return after(node, nodes[node - 1].parent);
+  }
+  ProjectNode STDMETHODCALLTYPE GetNodeParent(ProjectNode node) override {
+    return exists(node) ? nodes[node - 1].parent : 0;
   }
   ProjectNode STDMETHODCALLTYPE FindNode(IIdeString*) override { return 0; }
   IIdeString* STDMETHODCALLTYPE GetNodeName(ProjectNode node) override {

@@ -9,10 +9,12 @@
 #include "addon/ide/current_project.h"
 #include "addon/mail/mail.h"
 #include "addon/rcgen/project_options.h"
+#include "addon/tasks/task_list.h"
 #include "addon/topbar/recent_files.h"
 #include "addon/topbar/top_bar.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
+#include "tests/foundation/played_disk.h"
 
 namespace {
 
@@ -107,7 +109,14 @@ TEST_CASE("a project that is told of but not loaded is none") {
   session.create();
   kesto::RecentList& projects = kesto::recentFiles->projects();
   projects.addNew("C:\\p.ide");
+  kesto::PlayedDisk disk;
+  kesto::TaskList tasks(disk);
+  tasks.setPath("C:\\before.ide.tsk");
+  kesto::taskList = &tasks;
   session.ide.project.open("C:\\p.ide");
+  kesto::taskList = nullptr;
+  tasks.save();
+  CHECK(disk.files.empty());
   CHECK(!kesto::isProjectOpen());
   CHECK(session.ide.project.asked.empty());
   CHECK(session.ide.make.clients.empty());

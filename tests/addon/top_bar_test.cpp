@@ -3,10 +3,8 @@
 
 #include <string>
 
-#include "addon/addon_hook_host.h"
-#include "addon/completion/completion_settings.h"
+#include "addon/completion/completion_engine.h"
 #include "addon/foundation/settings_store.h"
-#include "addon/ide/completion_source.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/topbar/bar_window.h"
@@ -44,22 +42,6 @@ TEST_CASE("the bar hands activation on and is not closed by a person") {
   kesto::unregisterBarClass(GetModuleHandleA(nullptr));
 }
 
-TEST_CASE("the completion key is one while something completes") {
-  OwnSettings root;
-  class Source : public kesto::CompletionSource {
-    kesto::CompletionAnswer complete(const char*) override { return {}; }
-  };
-  Source source;
-  const kesto::AddonHookHost host;
-  kesto::completionSettings = new kesto::CompletionSettings;
-  CHECK(host.completionKey() == 0);
-  kesto::completionSource = &source;
-  CHECK(host.completionKey() == 222);
-  kesto::completionSource = nullptr;
-  delete kesto::completionSettings;
-  kesto::completionSettings = nullptr;
-}
-
 TEST_CASE("settings go back under their names, with the values that were read") {
   OwnSettings root;
   const struct {
@@ -94,6 +76,9 @@ TEST_CASE("settings go back under their names, with the values that were read") 
       {"Completion", "Enabled", "0"},
       {"Completion", "KeyCode", "4032"},
       {"Completion", "TextCode", "Ctrl+Space"},
+      {"Completion", "NbFiles", "2"},
+      {"Completion\\Files", "Entry0", "C:\\two.kwd"},
+      {"Completion\\Files", "Entry1", "one.kwd"},
   };
   kesto::SettingsStore& store = kesto::settings();
   for (const auto& value : values) {
@@ -103,7 +88,7 @@ TEST_CASE("settings go back under their names, with the values that were read") 
     const kesto::TopBar bar(true, nullptr);
     const kesto::EditorNavigation navigation(nullptr, true);
     const kesto::QuickFind quick_find(nullptr);
-    const kesto::CompletionSettings completion;
+    const kesto::CompletionEngine completion;
     CHECK(!bar.enabled());
     CHECK(bar.construction() == kesto::BarConstruction::kNoMenu);
     CHECK(!navigation.enabled());

@@ -23,8 +23,9 @@ class PlayedGroup : public GroupFiles {
   std::map<std::string, File> files;
   std::set<std::string> directories;
   std::string failing;           // a part of the paths that no copy gets to
-  std::string stuck;             // the path whose flag stays
   int copies = 0;                // so far; copyAside counts
+  std::string stuck;             // a path whose flag cannot be changed
+  std::string refused;           // the paths that were told
   int failing_copy = 0;          // which of them fails; they count from 1
   std::set<std::string> listed;  // "DIRECTORY|MASK"
   int listings = 0;
@@ -104,6 +105,7 @@ class PlayedGroup : public GroupFiles {
     files[path] = {text, 0, true};
     return true;
   }
+  void tellRefused(const char* path) override { refused += path; }
 
  private:
   static FileFacts factsOf(const File& file) {

@@ -15,7 +15,7 @@ const GroupRoots kRoots = {"P", "S"};
 struct Outcome {
   std::string report;
   std::string changed;
-  std::string failures;
+  std::string notice;
 };
 
 template <class T>
@@ -26,12 +26,9 @@ Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, Se
       transfer.transfer(*list.at(i));
     }
   }
-  Outcome outcome = {transfer.report(), "", ""};
+  Outcome outcome = {transfer.report(), "", transfer.notice()};
   for (const std::string& name : transfer.changed()) {
     outcome.changed += name + '\n';
-  }
-  for (const std::string& line : transfer.failures()) {
-    outcome.failures += line + '\n';
   }
   return outcome;
 }
@@ -121,6 +118,8 @@ TEST_CASE("what each action does to both copies") {
                              : action == "send!"                                       ? "new w"
                                                                                        : "";
     CHECK(files.at("P\\.kesto\\a.h") == lost);
+    CHECK(outcome.notice ==
+          (action == "send!" ? "Not sent, read-only now and kept in .kesto: a.h" : ""));
   }
 }
 
@@ -134,6 +133,14 @@ TEST_CASE("a lock file has the name of whoever came last, and needs one") {
   get(files, GetRequest::kGet, nothing, "Ann");
   CHECK(files.at("S\\a.h.lock") == "Ann w");
   CHECK(files.at("S\\a.h") == "text r");
+  // No lock, no word of one.
+  files.put("S\\b.h", "text", 5);
+  files.stuck = "S\\b.h";
+  const Outcome outcome = get(files, GetRequest::kGet, nothing);
+  CHECK(outcome.report == "a.h is locked\n");
+  CHECK(outcome.notice == "Not locked: b.h");
+  CHECK(files.at("P\\b.h") == "text w");
+  CHECK(files.at("S\\b.h.lock").empty());
 }
 
 TEST_CASE("folders missing on the other side are made") {
@@ -169,23 +176,6 @@ TEST_CASE("nothing is put where the server's disk was") {
   CHECK(files.at("P\\a.h") == "text w");
   CHECK(send(files, SendRequest::kUpdate, nothing).changed.empty());
   CHECK(files.at("S\\b.h") == "more r");
-}
-
-TEST_CASE("what is not locked, or cannot be kept, is told") {
-  PlayedGroup files;
-  files.directories = {"P"};
-  files.put("S\\a.h", "hers", 6);
-  files.stuck = "S\\a.h";
-  Outcome outcome = get(files, GetRequest::kGet, nothing);
-  CHECK(outcome.report.empty());
-  CHECK(outcome.failures == "Error in locking file S\\a.h\n");
-  CHECK(files.at("P\\a.h") == "hers w");
-  CHECK(files.at("S\\a.h.lock").empty());
-  files.put("P\\a.h", "mine", 5);
-  files.failing = ".kesto";
-  outcome = get(files, GetRequest::kRefresh, nothing);
-  CHECK(outcome.failures == "Error in creating file P\\.kesto\\a.h\n");
-  CHECK(files.at("P\\a.h") == "mine w");
 }
 
 // The server's copies since the list was filled: 1 came, 2 went, 3 has another time within
@@ -247,6 +237,7 @@ TEST_CASE("a local text that a get overwrites is kept, each of them") {
   files.put("P\\sub\\a.h", "four", 5);
   CHECK(get(files, GetRequest::kGet, nothing).report.empty());
   CHECK(files.at("P\\sub\\a.h") == "four w");
+  CHECK(files.refused == "P\\.kesto\\sub\\a.h");
 }
 
 }  // namespace kesto

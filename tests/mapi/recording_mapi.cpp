@@ -1,5 +1,5 @@
 // A MAPI that sends nothing. What MAPISendMail is given goes into mapi.txt of the folder
-// that KESTO_MAIL names (a path of Windows or Unix), whole, and escaped so that each byte shows. It
+// that KESTO_MAIL names (a path of Unix), whole, and escaped so that each byte shows. It
 // answers the code in KESTO_MAPI_ANSWER, 0 unless there is one; where its dialog is asked
 // for, it shows a box first, and Cancel answers that the user aborted.
 #include <windows.h>
@@ -80,8 +80,7 @@ std::string describe(const MapiMessage& message) {
 }
 
 void note(const std::string& text) {
-  const std::string folder = variable("KESTO_MAIL");
-  const std::string path = (folder.starts_with("/") ? "Z:" : "") + folder + "/mapi.txt";
+  const std::string path = "Z:" + variable("KESTO_MAIL") + "/mapi.txt";
   FILE* const file = fopen(path.c_str(), "ab");
   if (file != nullptr) {
     fwrite(text.data(), 1, text.size(), file);

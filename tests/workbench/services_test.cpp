@@ -254,6 +254,8 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   const auto type = program.text(".cpp");
   const ProjectNode node = service->AddNode(service->GetTopNode(), name.get(), type.get());
   CHECK(service->FindNode(name.get()) == node);
+  CHECK(service->GetNodeParent(node) == service->GetTopNode());
+  CHECK(service->GetNodeParent(service->GetTopNode()) == 0);
   program.application.describeNode(node, "new");
   program.application.setNodePath(node, kOptionSourcePath, "src");
   const unsigned int group = program.application.addNode(0, "Group", "Group");
@@ -293,6 +295,28 @@ TEST_CASE("clients hear of projects and makes until they are removed") {
   service->AddClient(&late);
   CHECK(late.calls == "opened " + file + " ");
   service->RemoveClient(&late);
+}
+
+TEST_CASE_FIXTURE(OpenFolder,
+                  "a node of no type has that of its name, which starts at the folder") {
+  const auto service = program.held<IProjectService>(ideapi::kProjectService);
+  REQUIRE(program.application.openPath(folder.path()));
+  const auto type = program.text("");
+  const struct {
+    const char* name;
+    const char* full;
+    const char* type;
+  } rows[] = {{"sub\\util.h", "sub\\util.h", ".h"},
+              {".profile", ".profile", ".profile"},
+              {"sub.dir/notes", "sub.dir\\notes", ".txt"},
+              {"ends.", "ends.", ".txt"}};
+  for (const auto& row : rows) {
+    const auto name = program.text(row.name);
+    const ProjectNode node = service->AddNode(service->GetTopNode(), name.get(), nullptr);
+    CHECK(take(service->GetNodeName(node)) == folder.file(row.full));
+    CHECK(take(service->GetNodeType(node)) == row.type);
+    CHECK(take(service->GetNodeType(service->AddNode(node, name.get(), type.get()))) == row.type);
+  }
 }
 
 TEST_CASE_FIXTURE(OpenFolder, "tools") {

@@ -265,12 +265,13 @@ unsigned int Application::findNode(const std::string& name) {
 
 unsigned int Application::addNode(unsigned int parent, const std::string& name,
                                   const std::string& type) {
-  return root_.project().add(parent, project_.fullName(name, type), type);
+  return root_.project().add(parent, name, type);
 }
 
 bool Application::renameNode(unsigned int node, const std::string& name) {
   const NodeInfo* info = project_.node(node);
-  return info != nullptr && root_.project().rename(node, project_.fullName(name, info->type));
+  return info != nullptr &&
+         root_.project().rename(node, project_.fullName(info->parent, name, info->type));
 }
 
 bool Application::removeNode(unsigned int node) {

@@ -30,8 +30,15 @@ bool isContainer(const NodeInfo& node) {
   return type.empty() || type[0] != '.' || type == ".exe" || type == ".dll" || type == ".lib";
 }
 
-std::string Project::fullName(const std::string& name, const std::string& type) const {
-  const bool whole = name.empty() || !isPathName(name, type) || isAbsolutePath(name);
+std::string Project::typeFor(const std::string& name) {
+  const std::string_view extension = extensionOf(name);
+  // A file without an extension is a text like any other.
+  return extension.size() > 1 ? std::string(extension) : ".txt";
+}
+
+std::string Project::fullName(unsigned int parent, const std::string& name,
+                              const std::string& type) const {
+  const bool whole = name.empty() || !tree_.isPathName(parent, name, type) || isAbsolutePath(name);
   return whole ? name : normalPath(joinPath(folder_, name));
 }
 

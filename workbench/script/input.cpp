@@ -35,6 +35,13 @@ DWORD absolute(LONG pixel, int metric) {
 
 }  // namespace
 
+void holdAlt(bool down) {
+  BYTE keys[256] = {};
+  GetKeyboardState(keys);
+  keys[VK_MENU] = down ? 0x80 : 0;
+  SetKeyboardState(keys);
+}
+
 void pressKey(const KeyStroke& stroke) {
   sendModifiers(stroke, true);
   sendKey(stroke.key, true);

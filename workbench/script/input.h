@@ -10,6 +10,8 @@ namespace workbench {
 
 enum class MouseButton { kLeft, kRight };
 
+// What the thread takes for the state of Alt. As a key it would close an open menu.
+void holdAlt(bool down);
 // Modifiers down, key down and up, modifiers up.
 void pressKey(const KeyStroke& stroke);
 // Moves the pointer. Returns whether it was there already: motion that is still

@@ -129,7 +129,11 @@ void moveTo(const MenuLoop& loop, HMENU menu, bool across, int from, int to) {
 }
 
 // A menu takes no Enter while Ctrl is down, but a click.
-void clickEntry(HMENU menu, int position, const KeyStroke& held) {
+void clickEntry(HMENU menu, int position, KeyStroke held) {
+  if (held.alt) {
+    holdAlt(true);
+    held.alt = false;
+  }
   RECT place{};
   GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &place);
   clickMouse({(place.left + place.right) / 2, (place.top + place.bottom) / 2}, MouseButton::kLeft,
@@ -154,7 +158,7 @@ bool approach(const MenuLoop& loop, const MenuPath& path, bool whole, const KeyS
     }
     bool last = level + 1 == path.size();
     if (last || now.size() == level + 1) {
-      if (last && whole && (held.ctrl || held.shift)) {
+      if (last && whole && (held.ctrl || held.shift || held.alt)) {
         clickEntry(menu, path[level], held);
       } else {
         postKeys(loop.owner, VK_RETURN, 1);
@@ -195,7 +199,7 @@ StepResult stepChoose(StepTry& step) {
   Stage& stage = step.stage;
   KeyStroke held;
   if (step.argCount() == 2 && !parseKey(step.arg(1) + "+a", &held)) {
-    return step.fail("usage: choose ENTRY [Ctrl|Shift]");
+    return step.fail("usage: choose ENTRY [Ctrl|Shift|Alt]");
   }
   if (step.attempt == 0) {
     stage.chosen_in = 0;
@@ -204,6 +208,9 @@ StepResult stepChoose(StepTry& step) {
   const MenuLoop* loop = stage.observer.menu();
   if (stage.chosen_in != 0) {
     bool closed = loop == nullptr || loop->serial != stage.chosen_in;
+    if (closed && held.alt) {
+      holdAlt(false);
+    }
     return closed ? StepResult::kDone : step.again("the menu stays open");
   }
   Wanted wanted = readWanted(step.arg(0));

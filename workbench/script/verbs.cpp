@@ -15,7 +15,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kCaret, kWithout, "caret", 2, 2, "caret LINE COL"},
     {Verb::kCheck, kWithout, "check", 2, 2, "check ID on|off"},
     {Verb::kChoose, kWithout, "choose", 1, 2,
-     "choose \"MENU|ENTRY\", choose ID or choose #N, then perhaps Ctrl or Shift"},
+     "choose \"MENU|ENTRY\", choose ID or choose #N, then perhaps Ctrl, Shift or Alt"},
     {Verb::kClickAt, kBeside, "click-at", 2, 2, "click-at X Y"},
     {Verb::kClickCaption, kWithout, "click-caption", 3, 3, "click-caption FILE X Y"},
     {Verb::kClickTitle, kWithout, "click-title", 2, 3, "click-title FILE 0|1|2 [left|right]"},

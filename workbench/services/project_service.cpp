@@ -72,6 +72,11 @@ ProjectNode STDMETHODCALLTYPE ProjectService::GetNextSibling(ProjectNode node) {
   return context_.project.nextSibling(node);
 }
 
+ProjectNode STDMETHODCALLTYPE ProjectService::GetNodeParent(ProjectNode node) {
+  const NodeInfo* info = context_.project.node(node);
+  return info != nullptr ? info->parent : 0;
+}
+
 ProjectNode STDMETHODCALLTYPE ProjectService::FindNode(IIdeString* file) {
   return context_.project.find(textOf(file));
 }
@@ -98,7 +103,10 @@ ProjectNode STDMETHODCALLTYPE ProjectService::AddNode(ProjectNode parent, IIdeSt
 
 ProjectNode ProjectService::add(ProjectNode parent, const std::string& name,
                                 const std::string& type) {
-  const unsigned int node = name.empty() ? 0 : context_.project.add(parent, name, type);
+  Project& project = context_.project;
+  const std::string known = type.empty() ? Project::typeFor(name) : type;
+  const unsigned int node =
+      name.empty() ? 0 : project.add(parent, project.fullName(parent, name, known), known);
   if (node != 0) {
     if (view_ != nullptr) {
       view_->nodeAdded(node);

@@ -24,6 +24,7 @@ class ProjectService final : public Service<IProjectService> {
   ProjectNode STDMETHODCALLTYPE GetTopNode() override;
   ProjectNode STDMETHODCALLTYPE GetFirstChild(ProjectNode node) override;
   ProjectNode STDMETHODCALLTYPE GetNextSibling(ProjectNode node) override;
+  ProjectNode STDMETHODCALLTYPE GetNodeParent(ProjectNode node) override;
   ProjectNode STDMETHODCALLTYPE FindNode(IIdeString* file) override;
   IIdeString* STDMETHODCALLTYPE GetNodeName(ProjectNode node) override;
   IIdeString* STDMETHODCALLTYPE GetNodeType(ProjectNode node) override;
@@ -36,7 +37,8 @@ class ProjectService final : public Service<IProjectService> {
   OptionHandle STDMETHODCALLTYPE SetOption(IIdeString* name, const void* data, int size) override;
   void STDMETHODCALLTYPE CommitOption(OptionHandle option) override;
 
-  // Edits from within the program; clients hear of them as of those from outside.
+  // Edits from within the program; clients hear of them as of those from outside. As there,
+  // add takes names from the project's folder on, and types by extension.
   ProjectNode add(ProjectNode parent, const std::string& name, const std::string& type);
   bool rename(ProjectNode node, const std::string& name);
   bool describe(ProjectNode node, const std::string& description);

@@ -1,0 +1,2 @@
+int x = pri;
+Ж = pu;
