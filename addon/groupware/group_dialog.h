@@ -9,7 +9,6 @@
 
 #include "addon/groupware/group_exchange.h"
 #include "addon/groupware/group_files_win.h"
-#include "addon/groupware/transfer.h"
 #include "addon/ide/tab_rows.h"
 
 namespace kesto {
