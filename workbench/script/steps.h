@@ -76,6 +76,7 @@ StepResult stepEndRepeat(StepTry& step);
 // event_steps.cpp: what has happened
 StepResult stepWait(StepTry& step);
 StepResult stepExpect(StepTry& step);
+StepResult expectLatest(StepTry& step, const EventQuery& query);
 StepResult stepExpectNot(StepTry& step);
 StepResult stepMark(StepTry& step);
 StepResult stepEcho(StepTry& step);
