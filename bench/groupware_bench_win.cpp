@@ -1,13 +1,15 @@
-// groupware_bench_win PROJECT SERVER   prints, a name and a number each:
-//   plain   best milliseconds of a loop that walks both trees, a listing a folder, and
-//           asks for each file's time
-//   lists   of filling the send list and the get list of the same trees
-//   rows    of both lists, one filling
+// groupware_bench_win DIRECTORY...   prints of the trees "project" and "server" in each, counted
+// from 0, a name and a number each:
+//   plain-0   best milliseconds of a loop that walks both trees, a listing a folder, and
+//             asks for each file's time
+//   lists-0   of filling the send list and the get list of the same trees
+//   rows-0    of both lists, one filling
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,7 +20,7 @@
 namespace kesto {
 namespace {
 
-constexpr int kRounds = 7;
+constexpr int kRounds = 12;
 constexpr char kFilters[] = "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif";
 
 // What has to be done at the least by whoever has a file's name alone.
@@ -45,29 +47,48 @@ void walk(const std::string& directory, std::uint64_t& newest) {
   }
 }
 
-int measure(const char* project, const char* server) {
+struct Trees {
+  explicit Trees(const std::string& directory)
+      : roots{directory + "\\project", directory + "\\server"} {}
+
+  void addTo(Turns& turns, const std::string& number) {
+    turns.add("plain-" + number, [this] {
+      walk(roots.project, newest);
+      walk(roots.server, newest);
+    });
+    turns.add("lists-" + number, [this] {
+      fillSendList(sending, files, roots, kFilters);
+      fillGetList(getting, files, roots, kFilters);
+    });
+  }
+  int rows() const { return sending.count() + getting.count(); }
+
   GroupFilesWin files;
-  const GroupRoots roots = {project, server};
+  GroupRoots roots;
   SendList sending;
   GetList getting;
   std::uint64_t newest = 0;
+};
+
+int measure(const std::vector<std::string>& directories) {
+  std::vector<std::unique_ptr<Trees>> all;
   Turns turns;
-  turns.add("plain", [&] {
-    walk(project, newest);
-    walk(server, newest);
-  });
-  turns.add("lists", [&] {
-    fillSendList(sending, files, roots, kFilters);
-    fillGetList(getting, files, roots, kFilters);
-  });
+  for (const std::string& directory : directories) {
+    all.push_back(std::make_unique<Trees>(directory));
+    all.back()->addTo(turns, std::to_string(all.size() - 1));
+  }
   turns.run(kRounds);
-  printf("rows %d\n", sending.count() + getting.count());
-  return newest != 0 ? 0 : 1;
+  bool walked = true;
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    printf("rows-%u %d\n", static_cast<unsigned>(i), all[i]->rows());
+    walked = walked && all[i]->newest != 0;
+  }
+  return walked ? 0 : 1;
 }
 
 }  // namespace
 }  // namespace kesto
 
 int main(int argc, char** argv) {
-  return argc == 3 ? kesto::measure(argv[1], argv[2]) : 2;
+  return argc > 1 ? kesto::measure({argv + 1, argv + argc}) : 2;
 }

@@ -14,4 +14,5 @@ printf '%s\n' "$times" | awk '
     printf "filling the list: %.2f times filling a plain list box\n", (t["open"] - t["bare"]) / t["plain"]
     printf "another order: %.2f times\n", t["order"] / t["plain"]
     printf "a state shown again: %.2f times\n", t["state"] / t["plain"]
+    printf "another order, beside message hooks: %.2f times\n", t["hooked-order"] / t["hooked-plain"]
   }'

@@ -26,7 +26,7 @@ int showMessage(void* /*owner*/, const char* text, const char* /*caption*/, unsi
 namespace {
 
 constexpr int kTasks = 10000;
-constexpr int kRounds = 15;
+constexpr int kRounds = 60;
 
 class PlainDates : public DateFormat {
  public:

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <functional>
 #include <limits>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace kesto {
@@ -15,8 +17,8 @@ namespace kesto {
 class Turns {
  public:
   // before runs ahead of the work each time and is not measured.
-  void add(const char* name, std::function<void()> work, std::function<void()> before = {}) {
-    all_.push_back({name, std::move(work), std::move(before)});
+  void add(std::string name, std::function<void()> work, std::function<void()> before = {}) {
+    all_.push_back({std::move(name), std::move(work), std::move(before)});
   }
 
   // Prints a line with its name and its best milliseconds for each. The first round fills
@@ -37,13 +39,13 @@ class Turns {
       }
     }
     for (const One& one : all_) {
-      printf("%s %f\n", one.name, one.best);
+      printf("%s %f\n", one.name.c_str(), one.best);
     }
   }
 
  private:
   struct One {
-    const char* name;
+    std::string name;
     std::function<void()> work;
     std::function<void()> before;
     double best = std::numeric_limits<double>::max();

@@ -28,27 +28,25 @@ constexpr WORD kHelp = 65535;
 // Files whose copies are told by the bar and by boxes.
 class ToldFiles : public GroupFilesWin {
  public:
-  ToldFiles(std::uint64_t total, HWND owner) : run_(files_, bar_, total, owner) {}
+  ToldFiles(std::uint64_t total, HWND owner) : owner_(owner), run_(files_, bar_, total, owner) {}
   // Of the next file, as it is counted in the total.
   void expect(std::int64_t size) { size_ = static_cast<std::uint64_t>(size); }
   bool copy(const char* path, const char* new_path) override {
     return run_.copy(path, new_path, size_);
   }
+  void tellRefused(const char* path) override {
+    showMessage(owner_, (std::string("Error in creating file ") + path).c_str(),
+                "Kesto Addon error", kMessageIconHand);
+  }
   bool abandoned() const { return run_.abandoned(); }
 
  private:
+  HWND owner_;
   CopyFilesWin files_;
   ProgressBar bar_;
   CopyRun run_;
   std::uint64_t size_ = 0;
 };
-
-// Straight to the list's procedure: the hooks of the thread look at every message that is
-// sent, and of thousands that is felt.
-LRESULT tell(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
-  return CallWindowProcA(procedure, list, message, wParam, lParam);
-}
 
 std::string userName() {
   char name[kUserName] = "";
@@ -121,13 +119,13 @@ void GroupDialog::begin(HWND dialog) {
     groupwareProject->setDialog(dialog);
   }
   const ExchangeLook& look = exchange_.look();
-  columns_.setUp(list_, look.stops, look.row);
+  rows_.setUp(list_, look.stops, look.row);
   const std::string tabs(std::count(look.row, look.row + strlen(look.row), '\t'), '\t');
   const auto font = static_cast<WPARAM>(SendMessageA(list_, WM_GETFONT, 0, 0));
   for (std::size_t column = 0; column <= tabs.size(); ++column) {
     const int heading = GROUP_HEADINGS + static_cast<int>(column);
     SendDlgItemMessageA(dialog, heading, WM_SETFONT, font, FALSE);
-    columns_.placeHeading(heading, tabs.substr(0, column));
+    rows_.placeHeading(heading, tabs.substr(0, column));
   }
   centreOnOwner(dialog);
   busy_ = true;
@@ -136,7 +134,7 @@ void GroupDialog::begin(HWND dialog) {
 }
 
 void GroupDialog::end() const {
-  columns_.giveBack();
+  rows_.giveBack();
   if (groupwareProject != nullptr) {
     groupwareProject->setDialog(nullptr);
   }
@@ -165,7 +163,12 @@ void GroupDialog::fill() {
   GroupFilesWin files;
   server_was_there_ = files.isDirectory(roots_.server.c_str());
   SearchWatch watch("Groupware: listing");
-  exchange_.fill(files, roots_, groupwareSettings->filters().view(), &watch);
+  // A copy: the session may end while they are looked for.
+  const std::string filters(groupwareSettings->filters().view());
+  exchange_.fill(files, roots_, filters, &watch);
+  if (groupwareProject == nullptr) {
+    return;
+  }
   watch.finished(watch.stopped() ? "Groupware: stopped, not all files are listed" : " ");
   showRows();
 }
@@ -180,19 +183,14 @@ std::vector<std::string> GroupDialog::rowTexts() const {
 
 void GroupDialog::showRows() {
   const Enabling rewriting(list_);
-  tell(list_, LB_RESETCONTENT, 0, 0);
-  int extent = 0;
-  for (const std::string& row : rowTexts()) {
-    tell(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
-    extent = std::max(extent, columns_.extentOf(row));
-  }
-  tell(list_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+  rows_.replace(exchange_.count(),
+                [&](int row, std::string& text) { text = exchange_.rowText(row, roots_); });
 }
 
 std::vector<int> GroupDialog::selectedRows() const {
-  const LRESULT count = tell(list_, LB_GETSELCOUNT, 0, 0);
+  const LRESULT count = rows_.tell(LB_GETSELCOUNT);
   std::vector<int> rows(static_cast<std::size_t>(std::max<LRESULT>(count, 0)));
-  tell(list_, LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data()));
+  rows_.tell(LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data()));
   return rows;
 }
 
@@ -203,31 +201,31 @@ void GroupDialog::press(int button) {
   if (!exchange_.press(button, selected)) {
     return;
   }
-  const LRESULT top = tell(list_, LB_GETTOPINDEX, 0, 0);
-  const LRESULT caret = tell(list_, LB_GETCARETINDEX, 0, 0);
+  const LRESULT top = rows_.tell(LB_GETTOPINDEX);
+  const LRESULT caret = rows_.tell(LB_GETCARETINDEX);
   const Enabling rewriting(list_);
   const std::vector<std::string> after = rowTexts();
   for (std::size_t row = 0; row < after.size(); ++row) {
     if (after[row] != before[row]) {
-      tell(list_, LB_DELETESTRING, row, 0);
-      tell(list_, LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(after[row].c_str()));
+      rows_.tell(LB_DELETESTRING, row, 0);
+      rows_.tell(LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(after[row].c_str()));
     }
   }
   for (const int row : selected) {
-    tell(list_, LB_SETSEL, TRUE, row);
+    rows_.tell(LB_SETSEL, TRUE, row);
   }
-  tell(list_, LB_SETCARETINDEX, static_cast<WPARAM>(caret), FALSE);
-  tell(list_, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+  rows_.tell(LB_SETCARETINDEX, static_cast<WPARAM>(caret), FALSE);
+  rows_.tell(LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
 }
 
 std::vector<int> GroupDialog::selectChosen() {
   std::vector<int> rows;
   const Enabling rewriting(list_);
-  tell(list_, LB_SETSEL, FALSE, -1);
+  rows_.tell(LB_SETSEL, FALSE, -1);
   for (int i = 0; i < exchange_.count(); ++i) {
     if (exchange_.at(i).chosen()) {
       rows.push_back(i);
-      tell(list_, LB_SETSEL, TRUE, i);
+      rows_.tell(LB_SETSEL, TRUE, i);
     }
   }
   return rows;
@@ -250,6 +248,9 @@ void GroupDialog::perform() {
                 kMessageIconExclamation);
   }
   mailReport(outcome.report);
+  if (!outcome.notice.empty() && groupwareProject != nullptr) {
+    showStatus(outcome.notice.c_str());
+  }
 }
 
 GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
@@ -268,7 +269,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
       break;
     }
   }
-  return {transfer.report(), transfer.changed()};
+  return {transfer.report(), transfer.notice(), transfer.changed()};
 }
 
 // The recipients are the open project's.

@@ -27,6 +27,7 @@ class GroupDialog {
   class Enabling;
   struct Outcome {
     std::string report;
+    std::string notice;
     std::vector<std::string> left_alone;  // changed on the server meanwhile
   };
 
@@ -52,7 +53,7 @@ class GroupDialog {
   std::string name_;
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
-  TabRows columns_;
+  TabRows rows_;
   bool server_was_there_ = false;
   bool busy_ = false;  // boxes have loops of their own
 };

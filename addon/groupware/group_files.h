@@ -55,6 +55,8 @@ class GroupFiles {
   // Fails when there is a file of the new name.
   virtual bool rename(const char* path, const char* new_path) = 0;
   virtual bool writeText(const char* path, const std::string& text) = 0;
+  // Tells the person, if there is one, that no file could be made there.
+  virtual void tellRefused(const char* path) = 0;
 };
 
 }  // namespace kesto

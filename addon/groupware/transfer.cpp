@@ -50,6 +50,7 @@ void Transfer::transfer(const EltGWsend& element) {
     // A read-only copy may be refreshed away: what was not sent is kept first.
     if (copied || keepLocal(name)) {
       files_.setWritable(element.path, false);
+      unsent_ += copied ? "" : ", " + name;
     }
   }
   if (copied) {
@@ -70,6 +71,9 @@ void Transfer::transfer(const EltGWget& element) {
   makeFolders(roots_.project, name);
   const bool kept =
       !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
+  if (!kept) {
+    files_.tellRefused(keptPath(name).c_str());
+  }
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
   }
@@ -79,12 +83,28 @@ void Transfer::transfer(const EltGWget& element) {
     return;
   }
   files_.setWritable(local.c_str(), true);
-  if (files_.setWritable(element.path, false) && !user_.empty()) {
+  lock(element, name, copied);
+}
+
+void Transfer::lock(const EltGWget& element, const std::string& name, bool copied) {
+  if (!files_.setWritable(element.path, false)) {
+    unlocked_ += ", " + name;
+    return;
+  }
+  if (!user_.empty()) {
     files_.writeText((std::string(element.path.text()) + ".lock").c_str(), user_);
   }
   if (copied) {
     report_ += name + " is locked\n";
   }
+}
+
+std::string Transfer::notice() const {
+  constexpr std::size_t kBetween = 2;
+  if (!unsent_.empty()) {
+    return "Not sent, read-only now and kept in .kesto: " + unsent_.substr(kBetween);
+  }
+  return unlocked_.empty() ? "" : "Not locked: " + unlocked_.substr(kBetween);
 }
 
 void Transfer::makeFolders(const std::string& root, const std::string& name) {
@@ -100,16 +120,19 @@ void Transfer::makeFolders(const std::string& root, const std::string& name) {
   }
 }
 
+std::string Transfer::keptPath(const std::string& name) const {
+  return pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+}
+
 // The text that was kept last stands under the file's own name, those before it have
 // numbers behind.
 bool Transfer::keepLocal(const std::string& name) {
   const std::string local = pathBelow(roots_.project, name);
-  const std::string below_project = pathBelow(kKeptFolder, name);
-  const std::string kept = pathBelow(roots_.project, below_project);
+  const std::string kept = keptPath(name);
   if (files_.sameText(local.c_str(), kept.c_str())) {
     return true;
   }
-  makeFolders(roots_.project, below_project);
+  makeFolders(roots_.project, pathBelow(kKeptFolder, name));
   return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
 }
 

@@ -27,8 +27,10 @@ class Transfer {
   void transfer(const EltGWsend& element);
   void transfer(const EltGWget& element);
 
-  // A line for each file that was copied and whose action has one.
+  // A line for each file whose action has one and was done whole.
   const std::string& report() const { return report_; }
+  // What else has to be known of files whose action was not; empty when there are none.
+  std::string notice() const;
   // The listed names of those left alone.
   const std::vector<std::string>& changed() const { return changed_; }
 
@@ -37,6 +39,9 @@ class Transfer {
   bool leaveAlone(const EltGW& element, const std::string& server_path, const std::string& name);
   // The folders of root\name that are missing.
   void makeFolders(const std::string& root, const std::string& name);
+  // Both copies of a server file whose text came, or not.
+  void lock(const EltGWget& element, const std::string& name, bool copied);
+  std::string keptPath(const std::string& name) const;
   bool keepLocal(const std::string& name);
   bool makeRoomForKept(const std::string& kept);
 
@@ -46,6 +51,8 @@ class Transfer {
   std::string user_;
   std::string report_;
   std::vector<std::string> changed_;
+  std::string unsent_;  // names with ", " ahead
+  std::string unlocked_;
 };
 
 }  // namespace kesto

@@ -1,5 +1,6 @@
 #include "addon/ide/tab_rows.h"
 
+#include <algorithm>
 #include <array>
 #include <numeric>
 
@@ -8,7 +9,8 @@ namespace {
 
 constexpr int kRowMargin = 4;  // pixels between the end of a row and the border
 constexpr int kTextIndent = 1;
-constexpr int kHeading = 40;  // bytes of a heading's text
+constexpr int kRowBytes = 64;  // that a row takes, about
+constexpr int kHeading = 40;   // bytes of a heading's text
 constexpr int kUnitsOfAverage = 4;
 // The font that small text is made for, and what its height may be less at most, in pixels.
 constexpr char kSmallFace[] = "Small Fonts";
@@ -92,6 +94,26 @@ void TabRows::placeHeading(int id, std::string_view beginning) const {
   MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
   SetWindowPos(heading, nullptr, start.x, place.top, textWidth(heading), place.bottom - place.top,
                SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+LRESULT TabRows::tell(UINT message, WPARAM wParam, LPARAM lParam) const {
+  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list_, GWLP_WNDPROC));
+  return CallWindowProcA(procedure, list_, message, wParam, lParam);
+}
+
+void TabRows::replace(int count,
+                      const std::function<void(int row, std::string& text)>& append) const {
+  tell(LB_RESETCONTENT);
+  tell(LB_INITSTORAGE, static_cast<WPARAM>(count), LPARAM{count} * kRowBytes);
+  std::string text;
+  int extent = 0;
+  for (int row = 0; row < count; ++row) {
+    text.clear();
+    append(row, text);
+    tell(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    extent = std::max(extent, extentOf(text));
+  }
+  tell(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent));
 }
 
 int TabRows::extentOf(std::string_view row) const {

@@ -1,10 +1,13 @@
-// The columns of a list box whose rows have tabs: its tab stops, the headings over them, a
-// font in which its rows fit, and how far it scrolls sideways. User-interface thread only.
+// The rows of a list box that have tabs: its tab stops, the headings over them, a font in
+// which the rows fit, and the rows themselves, with how far they scroll sideways. User-interface
+// thread only.
 #pragma once
 
 #include <windows.h>
 
+#include <functional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,10 +31,16 @@ class TabRows {
   // Puts a text of the same dialog, no wider than it is, over what follows this beginning of
   // a row.
   void placeHeading(int id, std::string_view beginning) const;
-  // Pixels that a row takes up.
-  int extentOf(std::string_view row) const;
+  // Sends a message straight to the list's procedure: the hooks of the thread look at every
+  // message that is sent, and of thousands that is felt.
+  LRESULT tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  // These rows in place of those that are there; append adds the text of a row to an empty
+  // one. The caller has the list redrawn.
+  void replace(int count, const std::function<void(int row, std::string& text)>& append) const;
 
  private:
+  // Pixels that a row takes up.
+  int extentOf(std::string_view row) const;
   void measure(HFONT font);
   bool fits(std::string_view row) const;
 

@@ -4,8 +4,6 @@
 
 #include <windows.h>
 
-#include <string_view>
-
 #include "addon/ide/tab_rows.h"
 #include "addon/tasks/task_date.h"
 
@@ -16,8 +14,7 @@ class TaskColumns {
   // Once for each opening of the dialog; the font stays good until the next.
   void setUp(HWND dialog, const DateFormat& format);
   void giveBack() const { rows_.giveBack(); }
-  // Pixels that a row takes up.
-  int extentOf(std::string_view row) const { return rows_.extentOf(row); }
+  const TabRows& rows() const { return rows_; }
 
  private:
   TabRows rows_;

@@ -1,5 +1,6 @@
 #include "addon/tasks/task_dialog.h"
 
+#include <algorithm>
 #include <string>
 
 #include "addon/foundation/message_box.h"
@@ -167,9 +168,7 @@ void TaskDialog::remove(HWND dialog) {
   modified_ = true;
   tasks_.removeTask(task);
   tasks_.rebuildView();
-  refresh(dialog);
-  const int last = tasks_.view().count() - 1;
-  selectRow(dialog, row < last ? row : last);
+  refresh(dialog, std::min(row, tasks_.view().count() - 1));
 }
 
 void TaskDialog::apply(HWND dialog) {

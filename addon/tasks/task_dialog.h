@@ -30,10 +30,9 @@ class TaskDialog final : public ModelessDialog {
   void changeOrder(HWND dialog, int id);
 
   // The list: rows count in the view, -1 is none.
-  Task* taskAt(int row) const;  // null when there is none
-  void refresh(HWND dialog);
+  Task* taskAt(int row) const;                                  // null when there is none
+  void refresh(HWND dialog, int selected, bool force = false);  // force is enable's
   void refreshAndKeep(HWND dialog, const Task* task);
-  void selectRow(HWND dialog, int row, bool force = false);
 
   // The edit area. enable switches it when it was the other way, or by force, by whether the
   // task of a row may be edited.

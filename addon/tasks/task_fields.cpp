@@ -19,7 +19,6 @@ constexpr const char* kCounts[kTaskStates] = {"to &Do : %d", "&Coded : %d", "&Te
 constexpr int kTaskControls[] = {TASKS_REMOVE, TASKS_NAME,  TASKS_TYPE, TASKS_STATE, TASKS_PRIORITY,
                                  TASKS_PUBLIC, TASKS_START, TASKS_END,  TASKS_TEXT,  TASKS_OK};
 constexpr int kDigits = 10;
-constexpr int kRowBytes = 64;  // that a row takes, about
 
 void addTo(HWND dialog, int combo, const char* text) {
   SendDlgItemMessageA(dialog, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -96,8 +95,7 @@ void TaskDialog::fill(HWND dialog) {
     addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
   }
   columns_.setUp(dialog, dates_);
-  refresh(dialog);
-  selectRow(dialog, tasks_.view().count() > 0 ? 0 : -1, true);
+  refresh(dialog, std::min(0, tasks_.view().count() - 1), true);
   modified_ = false;
 }
 
@@ -117,40 +115,27 @@ Task* TaskDialog::taskAt(int row) const {
   return row >= 0 && row < tasks_.view().count() ? tasks_.view()[row] : nullptr;
 }
 
-void TaskDialog::refresh(HWND dialog) {
+// The row is selected before the list is painted: to scroll there afterwards takes as long
+// as painting does.
+void TaskDialog::refresh(HWND dialog, int selected, bool force) {
   const HWND list = GetDlgItem(dialog, TASKS_LIST);
   const Tableau<Task>& view = tasks_.view();
   SendMessageA(list, WM_SETREDRAW, FALSE, 0);
-  SendMessageA(list, LB_RESETCONTENT, 0, 0);
-  SendMessageA(list, LB_INITSTORAGE, static_cast<WPARAM>(view.count()), view.count() * kRowBytes);
-  // Straight to the list: message hooks would look at each of thousands of rows.
-  const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(list, GWLP_WNDPROC));
-  std::string row;
-  int extent = 0;
-  for (int i = 0; i < view.count(); ++i) {
-    row.clear();
-    view[i]->appendRow(row, dates_);
-    CallWindowProcA(procedure, list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
-    extent = std::max(extent, columns_.extentOf(row));
-  }
-  SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent), 0);
+  columns_.rows().replace(view.count(),
+                          [&](int row, std::string& text) { view[row]->appendRow(text, dates_); });
+  SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(selected), 0);
   SendMessageA(list, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(list, nullptr, TRUE);
   showCounts(dialog);
+  show(dialog, selected);
+  enable(dialog, selected, force);
 }
 
 // After a change: the task stays selected while it is in view, else the first is.
 void TaskDialog::refreshAndKeep(HWND dialog, const Task* task) {
   tasks_.rebuildView();
-  refresh(dialog);
   const int row = task != nullptr ? tasks_.view().indexOf(task) : kErrTab;
-  selectRow(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
-}
-
-void TaskDialog::selectRow(HWND dialog, int row, bool force) {
-  SendDlgItemMessageA(dialog, TASKS_LIST, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
-  show(dialog, row);
-  enable(dialog, row, force);
+  refresh(dialog, row != kErrTab ? row : std::min(0, tasks_.view().count() - 1));
 }
 
 void TaskDialog::show(HWND dialog, int row) {

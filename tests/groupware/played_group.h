@@ -24,6 +24,8 @@ class PlayedGroup : public GroupFiles {
   std::set<std::string> directories;
   std::string failing;           // a part of the paths that no copy gets to
   int copies = 0;                // so far; copyAside counts
+  std::string stuck;             // a path whose flag cannot be changed
+  std::string refused;           // the paths that were told
   int failing_copy = 0;          // which of them fails; they count from 1
   std::set<std::string> listed;  // "DIRECTORY|MASK"
   int listings = 0;
@@ -69,7 +71,7 @@ class PlayedGroup : public GroupFiles {
   }
   bool setWritable(const char* path, bool writable) override {
     const auto found = files.find(path);
-    if (found == files.end()) {
+    if (found == files.end() || path == stuck) {
       return false;
     }
     found->second.writable = writable;
@@ -98,6 +100,7 @@ class PlayedGroup : public GroupFiles {
     files[path] = {text, 0, true};
     return true;
   }
+  void tellRefused(const char* path) override { refused += path; }
 
  private:
   static FileFacts factsOf(const File& file) {

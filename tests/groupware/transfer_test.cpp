@@ -15,6 +15,7 @@ const GroupRoots kRoots = {"P", "S"};
 struct Outcome {
   std::string report;
   std::string changed;
+  std::string notice;
 };
 
 template <class T>
@@ -25,7 +26,7 @@ Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, bo
       transfer.transfer(*list.at(i));
     }
   }
-  Outcome outcome = {transfer.report(), ""};
+  Outcome outcome = {transfer.report(), "", transfer.notice()};
   for (const std::string& name : transfer.changed()) {
     outcome.changed += name + '\n';
   }
@@ -117,6 +118,8 @@ TEST_CASE("what each action does to both copies") {
                              : action == "send!"                                       ? "new w"
                                                                                        : "";
     CHECK(files.at("P\\.kesto\\a.h") == lost);
+    CHECK(outcome.notice ==
+          (action == "send!" ? "Not sent, read-only now and kept in .kesto: a.h" : ""));
   }
 }
 
@@ -130,6 +133,14 @@ TEST_CASE("a lock file has the name of whoever came last, and needs one") {
   get(files, GetRequest::kGet, nothing, "Ann");
   CHECK(files.at("S\\a.h.lock") == "Ann w");
   CHECK(files.at("S\\a.h") == "text r");
+  // No lock, no word of one.
+  files.put("S\\b.h", "text", 5);
+  files.stuck = "S\\b.h";
+  const Outcome outcome = get(files, GetRequest::kGet, nothing);
+  CHECK(outcome.report == "a.h is locked\n");
+  CHECK(outcome.notice == "Not locked: b.h");
+  CHECK(files.at("P\\b.h") == "text w");
+  CHECK(files.at("S\\b.h.lock").empty());
 }
 
 TEST_CASE("folders missing on the other side are made") {
@@ -213,6 +224,7 @@ TEST_CASE("a local text that a get overwrites is kept, each of them") {
   files.put("P\\sub\\a.h", "four", 5);
   CHECK(get(files, GetRequest::kGet, nothing).report.empty());
   CHECK(files.at("P\\sub\\a.h") == "four w");
+  CHECK(files.refused == "P\\.kesto\\sub\\a.h");
 }
 
 }  // namespace kesto
