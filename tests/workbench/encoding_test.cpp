@@ -9,7 +9,7 @@
 #include "workbench/events/ansi.h"
 
 using namespace workbench;
-using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 namespace {
 
