@@ -77,6 +77,7 @@ StepResult stepEndRepeat(StepTry& step);
 StepResult stepWait(StepTry& step);
 StepResult stepWaitFile(StepTry& step);
 StepResult stepExpect(StepTry& step);
+StepResult expectLatest(StepTry& step, const EventQuery& query);
 StepResult stepExpectNot(StepTry& step);
 StepResult stepMark(StepTry& step);
 StepResult stepEcho(StepTry& step);

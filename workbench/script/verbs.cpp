@@ -30,8 +30,9 @@ constexpr VerbInfo kVerbs[] = {
      "document TITLE activate|minimize|maximize|restore"},
     {Verb::kDoubleClickTitle, kWithout, "double-click-title", 2, 2,
      "double-click-title FILE 0|1|2"},
-    {Verb::kDump, kBeside, "dump", 1, 1,
-     "dump menu|bar|editors|documents|windows|dialog|text|project|messages|clipboard"},
+    {Verb::kDump, kBeside, "dump", 1, 3,
+     "dump menu|bar|editors|documents|windows|dialog|text|status|project|messages|clipboard "
+     "[KEY VALUE]"},
     {Verb::kEcho, kHeldUp, "echo", 1, 1, "echo TEXT"},
     {Verb::kEdit, kWithout, "edit", 1, 2, "edit FILE [LINE]"},
     {Verb::kEndRepeat, kBeside, "end-repeat", 0, 0, "end-repeat"},
