@@ -2,12 +2,21 @@
 
 #include "addon/behaviours/general_behaviours.h"
 #include "addon/completion/completion_engine.h"
+#include "addon/foundation/key_code.h"
 #include "addon/ide/completion_source.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
 #include "addon/topbar/top_bar.h"
 
 namespace kesto {
+namespace {
+
+bool writesCharacter(unsigned code) {
+  constexpr UINT kToCharacter = 2;
+  return code < kKeyCodeAlt && MapVirtualKeyA(virtualKeyOf(code), kToCharacter) != 0;
+}
+
+}  // namespace
 
 bool AddonHookHost::navigationEnabled() const {
   return editorNavigation != nullptr && editorNavigation->enabled();
@@ -18,10 +27,13 @@ int AddonHookHost::titleButtonAt(HWND editor, POINT& point) const {
 }
 
 unsigned AddonHookHost::completionKey() const {
-  // Where nothing can complete the key has to stay what it is on the keyboard.
-  return completionSource != nullptr && completionEngine != nullptr && completionEngine->enabled()
-             ? completionEngine->keyCode()
-             : 0;
+  if (completionEngine == nullptr || !completionEngine->enabled()) {
+    return 0;
+  }
+  // A key that writes, as the one that is set at first, goes on writing where nothing can
+  // be completed.
+  const unsigned code = completionEngine->keyCode();
+  return completionSource != nullptr || !writesCharacter(code) ? code : 0;
 }
 
 unsigned AddonHookHost::searchKey(int search) const {

@@ -95,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   readKeywords(old, keywords);
   const bool described =
       choice % 2 == 0 && std::any_of(keywords.begin(), keywords.end(), [](const Keyword& keyword) {
-        return !keyword.description().empty();
+        return !keyword.description().empty() && keyword.text() != "operator";
       });
   FUZZ_CHECK(!described || answer.asked);
   return 0;

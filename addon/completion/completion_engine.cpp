@@ -66,7 +66,6 @@ CompletionEngine::~CompletionEngine() {
 void CompletionEngine::load() {
   FileSystemWin files;
   completion_.load(files, keyword_files_);
-  // Without a file the key stays what it is on the keyboard.
   completionSource = keyword_files_.count() > 0 ? this : nullptr;
 }
 

@@ -65,13 +65,18 @@ Name definedName(std::string_view line) {
           withoutMarks(head.substr(scope + kScope.size()))};
 }
 
+// "operator||" and "operator|=" are names.
+bool isDescribed(const Keyword& keyword) {
+  const std::string_view description = keyword.description();
+  return !description.empty() &&
+         (keyword.text() != "operator" || (description != "|" && description != "="));
+}
+
 // What no extraction writes: a description, or a heading between the keywords.
 bool isHandmade(std::string_view keyword_file) {
   std::vector<Keyword> keywords;
   readKeywords(keyword_file, keywords);
-  const bool described = std::any_of(keywords.begin(), keywords.end(), [](const Keyword& keyword) {
-    return !keyword.description().empty();
-  });
+  const bool described = std::any_of(keywords.begin(), keywords.end(), isDescribed);
   return described || isUtf16(keyword_file) || keyword_file.starts_with('[') ||
          keyword_file.find("\n[") != keyword_file.npos;
 }

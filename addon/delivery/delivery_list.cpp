@@ -38,17 +38,16 @@ class Comparison {
         left_(std::make_unique<Word[]>(kWords)),
         right_(std::make_unique<Word[]>(kWords)) {}
 
-  // Files that open tell their sizes: asking for them by name takes longer.
   bool needsDelivery(const char* source, const char* delivered) {
-    const std::unique_ptr<CopySource> from = files_.open(source);
-    const auto size = from ? from->size() : files_.size(source);
+    const auto size = files_.size(source);
     if (!size) {
       return false;
     }
-    const std::unique_ptr<CopySource> to = files_.open(delivered);
-    if ((to ? to->size() : files_.size(delivered)) != size) {
+    if (files_.size(delivered) != size) {
       return true;
     }
+    const std::unique_ptr<CopySource> from = files_.open(source);
+    const std::unique_ptr<CopySource> to = from ? files_.open(delivered) : nullptr;
     return from != nullptr && (to == nullptr || differ(*from, *to));
   }
   bool ended() const { return ended_; }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "addon/foundation/binary_form.h"
+#include "addon/foundation/file_details_win.h"
 #include "addon/foundation/safe_write.h"
 #include "addon/foundation/text_file.h"
 
@@ -32,16 +33,8 @@ bool mayBeReplaced(const char* path) {
 
 // Not by _stat, whose whole seconds would hide a script saved right after a make.
 std::optional<FileStatus> FileSystemWin::status(const char* path) {
-  WIN32_FIND_DATAA found = {};
-  const HANDLE search = FindFirstFileA(path, &found);
-  if (search == INVALID_HANDLE_VALUE) {
-    return std::nullopt;
-  }
-  FindClose(search);
-  const FILETIME& time = found.ftLastWriteTime;
-  const auto high = static_cast<std::int64_t>(time.dwHighDateTime);
-  return FileStatus{high << 32 | time.dwLowDateTime,
-                    (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0};
+  const std::optional<FileDetails> details = fileDetails(path);
+  return details ? std::optional(FileStatus{details->modified, details->directory}) : std::nullopt;
 }
 
 bool FileSystemWin::read(const char* path, std::string& text) {

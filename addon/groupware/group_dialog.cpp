@@ -28,15 +28,20 @@ constexpr WORD kHelp = 65535;
 // Files whose copies are told by the bar and by boxes.
 class ToldFiles : public GroupFilesWin {
  public:
-  ToldFiles(std::uint64_t total, HWND owner) : run_(files_, bar_, total, owner) {}
+  ToldFiles(std::uint64_t total, HWND owner) : owner_(owner), run_(files_, bar_, total, owner) {}
   // Of the next file, as it is counted in the total.
   void expect(std::int64_t size) { size_ = static_cast<std::uint64_t>(size); }
   bool copy(const char* path, const char* new_path) override {
     return run_.copy(path, new_path, size_);
   }
+  void tellRefused(const char* path) override {
+    showMessage(owner_, (std::string("Error in creating file ") + path).c_str(),
+                "Kesto Addon error", kMessageIconHand);
+  }
   bool abandoned() const { return run_.abandoned(); }
 
  private:
+  HWND owner_;
   CopyFilesWin files_;
   ProgressBar bar_;
   CopyRun run_;
@@ -156,9 +161,14 @@ void GroupDialog::fill() {
     return;
   }
   GroupFilesWin files;
-  server_was_there_ = files.isDirectory(roots_.server.c_str());
+  server_ = serverState(files, roots_.server);
   SearchWatch watch("Groupware: listing");
-  exchange_.fill(files, roots_, groupwareSettings->filters().view(), &watch);
+  // A copy: the session may end while they are looked for.
+  const std::string filters(groupwareSettings->filters().view());
+  exchange_.fill(files, roots_, filters, &watch);
+  if (groupwareProject == nullptr) {
+    return;
+  }
   watch.finished(watch.stopped() ? "Groupware: stopped, not all files are listed" : " ");
   showRows();
 }
@@ -238,6 +248,9 @@ void GroupDialog::perform() {
                 kMessageIconExclamation);
   }
   mailReport(outcome.report);
+  if (!outcome.notice.empty() && groupwareProject != nullptr) {
+    showStatus(outcome.notice.c_str());
+  }
 }
 
 GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
@@ -247,7 +260,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
   }
   const WaitCursor waiting;
   ToldFiles files(total, dialog_);
-  Transfer transfer(files, roots_, server_was_there_, userName());
+  Transfer transfer(files, roots_, server_, userName());
   for (const int row : rows) {
     files.expect(exchange_.at(row).size);
     exchange_.transfer(row, transfer);
@@ -256,7 +269,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
       break;
     }
   }
-  return {transfer.report(), transfer.changed()};
+  return {transfer.report(), transfer.notice(), transfer.changed()};
 }
 
 // The recipients are the open project's.

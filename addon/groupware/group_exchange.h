@@ -33,34 +33,33 @@ class GroupExchange {
   virtual void transfer(int row, Transfer& transfer) const = 0;
 };
 
-class SendExchange : public GroupExchange {
+template <class T>
+class ListExchange : public GroupExchange {
  public:
-  const ExchangeLook& look() const override;
-  void fill(GroupFiles& files, const GroupRoots& roots, std::string_view filters,
-            WalkWatch* watch) override;
   int count() const override { return list_.count(); }
   const EltGW& at(int row) const override { return *list_.at(row); }
-  std::string rowText(int row, const GroupRoots& roots) const override;
-  bool press(int button, const std::vector<int>& selected) override;
   void transfer(int row, Transfer& transfer) const override { transfer.transfer(*list_.at(row)); }
 
- private:
-  SendList list_;
+ protected:
+  Tableau<T> list_;
 };
 
-class GetExchange : public GroupExchange {
+class SendExchange : public ListExchange<EltGWsend> {
  public:
   const ExchangeLook& look() const override;
   void fill(GroupFiles& files, const GroupRoots& roots, std::string_view filters,
             WalkWatch* watch) override;
-  int count() const override { return list_.count(); }
-  const EltGW& at(int row) const override { return *list_.at(row); }
   std::string rowText(int row, const GroupRoots& roots) const override;
   bool press(int button, const std::vector<int>& selected) override;
-  void transfer(int row, Transfer& transfer) const override { transfer.transfer(*list_.at(row)); }
+};
 
- private:
-  GetList list_;
+class GetExchange : public ListExchange<EltGWget> {
+ public:
+  const ExchangeLook& look() const override;
+  void fill(GroupFiles& files, const GroupRoots& roots, std::string_view filters,
+            WalkWatch* watch) override;
+  std::string rowText(int row, const GroupRoots& roots) const override;
+  bool press(int button, const std::vector<int>& selected) override;
 };
 
 // What the box says of the files that were left alone, one or more of them.

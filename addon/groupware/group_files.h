@@ -42,6 +42,8 @@ class GroupFiles {
   // Nothing when there is no such file, or it cannot be asked.
   virtual std::optional<FileFacts> facts(const char* path) = 0;
   virtual bool isDirectory(const char* path) = 0;
+  // A file or a folder.
+  virtual bool holdsAnything(const char* directory) = 0;
   virtual bool makeDirectory(const char* path) = 0;
   // The file's read-only flag; its other attributes stay.
   virtual bool setWritable(const char* path, bool writable) = 0;
@@ -55,6 +57,8 @@ class GroupFiles {
   // Fails when there is a file of the new name.
   virtual bool rename(const char* path, const char* new_path) = 0;
   virtual bool writeText(const char* path, const std::string& text) = 0;
+  // Tells the person, if there is one, that no file could be made there.
+  virtual void tellRefused(const char* path) = 0;
 };
 
 }  // namespace kesto

@@ -23,10 +23,15 @@ bool isWhole(std::string_view path) {
   return path.starts_with('\\') || path.starts_with('/') || path.substr(1, 1) == ":";
 }
 
+// A drive alone would be its current directory.
+std::string wholeRoot(std::string_view directory) {
+  return rootOf(fullPath(std::string(directory) + '\\'));
+}
+
 // One that is not whole is meant from the project's directory on.
 std::string serverRoot(const std::string& project, const std::string& directory) {
-  return rootOf(fullPath(isWhole(directory) ? std::string_view(directory)
-                                            : joinPath(project, directory).view()));
+  return wholeRoot(isWhole(directory) ? std::string_view(directory)
+                                      : joinPath(project, directory).view());
 }
 
 }  // namespace
@@ -59,7 +64,7 @@ void GroupwareProject::open(GroupExchange& exchange, bool (*mails)(), HWND owner
     showMessage(owner, kNoServer, "Kesto AddOn error", kMessageIconExclamation);
     return;
   }
-  const std::string project = rootOf(fullPath(projectDirectory()));
+  const std::string project = wholeRoot(projectDirectory());
   GroupDialog(exchange, {project, serverRoot(project, server)}, mails).run(owner);
 }
 

@@ -11,16 +11,26 @@ constexpr int kMostKept = 9999;
 
 }  // namespace
 
-bool Transfer::isAsListed(const EltGW& element, const std::string& server_path) const {
-  // A server that went away has not lost its files: nothing is made in its place.
-  if (server_was_there_ && !files_.isDirectory(roots_.server.c_str())) {
-    return false;
+ServerState serverState(GroupFiles& files, const std::string& directory) {
+  if (!files.isDirectory(directory.c_str())) {
+    return ServerState::kAbsent;
   }
+  return files.holdsAnything(directory.c_str()) ? ServerState::kFilled : ServerState::kEmpty;
+}
+
+bool Transfer::isAsListed(const EltGW& element, const std::string& server_path) const {
   const std::optional<FileFacts> now = files_.facts(server_path.c_str());
   if (!now || !element.server) {
-    return now.has_value() == element.server.has_value();
+    return !now && !element.server && !isServerAway();
   }
   return now->modified == element.server->modified && now->writable == element.server->writable;
+}
+
+// A server that went away has not lost its files: nothing is made in its place. While the
+// last file that was sent is there, so is the server.
+bool Transfer::isServerAway() const {
+  return (last_sent_.empty() || !files_.facts(last_sent_.c_str())) &&
+         serverState(files_, roots_.server) < server_then_;
 }
 
 bool Transfer::leaveAlone(const EltGW& element, const std::string& server_path,
@@ -50,9 +60,11 @@ void Transfer::transfer(const EltGWsend& element) {
     // A read-only copy may be refreshed away: what was not sent is kept first.
     if (copied || keepLocal(name)) {
       files_.setWritable(element.path, false);
+      unsent_ += copied ? "" : ", " + name;
     }
   }
   if (copied) {
+    last_sent_ = server;
     report_ += name;
     report_ += element.request == SendRequest::kUpdate ? " is refreshed\n"
                                                        : " is delivered and unlocked\n";
@@ -70,6 +82,9 @@ void Transfer::transfer(const EltGWget& element) {
   makeFolders(roots_.project, name);
   const bool kept =
       !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
+  if (!kept) {
+    files_.tellRefused(keptPath(name).c_str());
+  }
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
   }
@@ -79,12 +94,28 @@ void Transfer::transfer(const EltGWget& element) {
     return;
   }
   files_.setWritable(local.c_str(), true);
-  if (files_.setWritable(element.path, false) && !user_.empty()) {
+  lock(element, name, copied);
+}
+
+void Transfer::lock(const EltGWget& element, const std::string& name, bool copied) {
+  if (!files_.setWritable(element.path, false)) {
+    unlocked_ += ", " + name;
+    return;
+  }
+  if (!user_.empty()) {
     files_.writeText((std::string(element.path.text()) + ".lock").c_str(), user_);
   }
   if (copied) {
     report_ += name + " is locked\n";
   }
+}
+
+std::string Transfer::notice() const {
+  constexpr std::size_t kBetween = 2;
+  if (!unsent_.empty()) {
+    return "Not sent, read-only now and kept in .kesto: " + unsent_.substr(kBetween);
+  }
+  return unlocked_.empty() ? "" : "Not locked: " + unlocked_.substr(kBetween);
 }
 
 void Transfer::makeFolders(const std::string& root, const std::string& name) {
@@ -100,16 +131,19 @@ void Transfer::makeFolders(const std::string& root, const std::string& name) {
   }
 }
 
+std::string Transfer::keptPath(const std::string& name) const {
+  return pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+}
+
 // The text that was kept last stands under the file's own name, those before it have
 // numbers behind.
 bool Transfer::keepLocal(const std::string& name) {
   const std::string local = pathBelow(roots_.project, name);
-  const std::string below_project = pathBelow(kKeptFolder, name);
-  const std::string kept = pathBelow(roots_.project, below_project);
+  const std::string kept = keptPath(name);
   if (files_.sameText(local.c_str(), kept.c_str())) {
     return true;
   }
-  makeFolders(roots_.project, below_project);
+  makeFolders(roots_.project, pathBelow(kKeptFolder, name));
   return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
 }
 

@@ -21,8 +21,8 @@ class CompletionSource {
   virtual CompletionStep strike(std::string_view word) = 0;
 };
 
-// Null while nothing can complete: every word is then one without a match, and the key
-// an ordinary one.
+// Null while nothing can complete: every word is then one without a match, and a key that
+// writes an ordinary one.
 extern CompletionSource* completionSource;
 
 }  // namespace kesto

@@ -14,7 +14,6 @@ namespace kesto {
 class CopySource {
  public:
   virtual ~CopySource() = default;
-  virtual std::uint64_t size() const = 0;  // bytes
   // The time of the last writing, as fine as the system keeps it.
   virtual std::int64_t modified() const = 0;
   // Returns the bytes read, 0 at the end, -1 when they cannot be read.

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "addon/foundation/file_details_win.h"
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/full_path.h"
 #include "addon/foundation/safe_write.h"
@@ -38,11 +39,6 @@ class SourceWin : public CopySource {
  public:
   explicit SourceWin(HANDLE file) : file_(file) {}
 
-  std::uint64_t size() const override {
-    DWORD high = 0;
-    const DWORD low = GetFileSize(file_.get(), &high);
-    return static_cast<std::uint64_t>(high) << 32 | low;
-  }
   std::int64_t modified() const override {
     FILETIME time = {};
     GetFileTime(file_.get(), nullptr, nullptr, &time);
@@ -113,20 +109,8 @@ bool CopyFilesWin::exists(const char* path) {
 }
 
 std::optional<std::uint64_t> CopyFilesWin::size(const char* path) {
-  // A search would take these for any characters.
-  if (strpbrk(path, "*?") != nullptr) {
-    return std::nullopt;
-  }
-  WIN32_FIND_DATAA found = {};
-  const HANDLE search = FindFirstFileA(path, &found);
-  if (search == INVALID_HANDLE_VALUE) {
-    return std::nullopt;
-  }
-  FindClose(search);
-  if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    return 0;
-  }
-  return static_cast<std::uint64_t>(found.nFileSizeHigh) << 32 | found.nFileSizeLow;
+  const std::optional<FileDetails> details = fileDetails(path);
+  return details ? std::optional(details->size) : std::nullopt;
 }
 
 std::unique_ptr<CopySource> CopyFilesWin::open(const char* path) {

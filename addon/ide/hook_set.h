@@ -35,7 +35,7 @@ class HookHost {
   // The title-bar button of the editor under the screen point, or -1. On a hit
   // the point becomes the place for the button's popup.
   virtual int titleButtonAt(HWND editor, POINT& point) const = 0;
-  // The key code that completes a word, 0 when completion is off or nothing completes.
+  // The key code that completes a word, 0 when the key is an ordinary one.
   virtual unsigned completionKey() const = 0;
   // The key code of search 0 to kSearchKeyCount - 1, 0 for none.
   virtual unsigned searchKey(int search) const = 0;

@@ -17,10 +17,13 @@ TEST_CASE("keyword files of the settings complete, and extracted ones join them"
   REQUIRE(writeTextFile("words.kwd", "stack|of plates\n"));
   REQUIRE(writeTextFile("stack.cpp", "int Stack::push(int v)\n"));
   remove("stack.kwd");
-  completionEngine = new CompletionEngine;
-  // Nothing to complete with: the key is an ordinary one.
-  CHECK(host.completionKey() == 0);
-  delete completionEngine;
+  // Nothing to complete with: a key that writes does so, another one is the key all the same.
+  for (const int code : {32 + 4000, 119 + 1000, 32 + 1000, 222}) {
+    settings().writeInteger("Completion", "KeyCode", code);
+    completionEngine = new CompletionEngine;
+    CHECK(host.completionKey() == (code == 4032 || code == 1119 ? static_cast<unsigned>(code) : 0));
+    delete completionEngine;
+  }
   settings().writeInteger("Completion", "NbFiles", 3);
   settings().writeString("Completion\\Files", "Entry0", "gone.kwd");
   settings().writeString("Completion\\Files", "Entry2", "words.kwd");

@@ -115,18 +115,22 @@ class StatusLine : public Counted<IStatusLineService> {
   void STDMETHODCALLTYPE SetText(IIdeString* text) override { texts.emplace_back(text->GetText()); }
 };
 
-class Make : public Counted<IMakeService> {
+// A service that keeps clients, and does nothing else.
+template <class Service, class Client>
+class Registry : public Counted<Service> {
  public:
-  std::vector<IMakeClient*> clients;
-  void STDMETHODCALLTYPE AddClient(IMakeClient* client) override {
+  std::vector<Client*> clients;
+  void STDMETHODCALLTYPE AddClient(Client* client) override {
     client->AddRef();
     clients.push_back(client);
   }
-  void STDMETHODCALLTYPE RemoveClient(IMakeClient* client) override {
-    client->Release();
+  void STDMETHODCALLTYPE RemoveClient(Client* client) override {
     std::erase(clients, client);
+    client->Release();
   }
 };
+using Make = Registry<IMakeService, IMakeClient>;
+using ProjectSave = Registry<IProjectSaveService, IProjectSaveClient>;
 
 class LoadedProject : public Counted<IProject> {
  public:
@@ -214,19 +218,6 @@ class Project : public Counted<IProjectService> {
 
   std::string pending_name_;
   std::string pending_;
-};
-
-class ProjectSave : public Counted<IProjectSaveService> {
- public:
-  std::vector<IProjectSaveClient*> clients;
-  void STDMETHODCALLTYPE AddClient(IProjectSaveClient* client) override {
-    client->AddRef();
-    clients.push_back(client);
-  }
-  void STDMETHODCALLTYPE RemoveClient(IProjectSaveClient* client) override {
-    std::erase(clients, client);
-    client->Release();
-  }
 };
 
 // Every name is a tool; what was run is "NAME FILE". The steps by which a tool of an add-on,

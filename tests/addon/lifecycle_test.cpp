@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <map>
+#include <sstream>
 #include <string>
 
 #include "addon/foundation/settings_store.h"
@@ -10,6 +11,7 @@
 #include "doctest.h"
 #include "tests/addon/fake_ide.h"
 #include "tests/addon/window_fixture.h"
+#include "tests/foundation/registry_tree.h"
 #include "workbench/script/memory_count.h"
 
 namespace {
@@ -291,26 +293,68 @@ TEST_CASE("a project that is open at the start is no recent one") {
   CHECK(GetMenuState(menu, 201, MF_BYCOMMAND) == static_cast<UINT>(-1));
 }
 
-TEST_CASE("the settings of the tasks are read at the start and written back at the end") {
-  kesto::SettingsStore& store = kesto::settings();
-  store.setRoot(kRoot);
-  RegDeleteKeyA(HKEY_LOCAL_MACHINE, (std::string(kRoot) + "\\Tasks").c_str());
+namespace {
+
+struct Section {
+  const char* name;
+  std::string values;  // "NAME=VALUE", a blank between
+};
+
+void forEachValue(const Section& section,
+                  void (*act)(const char* section, const char* name, const std::string& value)) {
+  std::istringstream values(section.values);
+  for (std::string value; values >> value;) {
+    const std::string name = value.substr(0, value.find('='));
+    act(section.name, name.c_str(), value.substr(name.size() + 1));
+  }
+}
+
+void checkStored(const Section& wanted) {
+  forEachValue(wanted, [](const char* section, const char* name, const std::string& value) {
+    CAPTURE(section);
+    CAPTURE(name);
+    char text[kesto::SettingsStore::kValueSize] = "";
+    kesto::settings().readString(section, name, text, sizeof text, "missing");
+    CHECK(text == value);
+  });
+}
+
+}  // namespace
+
+TEST_CASE("settings go back under their names, with the values that were read") {
+  const Section sections[] = {
+      {"TopBar",
+       "Enabled=0 HideWithBCW=0 HideWithView=1 AlwaysOnTop=1 EditOtherView=1 LeftMargin=-2049 "
+       "RightMargin=4711 MenuSize=7 Hierarchical=2"},
+      {"Menus", "Enabled=0 Size=11 Sorted=0"},
+      {"QuickFind",
+       "FunctionMask=*.c IncludeMask= TxtFunction=F1 TxtMethod=F2 TxtClass=F3 TxtCross=F4 "
+       "Recurse=0 LeftSide=0 KeyFunction=112 KeyMethod=7113 KeyClass=114 KeyCross=115"},
+      {"Completion", "Enabled=0 KeyCode=4032 TextCode=Ctrl+Space NbFiles=2"},
+      {"Completion\\Files", "Entry0=C:\\two.kwd Entry1=one.kwd"},
+      {"Tasks",
+       "FlashToDo=0 FlashCoded=2 FlashTested=3 FlashEnded=7 MainOn=0 KeyIsDelivery=0 "
+       "EndedReadOnly=0 AutoFlash=0 Types=" +
+           std::string(511, 'x')}};
+  kesto::settings().setRoot(kRoot);
+  for (const Section& section : sections) {
+    forEachValue(section, [](const char* in, const char* name, const std::string& value) {
+      // A list of types longer than there is room for is cut.
+      const std::string text = value + (strcmp(name, "Types") == 0 ? ";y" : "");
+      kesto::settings().writeString(in, name, text.c_str());
+    });
+  }
   fake::Ide ide;
-  const auto stored = [&store] {
-    std::string all;
-    for (const char* name : {"FlashToDo", "FlashCoded", "FlashTested", "FlashEnded", "MainOn",
-                             "KeyIsDelivery", "EndedReadOnly", "AutoFlash", "Types"}) {
-      char text[kesto::SettingsStore::kValueSize] = "";
-      store.readString("Tasks", name, text, sizeof text, "missing");
-      all += std::string(text) + ' ';
-    }
-    return all;
-  };
+  {
+    const Session session(ide);
+    removeTree(HKEY_LOCAL_MACHINE, kRoot);
+  }
+  for (const Section& section : sections) {
+    checkStored(section);
+  }
+  removeTree(HKEY_LOCAL_MACHINE, kRoot);
   { const Session session(ide); }
-  CHECK(stored() == "1 1 1 0 1 1 1 1 Design;Evolution;Bug;Documentation ");
-  store.writeInteger("Tasks", "FlashEnded", 7);
-  store.writeInteger("Tasks", "AutoFlash", 0);
-  store.writeString("Tasks", "Types", (std::string(511, 'x') + ";y").c_str());
-  { const Session session(ide); }
-  CHECK(stored() == "1 1 1 7 1 1 1 0 " + std::string(511, 'x') + ' ');
+  checkStored({"Tasks",
+               "FlashToDo=1 FlashCoded=1 FlashTested=1 FlashEnded=0 MainOn=1 KeyIsDelivery=1 "
+               "EndedReadOnly=1 AutoFlash=1 Types=Design;Evolution;Bug;Documentation"});
 }

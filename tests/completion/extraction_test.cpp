@@ -69,9 +69,10 @@ TEST_CASE("an extraction replaces what extractions write, and asks for what a pe
   disk.put("words.kwd", "kept");
   CHECK(extracted("words.kwd") == Extraction::kFailed);
   CHECK(extracted("a.cpp") == Extraction::kDone);
-  disk.put("a.cpp", "int A::g(\nbool A::operator|(\n");
+  disk.put("a.cpp", "int A::g(\nbool A::operator|(\nbool A::operator||(\nA &A::operator|=(\n");
   CHECK(extracted("a.cpp") == Extraction::kDone);
-  CHECK(disk.files["a.kwd"].text == "A\ng\noperator|\n");
+  const std::string written = "A\ng\noperator|\noperator||\noperator|=\n";
+  CHECK(disk.files["a.kwd"].text == written);
   CHECK(extracted("a.cpp") == Extraction::kDone);
   CHECK(answer.asked.empty());
   // Whatever step fails, the old text is whole and alone.
@@ -92,7 +93,7 @@ TEST_CASE("an extraction replaces what extractions write, and asks for what a pe
     CHECK(disk.files["a.kwd"].text == handmade);
     answer.yes = true;
     CHECK(extracted("a.cpp") == Extraction::kDone);
-    CHECK(disk.files["a.kwd"].text == "A\ng\noperator|\n");
+    CHECK(disk.files["a.kwd"].text == written);
   }
   disk.files.erase("a.kwd");
   disk.directories.insert("a.kwd");

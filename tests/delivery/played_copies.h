@@ -69,7 +69,6 @@ class PlayedCopies : public CopyFiles {
   class Source : public CopySource {
    public:
     Source(PlayedCopies& disk, const File& file) : disk_(disk), file_(file) {}
-    std::uint64_t size() const override { return sizeOf(file_); }
     std::int64_t modified() const override { return file_.modified; }
     // Files come in odd pieces.
     long read(char* bytes, std::size_t size) override {

@@ -24,6 +24,8 @@ class PlayedGroup : public GroupFiles {
   std::set<std::string> directories;
   std::string failing;           // a part of the paths that no copy gets to
   int copies = 0;                // so far; copyAside counts
+  std::string stuck;             // a path whose flag cannot be changed
+  std::string refused;           // the paths that were told
   int failing_copy = 0;          // which of them fails; they count from 1
   std::set<std::string> listed;  // "DIRECTORY|MASK"
   int listings = 0;
@@ -63,13 +65,18 @@ class PlayedGroup : public GroupFiles {
     return found != files.end() ? std::optional(factsOf(found->second)) : std::nullopt;
   }
   bool isDirectory(const char* path) override { return directories.count(path) != 0; }
+  bool holdsAnything(const char* path) override {
+    const std::string below = std::string(path) + '\\';
+    const auto found = files.lower_bound(below);
+    return found != files.end() && found->first.starts_with(below);
+  }
   bool makeDirectory(const char* path) override {
     const bool top = std::string(path).find('\\') == std::string::npos;
     return (top || isDirectory(parent(path).c_str())) && directories.insert(path).second;
   }
   bool setWritable(const char* path, bool writable) override {
     const auto found = files.find(path);
-    if (found == files.end()) {
+    if (found == files.end() || path == stuck) {
       return false;
     }
     found->second.writable = writable;
@@ -98,6 +105,7 @@ class PlayedGroup : public GroupFiles {
     files[path] = {text, 0, true};
     return true;
   }
+  void tellRefused(const char* path) override { refused += path; }
 
  private:
   static FileFacts factsOf(const File& file) {

@@ -15,17 +15,18 @@ const GroupRoots kRoots = {"P", "S"};
 struct Outcome {
   std::string report;
   std::string changed;
+  std::string notice;
 };
 
 template <class T>
-Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, bool there) {
+Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, ServerState there) {
   Transfer transfer(files, kRoots, there, user);
   for (int i = 0; i < list.count(); ++i) {
     if (list.at(i)->chosen()) {
       transfer.transfer(*list.at(i));
     }
   }
-  Outcome outcome = {transfer.report(), ""};
+  Outcome outcome = {transfer.report(), "", transfer.notice()};
   for (const std::string& name : transfer.changed()) {
     outcome.changed += name + '\n';
   }
@@ -40,7 +41,7 @@ Outcome send(PlayedGroup& files, SendRequest request, const Change& change) {
   for (int i = 0; i < list.count(); ++i) {
     list.at(i)->request = request;
   }
-  const bool there = files.isDirectory("S");
+  const ServerState there = serverState(files, "S");
   change();
   return perform(files, list, "", there);
 }
@@ -54,7 +55,7 @@ Outcome get(PlayedGroup& files, GetRequest request, const Change& change,
     list.at(i)->request = request;
   }
   change();
-  return perform(files, list, user, true);
+  return perform(files, list, user, ServerState::kFilled);
 }
 
 void nothing() {}
@@ -117,6 +118,8 @@ TEST_CASE("what each action does to both copies") {
                              : action == "send!"                                       ? "new w"
                                                                                        : "";
     CHECK(files.at("P\\.kesto\\a.h") == lost);
+    CHECK(outcome.notice ==
+          (action == "send!" ? "Not sent, read-only now and kept in .kesto: a.h" : ""));
   }
 }
 
@@ -130,6 +133,14 @@ TEST_CASE("a lock file has the name of whoever came last, and needs one") {
   get(files, GetRequest::kGet, nothing, "Ann");
   CHECK(files.at("S\\a.h.lock") == "Ann w");
   CHECK(files.at("S\\a.h") == "text r");
+  // No lock, no word of one.
+  files.put("S\\b.h", "text", 5);
+  files.stuck = "S\\b.h";
+  const Outcome outcome = get(files, GetRequest::kGet, nothing);
+  CHECK(outcome.report == "a.h is locked\n");
+  CHECK(outcome.notice == "Not locked: b.h");
+  CHECK(files.at("P\\b.h") == "text w");
+  CHECK(files.at("S\\b.h.lock").empty());
 }
 
 TEST_CASE("folders missing on the other side are made") {
@@ -152,6 +163,19 @@ TEST_CASE("a server that went away is not made anew") {
   CHECK(outcome.changed == "a.h\n");
   CHECK(files.at("P\\a.h") == "text w");
   CHECK(files.directories.count("S") == 0);
+}
+
+// A disk that is taken away leaves an empty folder; one that was empty before takes files.
+TEST_CASE("nothing is put where the server's disk was") {
+  PlayedGroup files;
+  files.put("P\\a.h", "text", 5);
+  files.put("P\\b.h", "more", 5);
+  files.put("S\\c.h", "hers", 5);
+  CHECK(send(files, SendRequest::kSend, [&files] { files.files.erase("S\\c.h"); }).changed ==
+        "a.h\nb.h\n");
+  CHECK(files.at("P\\a.h") == "text w");
+  CHECK(send(files, SendRequest::kUpdate, nothing).changed.empty());
+  CHECK(files.at("S\\b.h") == "more r");
 }
 
 // The server's copies since the list was filled: 1 came, 2 went, 3 has another time within
@@ -213,6 +237,7 @@ TEST_CASE("a local text that a get overwrites is kept, each of them") {
   files.put("P\\sub\\a.h", "four", 5);
   CHECK(get(files, GetRequest::kGet, nothing).report.empty());
   CHECK(files.at("P\\sub\\a.h") == "four w");
+  CHECK(files.refused == "P\\.kesto\\sub\\a.h");
 }
 
 }  // namespace kesto

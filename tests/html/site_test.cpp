@@ -1,5 +1,5 @@
 // Whole generations. The cases of data/ are pairs: NAME.tree holds the sources, NAME.site
-// the pages in their order, each after a line "==== PATH".
+// the bodies of the pages in their order, each after a line "==== PATH".
 #include <set>
 #include <string>
 #include <utility>

@@ -44,19 +44,9 @@ TEST_CASE("methods of one class share a submenu while they are adjacent") {
 TEST_CASE("each popup starts a column after a full one") {
   CHECK(planned("a()\nb()\nA::x()\nA::y()\nA::z()\nc()\nB::x()\nd()", 2) ==
         "a=1000 b=1001 |A{x=1002 y=1003 |z=1004 }0 c=1005 |B{x=1006 }0 d=1007 ");
-  CHECK(planned("a()\nb()\n", 1) == "a=1000 |b=1001 ");
+  CHECK(planned("a()\nb()\nc()\n", 1) == "a=1000 |b=1001 |c=1002 ");
   // A size no settings page lets through makes one column.
   CHECK(planned("a()\nb()\n", 0) == "a=1000 b=1001 ");
-
-  Tableau<Fnc> functions;
-  for (int i = 0; i < 25; ++i) {
-    functions.append(new Fnc("f", "", i + 1));
-  }
-  const MenuPlan plan = planFunctionsMenu(functions, 10);
-  REQUIRE(plan.size() == 25);
-  for (std::size_t i = 0; i < plan.size(); ++i) {
-    CHECK(plan[i].column_break == (i == 10 || i == 20));
-  }
 }
 
 TEST_CASE("what is too much for a menu is told at its end") {

@@ -9,7 +9,7 @@
 #include "workbench/events/ansi.h"
 
 using namespace workbench;
-using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -19,28 +19,16 @@ constexpr Encoding kBoth[] = {Encoding::kAnsi, Encoding::kUtf8};
 class Texts {
  public:
   std::string next() {
-    static const std::vector<std::string> pieces = {"a",
-                                                    " ",
-                                                    "\t",
-                                                    "\0"s,
-                                                    "\r",
-                                                    "\n",
-                                                    "\r\n",
-                                                    "\xC3\xA9",
-                                                    "\xCE\xA9",
-                                                    "\xE2\x82\xAC",
-                                                    "\xF0\x9F\x98\x80",
-                                                    "\xE9",
-                                                    "\x80",
-                                                    "\xE2\x82",
-                                                    "\xED\xA0\x80",
-                                                    "\xC0\xAF",
-                                                    "\xF4\x90\x80\x80",
-                                                    "\xEF\xBB\xBF"};
+    static const std::string_view pieces[] = {"a"sv, " "sv, "\t"sv, "\0"sv, "\r"sv, "\n"sv,
+                                              "\r\n"sv, "\xC3\xA9"sv, "\xCE\xA9"sv,
+                                              "\xE2\x82\xAC"sv, "\xF0\x9F\x98\x80"sv,
+                                              // No whole characters, and the mark.
+                                              "\xE9"sv, "\x80"sv, "\xE2\x82"sv, "\xED\xA0\x80"sv,
+                                              "\xC0\xAF"sv, "\xF4\x90\x80\x80"sv, "\xEF\xBB\xBF"sv};
     std::string result;
     for (std::size_t length = number(12); length > 0; --length) {
       // Every other text is whole UTF-8.
-      result += pieces[number(even_ ? 11 : pieces.size())];
+      result += pieces[number(even_ ? 11 : std::size(pieces))];
     }
     even_ = !even_;
     return result;

@@ -34,49 +34,11 @@ TEST_CASE("places in a compiler's output") {
       {"/usr/bin/ld: a.o:a.cpp:12: multiple definition of `f()'; b.o:b.cpp:3: first defined here",
        "a.cpp", 12, 0, kMessageError,
        "multiple definition of `f()'; b.o:b.cpp:3: first defined here"},
-      {"/usr/bin/ld: a.o: undefined reference to symbol 'x'", "", 0, 0, kMessageError,
-       "/usr/bin/ld: a.o: undefined reference to symbol 'x'"},
       {"/usr/bin/ld: lib.a(b.o):b.cpp:3: undefined reference to `f()'", "b.cpp", 3, 0,
        kMessageError, "undefined reference to `f()'"},
       {"In file included from a.h:3:", "a.h", 3, 0, kMessageInformation, "included from here"},
       {"                 from b.cpp:1:", "b.cpp", 1, 0, kMessageInformation, "included from here"},
       {"a.cpp:12:x", "a.cpp", 12, 0, kMessageInformation, "x"},
-      // No places.
-      {"make: *** [all] Error 2", "", 0, 0, kMessageError, "make: *** [all] Error 2"},
-      {"mingw32-make.exe[2]: *** [Makefile:9: a.o] Error 1", "", 0, 0, kMessageError,
-       "mingw32-make.exe[2]: *** [Makefile:9: a.o] Error 1"},
-      {"make: *** No rule to make target 'x'.  Stop.", "", 0, 0, kMessageError,
-       "make: *** No rule to make target 'x'.  Stop."},
-      {"make: [Makefile:3: clean] Error 1 (ignored)", "", 0, 0, kMessageInformation,
-       "make: [Makefile:3: clean] Error 1 (ignored)"},
-      {"ld: cannot find -lfoo", "", 0, 0, kMessageError, "ld: cannot find -lfoo"},
-      {"/usr/bin/i686-w64-mingw32-ld: cannot find -lfoo: No such file", "", 0, 0, kMessageError,
-       "/usr/bin/i686-w64-mingw32-ld: cannot find -lfoo: No such file"},
-      {"/usr/bin/ld: warning: x.o: missing section", "", 0, 0, kMessageWarning,
-       "/usr/bin/ld: warning: x.o: missing section"},
-      {"collect2: error: ld returned 1 exit status", "", 0, 0, kMessageError,
-       "collect2: error: ld returned 1 exit status"},
-      {"collect2.exe: error: ld returned 1 exit status", "", 0, 0, kMessageError,
-       "collect2.exe: error: ld returned 1 exit status"},
-      {"g++: error: x.cpp: No such file or directory", "", 0, 0, kMessageError,
-       "g++: error: x.cpp: No such file or directory"},
-      {"g++: fatal error: no input files", "", 0, 0, kMessageError,
-       "g++: fatal error: no input files"},
-      {"cc1plus: warning: no option -Wx", "", 0, 0, kMessageWarning,
-       "cc1plus: warning: no option -Wx"},
-      {"LINK : fatal error LNK1181: cannot open a.lib", "", 0, 0, kMessageError,
-       "LINK : fatal error LNK1181: cannot open a.lib"},
-      {"echo: the error: none", "", 0, 0, kMessageInformation, "echo: the error: none"},
-      {"ld: a.o: in function `main':", "", 0, 0, kMessageInformation,
-       "ld: a.o: in function `main':"},
-      {"12:30:15: started", "", 0, 0, kMessageInformation, "12:30:15: started"},
-      {"a.cpp:0: zero", "", 0, 0, kMessageInformation, "a.cpp:0: zero"},
-      {"a.cpp:99999999999: far", "", 0, 0, kMessageInformation, "a.cpp:99999999999: far"},
-      {"a.cpp(12", "", 0, 0, kMessageInformation, "a.cpp(12"},
-      {"error: no input files", "", 0, 0, kMessageError, "error: no input files"},
-      {"Warning", "", 0, 0, kMessageWarning, "Warning"},
-      {"C:", "", 0, 0, kMessageInformation, "C:"},
-      {"", "", 0, 0, kMessageInformation, ""},
   };
   for (const auto& each : cases) {
     CAPTURE(each.line);
@@ -86,6 +48,46 @@ TEST_CASE("places in a compiler's output") {
     CHECK(line.column == each.column);
     CHECK(line.kind == each.kind);
     CHECK(line.text == each.text);
+  }
+}
+
+TEST_CASE("lines of an output that tell no place") {
+  const struct {
+    const char* line;
+    int kind;
+  } cases[] = {
+      {"/usr/bin/ld: a.o: undefined reference to symbol 'x'", kMessageError},
+      {"make: *** [all] Error 2", kMessageError},
+      {"mingw32-make.exe[2]: *** [Makefile:9: a.o] Error 1", kMessageError},
+      {"make: *** No rule to make target 'x'.  Stop.", kMessageError},
+      {"make: [Makefile:3: clean] Error 1 (ignored)", kMessageInformation},
+      {"ld: cannot find -lfoo", kMessageError},
+      {"/usr/bin/i686-w64-mingw32-ld: cannot find -lfoo: No such file", kMessageError},
+      {"/usr/bin/ld: warning: x.o: missing section", kMessageWarning},
+      {"collect2: error: ld returned 1 exit status", kMessageError},
+      {"collect2.exe: error: ld returned 1 exit status", kMessageError},
+      {"g++: error: x.cpp: No such file or directory", kMessageError},
+      {"g++: fatal error: no input files", kMessageError},
+      {"cc1plus: warning: no option -Wx", kMessageWarning},
+      {"LINK : fatal error LNK1181: cannot open a.lib", kMessageError},
+      {"echo: the error: none", kMessageInformation},
+      {"ld: a.o: in function `main':", kMessageInformation},
+      {"12:30:15: started", kMessageInformation},
+      {"a.cpp:0: zero", kMessageInformation},
+      {"a.cpp:99999999999: far", kMessageInformation},
+      {"a.cpp(12", kMessageInformation},
+      {"error: no input files", kMessageError},
+      {"Warning", kMessageWarning},
+      {"C:", kMessageInformation},
+      {"", kMessageInformation},
+  };
+  for (const auto& each : cases) {
+    CAPTURE(each.line);
+    const OutputLine line = parseOutputLine(each.line);
+    CHECK(line.file.empty());
+    CHECK(line.line + line.column == 0);
+    CHECK(line.kind == each.kind);
+    CHECK(line.text == each.line);
   }
 }
 

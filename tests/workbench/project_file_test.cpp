@@ -45,7 +45,7 @@ void edit(Project& project) {
   project.describe(app, "The tool");
   project.describe(project.find("C:\\work\\common\\util.cpp"), "Shared");
   project.setNodeOption(app, kIncludePathKind, "inc");
-  project.add(app, project.fullName("src\\new.cpp", ".cpp"), ".cpp");
+  project.add(app, project.fullName(app, "src\\new.cpp", ".cpp"), ".cpp");
   project.add(0, "D:\\far\\away.lib", ".lib");
   project.commitOption(project.prepareOption("Name", std::string("new\0", 4)));
   project.commitOption(project.prepareOption("Added", std::string("\7\0\0\0", 4)));
@@ -69,6 +69,16 @@ TEST_CASE("a file comes back as it was, and edits leave the rest in its place") 
     CHECK(edited == dataFile(name + ".edited.ide"));
     CHECK(writeProjectFile(readGood(edited), kFolder) == edited);
   }
+}
+
+TEST_CASE("what is delivered is a file, whatever its type") {
+  const std::string bytes =
+      lines({"node \"DELIVERY\" \"DELIVERY\" {", "  node \"doc\\\\a.txt\" \"Manual\"", "}",
+             "node \"doc\" \"Manual\"", "end"});
+  const ProjectTree tree = readGood(bytes);
+  CHECK(tree.find(2)->name == "C:\\work\\app\\doc\\a.txt");
+  CHECK(tree.find(3)->name == "doc");
+  CHECK(writeProjectFile(tree, kFolder) == bytes);
 }
 
 TEST_CASE("damaged files are refused with line and reason") {

@@ -334,27 +334,7 @@ TEST_CASE_FIXTURE(OpenFolder, "tools") {
   file->SetText(folder.file("whatever.ide").c_str());
   CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
   CHECK(program.application.findEditor(folder.file("inc\\b.h")) == nullptr);
-
-  // The text editor's second run is a second view; within the program it is brought forward.
-  name->SetText("EditText");
-  file->SetText(folder.file("a.cpp").c_str());
-  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
-  CHECK(tools->RunTool(tools->FindTool(name.get()), file.get()) == kToolDone);
-  EditorWindow* view = program.application.editFile("a.cpp", 0);
-  char title[300] = {};
-  GetWindowTextA(view->window(), title, sizeof title);
-  CHECK(title == folder.file("a.cpp") + ":2");
 }
-
-namespace {
-
-struct ToolOfAddon {
-  const char* name;
-  int position;
-  unsigned int flags;
-};
-
-}  // namespace
 
 TEST_CASE_FIXTURE(OpenFolder, "a tool of an add-on is put together, added, offered and deleted") {
   const auto tools = program.held<IToolService>(ideapi::kToolService);
@@ -363,10 +343,13 @@ TEST_CASE_FIXTURE(OpenFolder, "a tool of an add-on is put together, added, offer
   ToolFake implementor;
   std::vector<ToolHandle> handles;
   // Counted from the start, then from the end, and by age where the places are equal.
-  for (const ToolOfAddon& each :
-       {ToolOfAddon{"Last", -1, 0x100}, ToolOfAddon{"Deliver", -3, 0x2100},
-        ToolOfAddon{"Second", 1, 0x100}, ToolOfAddon{"Hidden", 0, 0x2000},
-        ToolOfAddon{"First", 0, 0x100}, ToolOfAddon{"Other", -3, 0x2100}}) {
+  const struct {
+    const char* name;
+    int position;
+    unsigned int flags;
+  } rows[] = {{"Last", -1, 0x100},   {"Deliver", -3, 0x2100}, {"Second", 1, 0x100},
+              {"Hidden", 0, 0x2000}, {"First", 0, 0x100},     {"Other", -3, 0x2100}};
+  for (const auto& each : rows) {
     const ToolHandle tool = tools->CreateTool();
     handles.push_back(tool);
     CHECK(tools->AddTool(tool) == 0);

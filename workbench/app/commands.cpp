@@ -285,7 +285,8 @@ bool Application::projectCommand(int id) {
 void Application::openProjectFile() {
   std::vector<std::string> files;
   for (const NodeInfo* node : project_.nodes()) {
-    if (isTextType(node->type) && isPathName(node->name, node->type)) {
+    if (isTextType(node->type) &&
+        project_.tree().isPathName(node->parent, node->name, node->type)) {
       files.push_back(node->name);
     }
   }

@@ -64,8 +64,8 @@ void Application::renameFromWindow(unsigned int node, const std::string& name) {
   if (info == nullptr) {
     return;
   }
-  const bool path =
-      isPathName(info->name, info->type) && fileName(name).size() == name.size() && name[0] != '#';
+  const bool path = project_.tree().isPathName(info->parent, info->name, info->type) &&
+                    fileName(name).size() == name.size() && name[0] != '#';
   renameAsked(node, path ? joinPath(folderOf(info->name), name) : name);
 }
 
@@ -75,8 +75,10 @@ void Application::renameAsked(unsigned int node, const std::string& name) {
     return;
   }
   const std::string from = info->name;
-  const std::string to = project_.fullName(name, info->type);
-  const bool files = isPathName(from, info->type) && isPathName(to, info->type);
+  const std::string to = project_.fullName(info->parent, name, info->type);
+  const ProjectTree& tree = project_.tree();
+  const bool files = tree.isPathName(info->parent, from, info->type) &&
+                     tree.isPathName(info->parent, to, info->type);
   if (from == to || !files || isContainer(*info) || !store_.stamp(from).exists) {
     renameNode(node, to);
     return;

@@ -270,7 +270,8 @@ unsigned int Application::addNode(unsigned int parent, const std::string& name,
 
 bool Application::renameNode(unsigned int node, const std::string& name) {
   const NodeInfo* info = project_.node(node);
-  return info != nullptr && root_.project().rename(node, project_.fullName(name, info->type));
+  return info != nullptr &&
+         root_.project().rename(node, project_.fullName(info->parent, name, info->type));
 }
 
 bool Application::removeNode(unsigned int node) {

@@ -36,8 +36,9 @@ std::string Project::typeFor(const std::string& name) {
   return extension.size() > 1 ? std::string(extension) : ".txt";
 }
 
-std::string Project::fullName(const std::string& name, const std::string& type) const {
-  const bool whole = name.empty() || !isPathName(name, type) || isAbsolutePath(name);
+std::string Project::fullName(unsigned int parent, const std::string& name,
+                              const std::string& type) const {
+  const bool whole = name.empty() || !tree_.isPathName(parent, name, type) || isAbsolutePath(name);
   return whole ? name : normalPath(joinPath(folder_, name));
 }
 

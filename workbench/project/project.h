@@ -34,10 +34,10 @@ class Project {
   const std::string& folder() const { return folder_; }
   // The type of a file of which nothing else is said.
   static std::string typeFor(const std::string& name);
-  // What a node of that type is called: the full path for a file or folder, which
-  // may be given from the project's folder on; any other name, and one that starts
-  // with "#", as it stands.
-  std::string fullName(const std::string& name, const std::string& type) const;
+  // What a node of that type is called below that parent: the full path for a file or
+  // folder, which may be given from the project's folder on; any other name, and one that
+  // starts with "#", as it stands.
+  std::string fullName(unsigned int parent, const std::string& name, const std::string& type) const;
 
   // 0 stands for "none" throughout; a node that is gone is answered like 0.
   const NodeInfo* node(unsigned int id) const;

@@ -9,14 +9,6 @@
 namespace workbench {
 namespace {
 
-// A path of the file as a full one.
-std::string fullPath(const std::string& folder, const std::string& name, const std::string& type) {
-  if (!isPathName(name, type) || isAbsolutePath(name)) {
-    return name;
-  }
-  return normalPath(joinPath(folder, name));
-}
-
 class Reader {
  public:
   Reader(std::string_view bytes, const std::string& folder, ProjectTree* tree, ProjectFault* fault)
@@ -213,7 +205,11 @@ bool Reader::readNode(const std::vector<ProjectWord>& words) {
   }
   const unsigned int parent = open_.empty() ? 0 : open_.back();
   const std::string& type = words[1].text;
-  const NodeInfo* added = tree_.add(parent, fullPath(folder_, words[0].text, type), type);
+  const std::string& name = words[0].text;
+  // A path of the file as a full one.
+  const bool path = tree_.isPathName(parent, name, type) && !isAbsolutePath(name);
+  const NodeInfo* added =
+      tree_.add(parent, path ? normalPath(joinPath(folder_, name)) : name, type);
   if (added == nullptr) {
     return fail(tree_.nodes.size() >= kMostNodes
                     ? "There are more than " + std::to_string(kMostNodes) + " nodes."

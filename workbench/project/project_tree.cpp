@@ -56,9 +56,12 @@ void ProjectTree::remove(unsigned int id) {
   }
 }
 
-bool isPathName(const std::string& name, const std::string& type) {
-  const bool file = !type.empty() && type[0] == '.';
-  return (file || type == ProjectTree::kFolderType) && !(!name.empty() && name[0] == '#');
+bool ProjectTree::isPathName(unsigned int parent, const std::string& name,
+                             const std::string& type) const {
+  const NodeInfo* above = find(parent);
+  const bool file =
+      (!type.empty() && type[0] == '.') || (above != nullptr && above->type == kDeliveryType);
+  return (file || type == kFolderType) && !(!name.empty() && name[0] == '#');
 }
 
 }  // namespace workbench

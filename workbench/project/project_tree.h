@@ -64,12 +64,11 @@ struct ProjectTree {
   NodeInfo* add(unsigned int parent, const std::string& name, const std::string& type);
   // With all that is below it.
   void remove(unsigned int id);
+  // Whether such a node's name is a path below that parent: a file's, which has any type
+  // where it is delivered, or a folder's. A name that starts with "#" never is.
+  bool isPathName(unsigned int parent, const std::string& name, const std::string& type) const;
   // 1 at the top.
   int level(unsigned int id) const;
 };
-
-// Whether the name of a node of that type is a path; a name that starts with "#"
-// never is.
-bool isPathName(const std::string& name, const std::string& type);
 
 }  // namespace workbench

@@ -28,7 +28,7 @@ std::string shortName(const NodeInfo& node) {
 std::string shownText(const Project& project, const NodeInfo& node) {
   const NodeInfo* parent = project.node(node.parent);
   const bool delivered = parent != nullptr && parent->type == ProjectTree::kDeliveryType &&
-                         isPathName(node.name, node.type);
+                         project.tree().isPathName(node.parent, node.name, node.type);
   std::string text = delivered ? relativePath(project.folder(), node.name) : shortName(node);
   if (!node.description.empty()) {
     text += "  [";

@@ -10,13 +10,13 @@ namespace {
 constexpr std::size_t kIndent = 2;
 
 // A path as it is written: from the folder on.
-std::string shortPath(const std::string& folder, const std::string& name, const std::string& type) {
-  if (!isPathName(name, type)) {
-    return name;
+std::string shortPath(const ProjectTree& tree, const std::string& folder, const NodeInfo& node) {
+  if (!tree.isPathName(node.parent, node.name, node.type)) {
+    return node.name;
   }
-  const std::string rest = relativePath(folder, name);
+  const std::string rest = relativePath(folder, node.name);
   // What would be read otherwise than it is meant stays whole.
-  return !rest.empty() && rest[0] == '#' ? name : rest;
+  return !rest.empty() && rest[0] == '#' ? node.name : rest;
 }
 
 // Texts, which end with a zero, are easier on the eye than their bytes.
@@ -145,8 +145,8 @@ class Writer {
     if (info == nullptr) {
       return;
     }
-    const std::string head = "node " + quotedWord(shortPath(folder_, info->name, info->type)) +
-                             " " + quotedWord(info->type);
+    const std::string head =
+        "node " + quotedWord(shortPath(tree_, folder_, *info)) + " " + quotedWord(info->type);
     const bool empty = info->description.empty() && info->options.empty() &&
                        info->children.empty() && info->items.empty();
     line(empty ? head : head + " {");

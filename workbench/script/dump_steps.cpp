@@ -131,9 +131,17 @@ StepResult stepDump(StepTry& step) {
       {"windows", dumpWindows},     {"dialog", dumpDialog},     {"text", dumpText},
       {"project", dumpProject},     {"messages", dumpMessages}, {"documents", dumpAllDocuments},
       {"clipboard", dumpClipboard}, {"status", dumpStatus}};
+  if (step.argCount() == 2) {
+    return step.fail("usage: dump KIND [KEY VALUE]");
+  }
   for (const auto& kind : kinds) {
     if (step.arg(0) == kind.name) {
-      return kind.dump(step);
+      const StepResult result = kind.dump(step);
+      if (result != StepResult::kDone || step.argCount() == 1) {
+        return result;
+      }
+      const EventHistory& history = step.stage.history;
+      return expectLatest(step, {history.at(history.end() - 1).name(), step.arg(1), step.arg(2)});
     }
   }
   return step.fail("nothing to dump is called " + step.arg(0));

@@ -1,5 +1,6 @@
 #include "workbench/events/ansi.h"
 #include "workbench/events/event_log.h"
+#include "workbench/paths.h"
 #include "workbench/script/steps.h"
 
 namespace workbench {
@@ -7,6 +8,8 @@ namespace {
 
 constexpr unsigned kWaitMs = 20000;
 constexpr unsigned kExpectMs = 5000;
+// Another program makes the file, and may have much to do before.
+constexpr unsigned kWaitFileMs = 50000;
 
 EventQuery queryOf(const StepTry& step) {
   EventQuery query{step.arg(0), std::nullopt, {}};
@@ -29,9 +32,9 @@ std::string shown(const Event& event) {
   return json.size() <= kMost ? json : json.substr(0, kMost) + "...";
 }
 
-std::string seen(const StepTry& step) {
-  const Event* latest = step.stage.history.latest(step.arg(0));
-  return latest == nullptr ? "no " + step.arg(0) + " has come" : "the latest was " + shown(*latest);
+std::string seen(const StepTry& step, const std::string& name) {
+  const Event* latest = step.stage.history.latest(name);
+  return latest == nullptr ? "no " + name + " has come" : "the latest was " + shown(*latest);
 }
 
 // What lies before it is no longer looked at, but for the latest of each name.
@@ -50,19 +53,29 @@ StepResult stepWait(StepTry& step) {
   EventQuery query = queryOf(step);
   size_t found = stage.history.find(query, stage.wait_from);
   if (found == stage.history.end()) {
-    return step.again("waited for " + wording(query) + ": " + seen(step), kWaitMs);
+    return step.again("waited for " + wording(query) + ": " + seen(step, query.name), kWaitMs);
   }
   waitFrom(stage, found + 1);
   return StepResult::kDone;
 }
 
+StepResult stepWaitFile(StepTry& step) {
+  const std::string path = step.stage.paths.resolve(step.arg(0));
+  return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES
+             ? StepResult::kDone
+             : step.again("waited for the file " + path, kWaitFileMs);
+}
+
 StepResult stepExpect(StepTry& step) {
-  EventQuery query = queryOf(step);
+  return expectLatest(step, queryOf(step));
+}
+
+StepResult expectLatest(StepTry& step, const EventQuery& query) {
   const Event* latest = step.stage.history.latest(query.name);
   if (latest != nullptr && query.matches(*latest)) {
     return StepResult::kDone;
   }
-  return step.again("expected " + wording(query) + ": " + seen(step), kExpectMs);
+  return step.again("expected " + wording(query) + ": " + seen(step, query.name), kExpectMs);
 }
 
 StepResult stepExpectNot(StepTry& step) {

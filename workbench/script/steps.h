@@ -75,7 +75,9 @@ StepResult stepEndRepeat(StepTry& step);
 
 // event_steps.cpp: what has happened
 StepResult stepWait(StepTry& step);
+StepResult stepWaitFile(StepTry& step);
 StepResult stepExpect(StepTry& step);
+StepResult expectLatest(StepTry& step, const EventQuery& query);
 StepResult stepExpectNot(StepTry& step);
 StepResult stepMark(StepTry& step);
 StepResult stepEcho(StepTry& step);
@@ -90,6 +92,7 @@ StepResult stepRegistryDelete(StepTry& step);
 StepResult stepExpectRegistry(StepTry& step);
 StepResult stepScreenshot(StepTry& step);
 StepResult stepHandles(StepTry& step);
+StepResult stepHold(StepTry& step);
 StepResult stepMemory(StepTry& step);
 
 }  // namespace workbench

@@ -106,7 +106,7 @@ ProjectNode ProjectService::add(ProjectNode parent, const std::string& name,
   Project& project = context_.project;
   const std::string known = type.empty() ? Project::typeFor(name) : type;
   const unsigned int node =
-      name.empty() ? 0 : project.add(parent, project.fullName(name, known), known);
+      name.empty() ? 0 : project.add(parent, project.fullName(parent, name, known), known);
   if (node != 0) {
     if (view_ != nullptr) {
       view_->nodeAdded(node);

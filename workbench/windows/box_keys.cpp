@@ -12,12 +12,17 @@ struct Search {
   HWND found;
 };
 
+bool isPushButton(HWND control) {
+  return (SendMessageA(control, WM_GETDLGCODE, 0, 0) &
+          (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+}
+
 BOOL CALLBACK lookAt(HWND control, LPARAM state) {
   auto* search = reinterpret_cast<Search*>(state);
   char text[80] = {};
   GetWindowTextA(control, text, sizeof text);
   const char* mark = std::strchr(text, '&');
-  const bool suits = mark != nullptr && (SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON);
+  const bool suits = mark != nullptr && isPushButton(control);
   const auto letter = suits ? static_cast<unsigned char>(mark[1]) : 0U;
   if (letter != 0 &&
       reinterpret_cast<ULONG_PTR>(CharUpperA(reinterpret_cast<LPSTR>(letter))) == search->key) {
@@ -39,7 +44,8 @@ LRESULT CALLBACK BoxKeys::watch(int code, WPARAM w, LPARAM l) {
   if (code == MSGF_DIALOGBOX && message->message == WM_KEYDOWN && GetKeyState(VK_CONTROL) >= 0) {
     HWND box = GetParent(message->hwnd);
     Search search = {message->wParam, nullptr};
-    if (box != nullptr && GetDlgItem(box, kBoxTextId) != nullptr) {
+    // Other dialogs have controls of that id as well, and fields in which letters are typed.
+    if (box != nullptr && GetDlgItem(box, kBoxTextId) != nullptr && isPushButton(message->hwnd)) {
       EnumChildWindows(box, lookAt, reinterpret_cast<LPARAM>(&search));
     }
     if (search.found != nullptr) {

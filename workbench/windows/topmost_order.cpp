@@ -7,29 +7,42 @@
 namespace workbench {
 namespace {
 
-BOOL CALLBACK addTopmost(HWND window, LPARAM data) {
-  if (IsWindowVisible(window) && (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0) {
-    reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+struct Above {
+  HWND below;
+  std::vector<HWND> windows;
+};
+
+// The windows come in their order, from the top.
+BOOL CALLBACK addAbove(HWND window, LPARAM data) {
+  auto* above = reinterpret_cast<Above*>(data);
+  if (window == above->below) {
+    return FALSE;
+  }
+  if (IsWindowVisible(window)) {
+    above->windows.push_back(window);
   }
   return TRUE;
 }
 
-// Each leaves the topmost band and comes back, the lowest first: a window that takes
-// the place it has already is not drawn anew.
-void liftTopmost() {
-  std::vector<HWND> topmost;
-  EnumThreadWindows(GetCurrentThreadId(), addTopmost, reinterpret_cast<LPARAM>(&topmost));
-  for (auto window = topmost.rbegin(); window != topmost.rend(); ++window) {
-    for (HWND band : {HWND_NOTOPMOST, HWND_TOPMOST}) {
-      SetWindowPos(*window, band, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+// Each changes its band and comes back, the lowest first: a window that takes the place
+// it has already is not drawn anew.
+void liftAbove(HWND window) {
+  Above above = {GetAncestor(window, GA_ROOT), {}};
+  EnumThreadWindows(GetCurrentThreadId(), addAbove, reinterpret_cast<LPARAM>(&above));
+  for (auto lifted = above.windows.rbegin(); lifted != above.windows.rend(); ++lifted) {
+    const bool topmost = (GetWindowLongA(*lifted, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    for (HWND band :
+         {topmost ? HWND_NOTOPMOST : HWND_TOPMOST, topmost ? HWND_TOPMOST : HWND_NOTOPMOST}) {
+      SetWindowPos(*lifted, band, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
   }
 }
 
 // The keyboard has moved when the window that has it now is told.
 LRESULT CALLBACK onSent(int code, WPARAM wparam, LPARAM lparam) {
-  if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lparam)->message == WM_SETFOCUS) {
-    liftTopmost();
+  const auto* sent = reinterpret_cast<const CWPSTRUCT*>(lparam);
+  if (code == HC_ACTION && sent->message == WM_SETFOCUS) {
+    liftAbove(sent->hwnd);
   }
   return CallNextHookEx(nullptr, code, wparam, lparam);
 }

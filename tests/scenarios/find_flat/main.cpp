@@ -2,3 +2,4 @@ int main()
 {
     tool(1);
 }
+// draw local Shape Inner Top
