@@ -5,7 +5,10 @@ set -u
 bin=${1:?usage: bash bench/tasklist.sh BINDIR}
 here=$(cd "$(dirname "$(readlink -f "$0")")/.." && pwd)
 
-times=$("$here/kesto" exec "$bin/../../mingw32/bin/task_list_bench_win.exe" | tr -d '\r')
+. "$here/bench/turns.sh"
+times=$(for turn in 1 2 3; do
+  "$here/kesto" exec "$bin/../../mingw32/bin/task_list_bench_win.exe" | tr -d '\r' || exit 1
+done | best)
 [ -n "$times" ] || exit 1
 # Ratios only: the times themselves say more about the machine.
 printf '%s\n' "$times" | awk '

@@ -121,7 +121,7 @@ class Days {
     List list;
     fill(list, roots);
     checkOrder(list);
-    const bool there = files_.isDirectory("S");
+    const ServerState there = serverState(files_, "S");
     const Files filled = files_.files;
     for (int presses = input_.next(4); presses > 0; --presses) {
       std::vector<int> selected;

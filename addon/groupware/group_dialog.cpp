@@ -161,7 +161,7 @@ void GroupDialog::fill() {
     return;
   }
   GroupFilesWin files;
-  server_was_there_ = files.isDirectory(roots_.server.c_str());
+  server_ = serverState(files, roots_.server);
   SearchWatch watch("Groupware: listing");
   // A copy: the session may end while they are looked for.
   const std::string filters(groupwareSettings->filters().view());
@@ -260,7 +260,7 @@ GroupDialog::Outcome GroupDialog::exchangeRows(const std::vector<int>& rows) {
   }
   const WaitCursor waiting;
   ToldFiles files(total, dialog_);
-  Transfer transfer(files, roots_, server_was_there_, userName());
+  Transfer transfer(files, roots_, server_, userName());
   for (const int row : rows) {
     files.expect(exchange_.at(row).size);
     exchange_.transfer(row, transfer);

@@ -54,8 +54,8 @@ class GroupDialog {
   HWND dialog_ = nullptr;
   HWND list_ = nullptr;
   TabRows rows_;
-  bool server_was_there_ = false;
-  bool busy_ = false;  // boxes have loops of their own
+  ServerState server_ = ServerState::kAbsent;  // when the list was filled
+  bool busy_ = false;                          // boxes have loops of their own
 };
 
 }  // namespace kesto

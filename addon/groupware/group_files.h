@@ -42,6 +42,8 @@ class GroupFiles {
   // Nothing when there is no such file, or it cannot be asked.
   virtual std::optional<FileFacts> facts(const char* path) = 0;
   virtual bool isDirectory(const char* path) = 0;
+  // A file or a folder.
+  virtual bool holdsAnything(const char* directory) = 0;
   virtual bool makeDirectory(const char* path) = 0;
   // The file's read-only flag; its other attributes stay.
   virtual bool setWritable(const char* path, bool writable) = 0;

@@ -91,6 +91,20 @@ bool GroupFilesWin::isDirectory(const char* path) {
   return attributes != kNoAttributes && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+bool GroupFilesWin::holdsAnything(const char* directory) {
+  WIN32_FIND_DATAA data = {};
+  const HANDLE search = FindFirstFileA(joinPath(directory, "*"), &data);
+  if (search == INVALID_HANDLE_VALUE) {
+    return false;
+  }
+  bool found = false;
+  do {
+    found = strcmp(data.cFileName, ".") != 0 && strcmp(data.cFileName, "..") != 0;
+  } while (!found && FindNextFileA(search, &data) != FALSE);
+  FindClose(search);
+  return found;
+}
+
 bool GroupFilesWin::makeDirectory(const char* path) {
   return CreateDirectoryA(path, nullptr) != FALSE;
 }

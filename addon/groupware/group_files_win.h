@@ -11,6 +11,7 @@ class GroupFilesWin : public GroupFiles {
   void list(const char* directory, const char* mask, FileListener& listener) override;
   std::optional<FileFacts> facts(const char* path) override;
   bool isDirectory(const char* path) override;
+  bool holdsAnything(const char* directory) override;
   bool makeDirectory(const char* path) override;
   bool setWritable(const char* path, bool writable) override;
   // Without a word, as tellRefused; who has a person to tell overrides both.

@@ -11,16 +11,26 @@ constexpr int kMostKept = 9999;
 
 }  // namespace
 
-bool Transfer::isAsListed(const EltGW& element, const std::string& server_path) const {
-  // A server that went away has not lost its files: nothing is made in its place.
-  if (server_was_there_ && !files_.isDirectory(roots_.server.c_str())) {
-    return false;
+ServerState serverState(GroupFiles& files, const std::string& directory) {
+  if (!files.isDirectory(directory.c_str())) {
+    return ServerState::kAbsent;
   }
+  return files.holdsAnything(directory.c_str()) ? ServerState::kFilled : ServerState::kEmpty;
+}
+
+bool Transfer::isAsListed(const EltGW& element, const std::string& server_path) const {
   const std::optional<FileFacts> now = files_.facts(server_path.c_str());
   if (!now || !element.server) {
-    return now.has_value() == element.server.has_value();
+    return !now && !element.server && !isServerAway();
   }
   return now->modified == element.server->modified && now->writable == element.server->writable;
+}
+
+// A server that went away has not lost its files: nothing is made in its place. While the
+// last file that was sent is there, so is the server.
+bool Transfer::isServerAway() const {
+  return (last_sent_.empty() || !files_.facts(last_sent_.c_str())) &&
+         serverState(files_, roots_.server) < server_then_;
 }
 
 bool Transfer::leaveAlone(const EltGW& element, const std::string& server_path,
@@ -54,6 +64,7 @@ void Transfer::transfer(const EltGWsend& element) {
     }
   }
   if (copied) {
+    last_sent_ = server;
     report_ += name;
     report_ += element.request == SendRequest::kUpdate ? " is refreshed\n"
                                                        : " is delivered and unlocked\n";

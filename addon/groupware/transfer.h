@@ -15,13 +15,17 @@ namespace kesto {
 // would have cost somebody. No scan enters it.
 inline constexpr char kKeptFolder[] = ".kesto";
 
+// A disk that is taken away may leave an empty folder in its place.
+enum class ServerState { kAbsent, kEmpty, kFilled };
+ServerState serverState(GroupFiles& files, const std::string& directory);
+
 class Transfer {
  public:
-  // server_was_there: whether the server directory was when the list was filled. user is
-  // the name for the lock files, which are not written when it is empty. Both references
-  // must outlive it.
-  Transfer(GroupFiles& files, const GroupRoots& roots, bool server_was_there, std::string user = {})
-      : files_(files), roots_(roots), server_was_there_(server_was_there), user_(std::move(user)) {}
+  // server_then: how the server directory was when the list was filled. user is the name for
+  // the lock files, which are not written when it is empty. Both references must outlive it.
+  Transfer(GroupFiles& files, const GroupRoots& roots, ServerState server_then,
+           std::string user = {})
+      : files_(files), roots_(roots), server_then_(server_then), user_(std::move(user)) {}
 
   // A file whose server copy is another than the list says is left alone.
   void transfer(const EltGWsend& element);
@@ -36,6 +40,7 @@ class Transfer {
 
  private:
   bool isAsListed(const EltGW& element, const std::string& server_path) const;
+  bool isServerAway() const;
   bool leaveAlone(const EltGW& element, const std::string& server_path, const std::string& name);
   // The folders of root\name that are missing.
   void makeFolders(const std::string& root, const std::string& name);
@@ -47,7 +52,8 @@ class Transfer {
 
   GroupFiles& files_;
   const GroupRoots& roots_;
-  bool server_was_there_;
+  ServerState server_then_;
+  std::string last_sent_;  // its server copy
   std::string user_;
   std::string report_;
   std::vector<std::string> changed_;

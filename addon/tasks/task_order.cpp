@@ -1,7 +1,5 @@
 #include "addon/tasks/task_order.h"
 
-#include <cstring>
-
 namespace kesto {
 
 namespace {
@@ -10,6 +8,15 @@ enum class Key { kState, kStart, kEnd, kPriority, kType, kName };
 
 int compareNumbers(std::int32_t left, std::int32_t right) {
   return (left > right) - (left < right);
+}
+
+// As strcmp, a call to which takes longer than most texts take to differ.
+int compareTexts(const char* left, const char* right) {
+  while (*left == *right && *left != 0) {
+    ++left;
+    ++right;
+  }
+  return static_cast<unsigned char>(*left) - static_cast<unsigned char>(*right);
 }
 
 template <Key key>
@@ -23,9 +30,9 @@ int compareKey(const Task& left, const Task& right) {
   } else if constexpr (key == Key::kPriority) {
     return compareNumbers(left.priority, right.priority);
   } else if constexpr (key == Key::kType) {
-    return strcmp(left.type.text(), right.type.text());
+    return compareTexts(left.type.text(), right.type.text());
   } else {
-    return strcmp(left.name.text(), right.name.text());
+    return compareTexts(left.name.text(), right.name.text());
   }
 }
 

@@ -65,6 +65,11 @@ class PlayedGroup : public GroupFiles {
     return found != files.end() ? std::optional(factsOf(found->second)) : std::nullopt;
   }
   bool isDirectory(const char* path) override { return directories.count(path) != 0; }
+  bool holdsAnything(const char* path) override {
+    const std::string below = std::string(path) + '\\';
+    const auto found = files.lower_bound(below);
+    return found != files.end() && found->first.starts_with(below);
+  }
   bool makeDirectory(const char* path) override {
     const bool top = std::string(path).find('\\') == std::string::npos;
     return (top || isDirectory(parent(path).c_str())) && directories.insert(path).second;

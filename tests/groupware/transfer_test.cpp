@@ -19,7 +19,7 @@ struct Outcome {
 };
 
 template <class T>
-Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, bool there) {
+Outcome perform(PlayedGroup& files, const Tableau<T>& list, const char* user, ServerState there) {
   Transfer transfer(files, kRoots, there, user);
   for (int i = 0; i < list.count(); ++i) {
     if (list.at(i)->chosen()) {
@@ -41,7 +41,7 @@ Outcome send(PlayedGroup& files, SendRequest request, const Change& change) {
   for (int i = 0; i < list.count(); ++i) {
     list.at(i)->request = request;
   }
-  const bool there = files.isDirectory("S");
+  const ServerState there = serverState(files, "S");
   change();
   return perform(files, list, "", there);
 }
@@ -55,7 +55,7 @@ Outcome get(PlayedGroup& files, GetRequest request, const Change& change,
     list.at(i)->request = request;
   }
   change();
-  return perform(files, list, user, true);
+  return perform(files, list, user, ServerState::kFilled);
 }
 
 void nothing() {}
@@ -163,6 +163,19 @@ TEST_CASE("a server that went away is not made anew") {
   CHECK(outcome.changed == "a.h\n");
   CHECK(files.at("P\\a.h") == "text w");
   CHECK(files.directories.count("S") == 0);
+}
+
+// A disk that is taken away leaves an empty folder; one that was empty before takes files.
+TEST_CASE("nothing is put where the server's disk was") {
+  PlayedGroup files;
+  files.put("P\\a.h", "text", 5);
+  files.put("P\\b.h", "more", 5);
+  files.put("S\\c.h", "hers", 5);
+  CHECK(send(files, SendRequest::kSend, [&files] { files.files.erase("S\\c.h"); }).changed ==
+        "a.h\nb.h\n");
+  CHECK(files.at("P\\a.h") == "text w");
+  CHECK(send(files, SendRequest::kUpdate, nothing).changed.empty());
+  CHECK(files.at("S\\b.h") == "more r");
 }
 
 // The server's copies since the list was filled: 1 came, 2 went, 3 has another time within

@@ -1,5 +1,6 @@
 #include "workbench/events/ansi.h"
 #include "workbench/events/event_log.h"
+#include "workbench/paths.h"
 #include "workbench/script/steps.h"
 
 namespace workbench {
@@ -7,6 +8,8 @@ namespace {
 
 constexpr unsigned kWaitMs = 20000;
 constexpr unsigned kExpectMs = 5000;
+// Another program makes the file, and may have much to do before.
+constexpr unsigned kWaitFileMs = 50000;
 
 EventQuery queryOf(const StepTry& step) {
   EventQuery query{step.arg(0), std::nullopt, {}};
@@ -54,6 +57,13 @@ StepResult stepWait(StepTry& step) {
   }
   waitFrom(stage, found + 1);
   return StepResult::kDone;
+}
+
+StepResult stepWaitFile(StepTry& step) {
+  const std::string path = step.stage.paths.resolve(step.arg(0));
+  return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES
+             ? StepResult::kDone
+             : step.again("waited for the file " + path, kWaitFileMs);
 }
 
 StepResult stepExpect(StepTry& step) {

@@ -92,6 +92,8 @@ Step stepOf(Verb verb) {
       return stepExpectRegistry;
     case Verb::kHandles:
       return stepHandles;
+    case Verb::kHold:
+      return stepHold;
     case Verb::kKey:
       return stepKey;
     case Verb::kMake:
@@ -152,6 +154,8 @@ Step stepOf(Verb verb) {
       return stepType;
     case Verb::kWait:
       return stepWait;
+    case Verb::kWaitFile:
+      return stepWaitFile;
   }
   return nullptr;
 }

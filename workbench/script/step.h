@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -50,6 +51,7 @@ struct Stage {
   DWORD last_click_ms = 0;   // as GetTickCount
   HWND elsewhere = nullptr;  // the window that takes the activation away
   OtherIde other_ide;        // the program that takes it away
+  std::unique_ptr<void, BOOL(WINAPI*)(HANDLE)> held{nullptr, CloseHandle};  // a file
 };
 
 enum class StepResult { kDone, kAgain, kFailed };

@@ -75,6 +75,7 @@ StepResult stepEndRepeat(StepTry& step);
 
 // event_steps.cpp: what has happened
 StepResult stepWait(StepTry& step);
+StepResult stepWaitFile(StepTry& step);
 StepResult stepExpect(StepTry& step);
 StepResult expectLatest(StepTry& step, const EventQuery& query);
 StepResult stepExpectNot(StepTry& step);
@@ -91,6 +92,7 @@ StepResult stepRegistryDelete(StepTry& step);
 StepResult stepExpectRegistry(StepTry& step);
 StepResult stepScreenshot(StepTry& step);
 StepResult stepHandles(StepTry& step);
+StepResult stepHold(StepTry& step);
 StepResult stepMemory(StepTry& step);
 
 }  // namespace workbench

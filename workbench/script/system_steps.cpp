@@ -45,6 +45,22 @@ StepResult stepMemory(StepTry& step) {
   return StepResult::kDone;
 }
 
+// Open for writing and shared with nobody, until the next one.
+StepResult stepHold(StepTry& step) {
+  step.stage.held.reset();
+  if (step.argCount() == 0) {
+    return StepResult::kDone;
+  }
+  const std::string path = step.stage.paths.resolve(step.arg(0));
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) {
+    return step.fail("cannot be opened for writing: " + path);
+  }
+  step.stage.held.reset(file);
+  return StepResult::kDone;
+}
+
 StepResult stepHandles(StepTry& step) {
   HandleCount count = countHandles();
   step.stage.log.emit(Event("handles")

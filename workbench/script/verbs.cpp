@@ -42,6 +42,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kExpectNot, kHeldUp, "expect-not", 1, 3, "expect-not EVENT [KEY VALUE]"},
     {Verb::kExpectRegistry, kBeside, "expect-registry", 3, 3, "expect-registry SECTION NAME TEXT"},
     {Verb::kHandles, kBeside, "handles", 0, 0, "handles"},
+    {Verb::kHold, kBeside, "hold", 0, 1, "hold [PATH]"},
     {Verb::kKey, kHeldUp, "key", 1, 1, "key [Ctrl+][Alt+][Shift+]KEY"},
     {Verb::kMake, kWithout, "make", 0, 1, "make [ok|fail]"},
     {Verb::kMark, kHeldUp, "mark", 0, 0, "mark"},
@@ -72,6 +73,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kTick, kWithout, "tick", 1, 1, "tick N"},
     {Verb::kType, kWithout, "type", 1, 1, "type TEXT"},
     {Verb::kWait, kHeldUp, "wait", 1, 3, "wait EVENT [KEY VALUE]"},
+    {Verb::kWaitFile, kBeside, "wait-file", 1, 1, "wait-file PATH"},
 };
 static_assert(sizeof kVerbs / sizeof *kVerbs == kVerbCount);
 

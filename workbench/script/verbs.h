@@ -37,6 +37,7 @@ enum class Verb {
   kExpectNot,
   kExpectRegistry,
   kHandles,
+  kHold,
   kKey,
   kMake,
   kMark,
@@ -67,8 +68,9 @@ enum class Verb {
   kTick,
   kType,
   kWait,
+  kWaitFile,
 };
-inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWait) + 1;
+inline constexpr size_t kVerbCount = static_cast<size_t>(Verb::kWaitFile) + 1;
 
 // Whether a step waits while a message box that nobody has answered is open.
 enum class Readiness {
