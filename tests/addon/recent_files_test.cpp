@@ -67,11 +67,20 @@ TEST_CASE("a header is remembered whatever the bar has become") {
   DestroyMenu(bar);
 }
 
-TEST_CASE("an editor that closed before it is told of is none") {
+TEST_CASE("a second editor of a file makes way for the first") {
   BarSession session;
   session.create();
-  const HWND editor = session.windows.editor("C:\\P\\A.H");
-  DestroyWindow(editor);
-  kesto::onEditorCreated(editor);
+  const HWND first = session.windows.editor("C:\\P\\A.H");
+  const HWND other = session.windows.editor("C:\\p\\b.h");
+  const HWND second = session.windows.editor("c:\\p\\a.h:2");
+  kesto::onEditorCreated(second);
+  session.windows.drain();
+  CHECK(!IsWindow(second));
+  CHECK(GetWindow(session.windows.client, GW_CHILD) == first);
   CHECK(kesto::recentFiles->headers().count() == 0);
+  kesto::onEditorCreated(other);
+  session.windows.drain();
+  CHECK(IsWindow(other));
+  CHECK(kesto::recentFiles->headers().count() == 1);
+  kesto::onEditorCreated(second);
 }
