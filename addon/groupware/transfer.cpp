@@ -52,13 +52,16 @@ void Transfer::transfer(const EltGWsend& element) {
   if (element.server) {
     files_.setWritable(server.c_str(), true);
   }
-  const bool copied = files_.copy(element.path, server.c_str());
+  // A text that is newer than what is sent, or that nobody has locked, may be somebody's alone.
+  const bool endangers = element.server && (element.age == Age::kNewer || element.server->writable);
+  const bool copied = (!endangers || keepFrom(element.path, server, name)) &&
+                      files_.copy(element.path, server.c_str());
   if (element.request == SendRequest::kUpdate) {
     files_.setWritable(server.c_str(), false);
   } else {
     files_.setWritable(server.c_str(), true);
     // A read-only copy may be refreshed away: what was not sent is kept first.
-    if (copied || keepLocal(name)) {
+    if (copied || keep(element.path.text(), name)) {
       files_.setWritable(element.path, false);
       unsent_ += copied ? "" : ", " + name;
     }
@@ -80,11 +83,7 @@ void Transfer::transfer(const EltGWget& element) {
   const std::optional<FileFacts> before = files_.facts(local.c_str());
   const bool was_writable = before && before->writable;
   makeFolders(roots_.project, name);
-  const bool kept =
-      !was_writable || files_.sameText(local.c_str(), element.path) || keepLocal(name);
-  if (!kept) {
-    files_.tellRefused(keptPath(name).c_str());
-  }
+  const bool kept = !was_writable || keepFrom(element.path, local, name);
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
   }
@@ -131,20 +130,24 @@ void Transfer::makeFolders(const std::string& root, const std::string& name) {
   }
 }
 
-std::string Transfer::keptPath(const std::string& name) const {
-  return pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+bool Transfer::keepFrom(const char* coming, const std::string& path, const std::string& name) {
+  if (files_.sameText(path.c_str(), coming) || keep(path, name)) {
+    return true;
+  }
+  const std::string kept = pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+  files_.tellRefused(kept.c_str());
+  return false;
 }
 
 // The text that was kept last stands under the file's own name, those before it have
 // numbers behind.
-bool Transfer::keepLocal(const std::string& name) {
-  const std::string local = pathBelow(roots_.project, name);
-  const std::string kept = keptPath(name);
-  if (files_.sameText(local.c_str(), kept.c_str())) {
+bool Transfer::keep(const std::string& path, const std::string& name) {
+  const std::string kept = pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+  if (files_.sameText(path.c_str(), kept.c_str())) {
     return true;
   }
   makeFolders(roots_.project, pathBelow(kKeptFolder, name));
-  return makeRoomForKept(kept) && files_.copyAside(local.c_str(), kept.c_str());
+  return makeRoomForKept(kept) && files_.copyAside(path.c_str(), kept.c_str());
 }
 
 bool Transfer::makeRoomForKept(const std::string& kept) {

@@ -11,8 +11,8 @@
 
 namespace kesto {
 
-// The folder below the project's directory that keeps what a get, or a send that failed,
-// would have cost somebody. No scan enters it.
+// The folder below the project's directory that keeps what a get, a send over a text that may
+// be somebody's alone, or a send that failed would have cost. No scan enters it.
 inline constexpr char kKeptFolder[] = ".kesto";
 
 // A disk that is taken away may leave an empty folder in its place.
@@ -46,8 +46,11 @@ class Transfer {
   void makeFolders(const std::string& root, const std::string& name);
   // Both copies of a server file whose text came, or not.
   void lock(const EltGWget& element, const std::string& name, bool copied);
-  std::string keptPath(const std::string& name) const;
-  bool keepLocal(const std::string& name);
+  // Keeps the text at path before another one comes over it, unless that is the same. The
+  // person is told when it cannot be kept.
+  bool keepFrom(const char* coming, const std::string& path, const std::string& name);
+  // Keeps the text at path as one of the file of that name.
+  bool keep(const std::string& path, const std::string& name);
   bool makeRoomForKept(const std::string& kept);
 
   GroupFiles& files_;

@@ -63,7 +63,7 @@ void nothing() {}
 }  // namespace
 
 // Copies as "TEXT w" or "TEXT r". A failed one keeps the destination's text, has its
-// attributes changed all the same, and no line.
+// attributes changed all the same, and no line. "<" sends what is older than the server's.
 TEST_CASE("what each action does to both copies") {
   struct Case {
     const char *action, *local, *server;
@@ -74,6 +74,7 @@ TEST_CASE("what each action does to both copies") {
       {"update", "new w", "", "new w", "new r", "a.h is refreshed\n", ""},
       {"send", "new w", "old r", "new r", "new w", "a.h is delivered and unlocked\n", ""},
       {"send", "new w", "old w", "new r", "new w", "a.h is delivered and unlocked\n", ""},
+      {"update<", "new w", "old r", "new w", "new r", "a.h is refreshed\n", ""},
       {"refresh", "", "new w", "new r", "new w", "", ""},
       {"refresh", "old r", "new r", "new r", "new r", "", ""},
       {"refresh", "old w", "new r", "new w", "new r", "", ""},
@@ -99,7 +100,7 @@ TEST_CASE("what each action does to both copies") {
       }
     };
     put("P\\a.h", c.local, 5);
-    put("S\\a.h", c.server, 7);
+    put("S\\a.h", c.server, sends && action.back() != '<' ? 3 : 7);
     files.failing = action.back() == '!' ? sends ? "S\\" : "P\\a" : "";
     const Outcome outcome =
         sends ? send(files, action[0] == 'u' ? SendRequest::kUpdate : SendRequest::kSend, nothing)
@@ -112,11 +113,11 @@ TEST_CASE("what each action does to both copies") {
     if (*c.report != '\0') {
       CHECK(files.files["P\\a.h"].modified == files.files["S\\a.h"].modified);
     }
-    // What was overwritten here, or not sent and read-only from now on, is kept.
-    const std::string lost = action == "refresh" && c.local == std::string("old w")    ? "old w"
-                             : action == "refresh!" && c.local == std::string("old w") ? "old w"
-                             : action == "send!"                                       ? "new w"
-                                                                                       : "";
+    // What is overwritten and may be all that there is of it, or was not sent and is read-only
+    // from now on, is kept.
+    const bool endangered =
+        std::string(sends ? c.server : c.local) == "old w" || action == "update<";
+    const std::string lost = endangered ? "old w" : action == "send!" ? "new w" : "";
     CHECK(files.at("P\\.kesto\\a.h") == lost);
     CHECK(outcome.notice ==
           (action == "send!" ? "Not sent, read-only now and kept in .kesto: a.h" : ""));
