@@ -54,8 +54,11 @@ void Transfer::transfer(const EltGWsend& element) {
   }
   // A text that is newer than what is sent, or that nobody has locked, may be somebody's alone.
   const bool endangers = element.server && (element.age == Age::kNewer || element.server->writable);
-  const bool copied = (!endangers || keepFrom(element.path, server, name)) &&
-                      files_.copy(element.path, server.c_str());
+  const bool kept = !endangers || keepFrom(element.path, server, name);
+  if (!kept) {
+    files_.tellRefused(server.c_str());
+  }
+  const bool copied = kept && files_.copy(element.path, server.c_str());
   if (element.request == SendRequest::kUpdate) {
     files_.setWritable(server.c_str(), false);
   } else {
@@ -84,6 +87,9 @@ void Transfer::transfer(const EltGWget& element) {
   const bool was_writable = before && before->writable;
   makeFolders(roots_.project, name);
   const bool kept = !was_writable || keepFrom(element.path, local, name);
+  if (!kept) {
+    files_.tellRefused(keptPath(name).c_str());
+  }
   if (before && !was_writable) {
     files_.setWritable(local.c_str(), true);
   }
@@ -131,18 +137,17 @@ void Transfer::makeFolders(const std::string& root, const std::string& name) {
 }
 
 bool Transfer::keepFrom(const char* coming, const std::string& path, const std::string& name) {
-  if (files_.sameText(path.c_str(), coming) || keep(path, name)) {
-    return true;
-  }
-  const std::string kept = pathBelow(roots_.project, pathBelow(kKeptFolder, name));
-  files_.tellRefused(kept.c_str());
-  return false;
+  return files_.sameText(path.c_str(), coming) || keep(path, name);
+}
+
+std::string Transfer::keptPath(const std::string& name) const {
+  return pathBelow(roots_.project, pathBelow(kKeptFolder, name));
 }
 
 // The text that was kept last stands under the file's own name, those before it have
 // numbers behind.
 bool Transfer::keep(const std::string& path, const std::string& name) {
-  const std::string kept = pathBelow(roots_.project, pathBelow(kKeptFolder, name));
+  const std::string kept = keptPath(name);
   if (files_.sameText(path.c_str(), kept.c_str())) {
     return true;
   }

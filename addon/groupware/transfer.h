@@ -46,8 +46,8 @@ class Transfer {
   void makeFolders(const std::string& root, const std::string& name);
   // Both copies of a server file whose text came, or not.
   void lock(const EltGWget& element, const std::string& name, bool copied);
-  // Keeps the text at path before another one comes over it, unless that is the same. The
-  // person is told when it cannot be kept.
+  std::string keptPath(const std::string& name) const;
+  // Keeps the text at path before another one comes over it, unless that is the same.
   bool keepFrom(const char* coming, const std::string& path, const std::string& name);
   // Keeps the text at path as one of the file of that name.
   bool keep(const std::string& path, const std::string& name);

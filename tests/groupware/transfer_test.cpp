@@ -239,6 +239,12 @@ TEST_CASE("a local text that a get overwrites is kept, each of them") {
   CHECK(get(files, GetRequest::kGet, nothing).report.empty());
   CHECK(files.at("P\\sub\\a.h") == "four w");
   CHECK(files.refused == "P\\.kesto\\sub\\a.h");
+  // Nor does a send cost a text that nobody has locked.
+  files.refused.clear();
+  files.put("S\\sub\\a.h", "five", 9);
+  CHECK(send(files, SendRequest::kSend, nothing).report.empty());
+  CHECK(files.at("S\\sub\\a.h") == "five w");
+  CHECK(files.refused == "S\\sub\\a.h");
 }
 
 }  // namespace kesto
