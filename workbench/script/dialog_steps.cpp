@@ -138,9 +138,14 @@ StepResult stepAnswer(StepTry& step) {
 }
 
 StepResult stepDialog(StepTry& step) {
-  const bool closes = step.arg(1) == "close";
-  if (!closes && step.arg(1) != "activate") {
-    return step.fail("a dialog is made to activate or close");
+  const bool closes = step.arg(1) == "close", sizes = step.arg(1) == "size";
+  long width = 0, height = 0;
+  if (sizes ? step.argCount() != 4
+            : step.argCount() != 2 || (!closes && step.arg(1) != "activate")) {
+    return step.fail("a dialog is made to activate, close or size WIDTH HEIGHT");
+  }
+  if (sizes && (!step.number(2, 1, 32767, &width) || !step.number(3, 1, 32767, &height))) {
+    return StepResult::kFailed;
   }
   HWND dialog = step.stage.observer.windows().dialogCalled(step.arg(0));
   if (dialog == nullptr) {
@@ -148,6 +153,10 @@ StepResult stepDialog(StepTry& step) {
   }
   if (closes) {
     PostMessageA(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+    return StepResult::kDone;
+  }
+  if (sizes) {
+    SetWindowPos(dialog, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     return StepResult::kDone;
   }
   SetForegroundWindow(dialog);

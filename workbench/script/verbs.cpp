@@ -25,7 +25,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kCommand, kWithout, "command", 1, 1, "command ID"},
     {Verb::kDeactivate, kBeside, "deactivate", 0, 0, "deactivate"},
     {Verb::kDescribeNode, kWithout, "describe-node", 2, 2, "describe-node NODE TEXT"},
-    {Verb::kDialog, kBeside, "dialog", 2, 2, "dialog CAPTION activate|close"},
+    {Verb::kDialog, kBeside, "dialog", 2, 4, "dialog CAPTION activate|close|size W H"},
     {Verb::kDocument, kBeside, "document", 2, 2,
      "document TITLE activate|minimize|maximize|restore"},
     {Verb::kDoubleClickTitle, kWithout, "double-click-title", 2, 2,
