@@ -13,6 +13,7 @@ constexpr std::uint16_t kNoPage = 0xFFFF;
 constexpr std::size_t kFileHeader = 9;
 constexpr std::size_t kTreeHeader = 38;
 constexpr std::size_t kLeafHeader = 8;
+constexpr std::uint32_t kMostCommonHash = 0x7FFFFFFF;
 constexpr std::size_t kSystemDate = 6;  // in |SYSTEM
 
 // Numbers have their least byte first. What lies outside reads as nothing.
@@ -164,6 +165,10 @@ std::string makeTable(std::string_view tree, std::span<const HelpContext> contex
   const auto topics = topicsOf(tree);
   if (!topics) {
     return "damaged: |CONTEXT cannot be read";
+  }
+  // Some readers take the hash for a signed number, and so seek in another order.
+  if (!topics->empty() && topics->rbegin()->first > kMostCommonHash) {
+    return "not every viewer finds a page by a word like one here: take at most five characters";
   }
   append(table, static_cast<std::uint32_t>(contexts.size()), 2);
   std::uint32_t before = 0;
