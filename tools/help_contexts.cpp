@@ -74,16 +74,17 @@ std::optional<std::vector<Leaf>> leavesOf(std::string_view tree) {
   if (bytes.number(0, 2) != kTreeMagic || !size || !pages || !levels || !page) {
     return std::nullopt;
   }
-  const auto pageAt = [&](std::uint32_t number) {
-    return number < *pages ? bytes.part(kTreeHeader + number * *size, *size) : std::nullopt;
+  const auto page_at = [&](std::uint32_t number) {
+    return number < *pages ? bytes.part(kTreeHeader + std::size_t{number} * *size, *size)
+                           : std::nullopt;
   };
   for (std::uint32_t level = 1; level < *levels && page; ++level) {
-    const auto index = pageAt(*page);
+    const auto index = page_at(*page);
     page = index ? Bytes(*index).number(4, 2) : std::nullopt;
   }
   std::vector<Leaf> leaves;
   while (page && *page != kNoPage) {
-    const auto leaf = pageAt(*page);
+    const auto leaf = page_at(*page);
     const auto count = leaf ? Bytes(*leaf).number(2, 2) : std::nullopt;
     page = leaf ? Bytes(*leaf).number(6, 2) : std::nullopt;
     // Leaves that lead back to one another would never end.

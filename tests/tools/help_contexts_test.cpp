@@ -117,7 +117,7 @@ TEST_CASE("what is wrong is told, and the file stays as it was") {
   const std::string sample = helpFile(sampleFiles(bytes(0, 2), 5), 2);
   const auto refusal = [](std::string help, const std::vector<HelpContext>& contexts) {
     const std::string before = help;
-    const std::string wrong = fillHelpContexts(help, contexts);
+    std::string wrong = fillHelpContexts(help, contexts);
     CHECK((wrong.empty() || help == before));
     return wrong;
   };
