@@ -8,7 +8,7 @@ namespace workbench {
 
 struct CommandLine {
   std::string path;    // project, folder or file; empty for none
-  std::string addon;   // a DLL
+  std::string addon;   // a DLL; empty for the Workbench's own
   std::string script;  // a file, or "-" for standard input
 };
 
