@@ -30,7 +30,7 @@ int runProgram(HINSTANCE instance, const std::vector<std::string>& arguments, in
     return 1;
   }
   const bool scripted = !line.script.empty();
-  if (line.addon.empty()) {
+  if (line.own_addon) {
     line.addon = ownAddon();
   }
   if (!line.addon.empty() && !application.startAddon(line.addon, &reason)) {
