@@ -37,7 +37,10 @@ stage() { # BIN STAGE
       target=$place${member#"$source"}
       mkdir -p "$(dirname "$folder/$target")"
       cp "$member" "$folder/$target"
-      case $target in *.exe | *.dll) i686-w64-mingw32-strip "$folder/$target" ;; esac
+      case $member in
+        *.exe | *.dll) i686-w64-mingw32-strip "$folder/$target" ;;
+        package/*.TXT) sed -i 's/$/\r/' "$folder/$target" ;;
+      esac
       printf '%s %s\n' "$kind" "$target" >>"$2/kinds"
     done
   done <package/files.txt
