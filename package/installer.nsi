@@ -29,11 +29,14 @@ InstallDirRegKey HKLM "${UNINSTALL_KEY}" "InstallLocation"
 BrandingText "Kesto ${VERSION}"
 ShowInstDetails show
 ShowUninstDetails show
-DirText "Setup will install Kesto ${VERSION}, the add-on, with the Workbench and examples.$\r$\n$\r$\nClose the IDE and the Workbench first. An older version in the folder is replaced; settings, and examples that you have changed, stay as they are."
-ComponentText "This will remove Kesto from your computer." "" "Your settings stay for a later installation unless you check them here. Examples that you have changed stay, and whatever else you keep in the folder."
+InstallColors /windows
+DirText "Close the IDE and the Workbench first. An older version in the folder is replaced; settings, and examples that you have changed, stay as they are."
 Page directory "" "" leaveDirectory
 Page instfiles
-UninstPage components
+PageEx un.components
+  ComponentText "Kesto will be removed. Whatever you have added or changed in its folder stays, and so do your settings, unless you check them here." "" "Remove:"
+  PageCallbacks "" un.showComponents
+PageExEnd
 UninstPage instfiles
 
 Var Lines      ; the open list
@@ -114,6 +117,10 @@ Function .onInit
 FunctionEnd
 
 Function check
+  StrCpy $0 $INSTDIR "" -1
+  ${If} $0 == "\"
+    StrCpy $INSTDIR $INSTDIR -1
+  ${EndIf}
   StrCpy $Trouble ""
   StrCpy $Upgrade ""
   ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "InstallLocation"
@@ -275,7 +282,9 @@ Function place
 FunctionEnd
 
 Function register
-  ${Say} "Registered for the IDE: HKEY_LOCAL_MACHINE\${ADDON_KEY}, Path = $INSTDIR\Kestoaob.dll"
+  ${Say} "Registered for the IDE, below HKEY_LOCAL_MACHINE:"
+  ${Say} "  ${ADDON_KEY}"
+  ${Say} "  Path = $INSTDIR\Kestoaob.dll"
   ClearErrors
   WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayName" "Kesto ${VERSION}"
   WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
@@ -295,7 +304,7 @@ Function fillMenu
   CreateShortCut "${MENU}\Kesto Help.lnk" "$INSTDIR\Kestoaob.hlp"
   CreateShortCut "${MENU}\Read me.lnk" "$INSTDIR\README.TXT"
   CreateShortCut "${MENU}\Uninstall Kesto.lnk" "$INSTDIR\uninstall.exe"
-  ${Say} "Start menu: ${MENU}"
+  ${Say} "In the Start menu, below Programs: Kesto"
 FunctionEnd
 
 Section
@@ -353,7 +362,7 @@ Section
     ${EndIf}
   !insertmacro NextLine
   Call fillMenu
-  ${Say} "Settings: left as they were"
+  ${Say} "In $INSTDIR: Kesto ${VERSION}. No setting has been touched."
 SectionEnd
 
 ; ---------------------------------------------------------------------------
@@ -419,13 +428,20 @@ Section "un.Kesto"
   ${Say} "Removed: the entries in the Start menu and in the registry"
 SectionEnd
 
-Section /o "un.Settings of the add-on and the Workbench" settings
+Section /o "un.Settings" settings
   DeleteRegKey HKLM "${ADDON_KEY}"
   Call un.dropEmptyKeys
   DeleteRegKey HKCU "${WORKBENCH_KEY}"
   DeleteRegKey /ifempty HKCU "Software\Kesto"
   ${Say} "Removed: the settings"
 SectionEnd
+
+; Nothing is to be told of space here.
+Function un.showComponents
+  FindWindow $0 "#32770" "" $HWNDPARENT
+  GetDlgItem $0 $0 1023
+  ShowWindow $0 0
+FunctionEnd
 
 !include FileFunc.nsh
 Function un.onInit
