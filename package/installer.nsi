@@ -408,6 +408,9 @@ Section "un.Kesto"
       RMDir "$INSTDIR\$Name"
     ${EndIf}
   !insertmacro NextLine
+  ; What the viewer of the system keeps beside a help file.
+  Delete "$INSTDIR\Kestoaob.GID"
+  Delete "$INSTDIR\Kestoaob.FTS"
   SetOutPath $TEMP
   RMDir "$INSTDIR"
 
