@@ -66,8 +66,8 @@ zip -sf "$work"/one/*.zip | sed -n 's/^ *Kesto\/\(.*[^/]\)$/\1/p' | sort >"$work
 tr -d '\r' <$stage/files.lst | tr '\\' / | sed -n 's/^[PE] //p' | grep -v '^files.lst$\|^uninstall.exe$' | sort |
   diff - "$work/zipped" || fail "the archive holds something else than the installer"
 
-# An older version: another module, an example that was another, one that is no more and
-# one that was not yet.
+# An older version: another module, an example that was another, two that are no more and
+# some that were not yet.
 export SOURCE_DATE_EPOCH=1000000000
 old=$work/old
 cp -a build/package "$old"
@@ -75,8 +75,8 @@ echo older >>"$old/files/Kestoaob.dll"
 echo older >"$old/files/Examples/shapes/canvas.cpp"
 mkdir "$old/files/Examples/gone"
 echo older | tee "$old/files/Examples/gone/gone.cpp" >"$old/files/Examples/gone/mine.cpp"
-rm "$old/files/Keywords/c++.kwd"
-sed -i '/c++.kwd/d' "$old/kinds"
+rm -r "$old/files/Keywords/c++.kwd" "$old/files/Examples/ledger"
+sed -i '/c++.kwd/d; /ledger/d' "$old/kinds"
 printf 'E Examples/gone/%s\n' gone.cpp mine.cpp >>"$old/kinds"
 bash package/make.sh list "$old"
 bash package/make.sh installer "$old" 1.1 "$work/old.exe" >/dev/null || fail "no older installer"
@@ -125,6 +125,14 @@ touch "$folder/Examples/shapes/done"
 wait "$job"
 job=
 rm "$folder/Examples/shapes/done"
+
+# What stands where a folder is to be is met when other files have been replaced already.
+echo mine >"$folder/Examples/ledger"
+picture "$folder" >"$work/picture"
+ends 2 "an upgrade that cannot be finished" wine "$setup" /S
+picture "$folder" | diff "$work/picture" - || fail "an upgrade that could not be finished is not undone"
+value_is "$addon_key" Path 'C:\Tools\Kesto\Kestoaob.dll' "an upgrade that could not be finished"
+rm "$folder/Examples/ledger"
 
 # The new version over it, without naming the folder.
 ends 0 "the upgrade" wine "$setup" /S
