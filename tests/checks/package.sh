@@ -61,7 +61,7 @@ diff -r "$work/one" "$work/two" || fail "two packages of the same are not the sa
 (cd "$work/one" && sha256sum --quiet -c SHA256SUMS) || fail "the checksums are others"
 setup=$(echo "$work"/one/*-setup.exe)
 stage=build/package/files
-! objdump -h "$stage/Kestoaob.dll" | grep -q '\.debug\|\.stab' || fail "the module has symbols"
+i686-w64-mingw32-objdump -t $stage/Kestoaob.dll | grep -q '^no symbols' || fail "the module has symbols"
 zip -sf "$work"/one/*.zip | sed -n 's/^ *Kesto\/\(.*[^/]\)$/\1/p' | sort >"$work/zipped"
 tr -d '\r' <$stage/files.lst | tr '\\' / | sed -n 's/^[PE] //p' | grep -v '^files.lst$\|^uninstall.exe$' | sort |
   diff - "$work/zipped" || fail "the archive holds something else than the installer"
@@ -110,7 +110,7 @@ printf 'edit main.cpp\nclick-title main.cpp 0\nwait menu\nkey Escape\necho up\nw
 wine "$work/elsewhere/workbench.exe" 'C:\Tools\Kesto\Examples\shapes' --script "$work/hold.wbs" \
   >"$work/hold.jsonl" 2>/dev/null </dev/null &
 job=$!
-until grep -q '"text":"up"' "$work/hold.jsonl"; do
+until grep -qs '"text":"up"' "$work/hold.jsonl"; do
   kill -0 "$job" 2>/dev/null || { tail -n 3 "$work/hold.jsonl"; fail "the registered module is not used"; }
   sleep 0.1
 done
