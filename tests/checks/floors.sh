@@ -18,7 +18,8 @@ addon/groupware 3
 addon/html 3
 addon/rcgen 3
 addon/topbar 4
-addon 5
+addon/pages 5
+addon 6
 workbench/events 0
 workbench/windows 0
 workbench/project 1
