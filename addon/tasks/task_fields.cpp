@@ -177,7 +177,7 @@ TaskForm fieldsOf(HWND dialog) {
 void TaskDialog::enable(HWND dialog, int row, bool force) {
   const Task* task = taskAt(row);
   const bool read_only =
-      tasks_.settings.ended_read_only != 0 && task != nullptr && task->state == kEnded;
+      tasks_.settings.ended_read_only.value != 0 && task != nullptr && task->state == kEnded;
   const bool enabled = tasks_.view().count() > 0 && !read_only;
   if (force || enabled != enabled_) {
     enabled_ = enabled;
