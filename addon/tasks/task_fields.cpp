@@ -91,12 +91,28 @@ void TaskDialog::fill(HWND dialog) {
     addTo(dialog, TASKS_ORDER, order);
   }
   SendDlgItemMessageA(dialog, TASKS_ORDER, CB_SETCURSEL, static_cast<WPARAM>(tasks_.order), 0);
-  for (int i = 0; i < tasks_.types.count(); ++i) {
-    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
-  }
+  offerTypes(dialog);
   columns_.setUp(dialog, dates_);
   refresh(dialog, std::min(0, tasks_.view().count() - 1), true);
   modified_ = false;
+}
+
+void TaskDialog::offerTypes(HWND dialog) const {
+  SendDlgItemMessageA(dialog, TASKS_TYPE, CB_RESETCONTENT, 0, 0);
+  for (int i = 0; i < tasks_.types.count(); ++i) {
+    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
+  }
+}
+
+void TaskDialog::settingsChanged() {
+  if (!isOpen()) {
+    return;
+  }
+  const std::string type = textOf(window(), TASKS_TYPE);
+  offerTypes(window());
+  setText(window(), TASKS_TYPE, type);
+  const HWND list = GetDlgItem(window(), TASKS_LIST);
+  enable(window(), static_cast<int>(SendMessageA(list, LB_GETCURSEL, 0, 0)), true);
 }
 
 void TaskDialog::showCounts(HWND dialog) const {
