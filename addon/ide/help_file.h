@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include "addon/ide/help_topics.h"
+
 namespace kesto {
 
 class HelpFile {
@@ -16,6 +18,7 @@ class HelpFile {
   HelpFile(const HelpFile&) = delete;
   HelpFile& operator=(const HelpFile&) = delete;
 
+  // A number of HelpTopic.
   void showTopic(DWORD context);
   const char* path() const { return path_; }
 
@@ -27,9 +30,6 @@ class HelpFile {
 };
 
 extern HelpFile* helpFile;
-
-// The topic that the bar's help command opens.
-inline constexpr DWORD kHelpContents = 1;
 
 // Replaces the three letters after the final "." by "hlp". Returns false, and
 // leaves the path alone, when it does not end in "." and three characters.
