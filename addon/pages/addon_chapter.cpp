@@ -3,7 +3,11 @@
 #include <new>
 
 #include "addon/ide/koptions.h"
+#include "addon/pages/completion_page.h"
+#include "addon/pages/editor_page.h"
 #include "addon/pages/first_page.h"
+#include "addon/pages/general_page.h"
+#include "addon/pages/top_menu_page.h"
 
 namespace kesto {
 
@@ -28,6 +32,10 @@ void IMpdChapterAddon::add() {
 IMpdChapterAddon::IMpdChapterAddon() {
   pages_.setOwns(false);
   add<FirstPage>();
+  add<GeneralPage>();
+  add<EditorPage>();
+  add<TopMenuPage>();
+  add<CompletionPage>();
 }
 
 IMpdChapterAddon::~IMpdChapterAddon() {

@@ -44,6 +44,36 @@ void TopBar::readMenuSettings() {
   useHidesWithView(settings.hide_with_view.value);
 }
 
+void TopBar::chooseMenus(int construction, int hides_with_view) {
+  if (construction != construction_) {
+    settings.construction.value = construction_ = construction;
+  }
+  if (hides_with_view != hide_with_view_) {
+    settings.hide_with_view.value = hide_with_view_ = hides_with_view;
+  }
+}
+
+TopBar::Look TopBar::look() const {
+  return {settings.enabled.value, settings.always_on_top.value, settings.left_margin.value,
+          settings.right_margin.value};
+}
+
+void TopBar::follow(const Look& before) {
+  setOpenInOtherView(settings.edit_other_view.value != 0);
+  if (look().left_margin != before.left_margin || look().right_margin != before.right_margin) {
+    place(false);
+  }
+  if (look().enabled != before.enabled) {
+    ShowWindow(bar_, enabled() ? SW_SHOWNA : SW_HIDE);
+  }
+  if (look().always_on_top != before.always_on_top) {
+    SetWindowLongA(bar_, GWL_EXSTYLE,
+                   (new_shell_ ? WS_EX_TOOLWINDOW : 0) | (alwaysOnTop() ? WS_EX_TOPMOST : 0));
+    SetWindowPos(bar_, alwaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+  }
+}
+
 BarPlacement TopBar::normalPlace() const {
   return normalPlacement(screenMetrics(), new_shell_, settings.left_margin.value,
                          settings.right_margin.value);

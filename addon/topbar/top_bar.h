@@ -55,6 +55,18 @@ class TopBar {
   void useConstruction(int construction) { construction_ = construction; }
   void useHidesWithView(int hides) { hide_with_view_ = hides; }
 
+  // What the user chose: in force from now on, and kept where it is another than before.
+  void chooseMenus(int construction, int hides_with_view);
+  // Has the window follow the settings, after they were these.
+  struct Look {
+    int enabled;
+    int always_on_top;
+    int left_margin;
+    int right_margin;
+  };
+  Look look() const;
+  void follow(const Look& before);
+
   // Moves the bar between its margins with one menu row, or with all rows.
   void place(bool expanded);
   // Shows every row of a wrapped menu bar.
