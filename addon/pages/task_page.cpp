@@ -45,6 +45,7 @@ void TaskPage::stored(HWND) {
     return;
   }
   taskList->setTypes(taskList->settings.types.value);
+  taskList->settings.types.value = taskList->joinedTypes().text();
   taskList->settings.section.write();
   if (taskDialog != nullptr) {
     taskDialog->settingsChanged();
