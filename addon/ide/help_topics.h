@@ -6,9 +6,9 @@
 
 namespace kesto {
 
-// NAME in the code, number, word in the pages (letters, digits and "_").
+// NAME in the code, number, word in the pages ("Top" is the first page of all).
 #define KESTO_HELP_TOPICS(TOPIC)                          \
-  TOPIC(kHelpContents, 1, "contents")                     \
+  TOPIC(kHelpContents, 1, "Top")                          \
   /* The option pages */                                  \
   TOPIC(kHelpPageKesto, 10, "page_kesto")                 \
   TOPIC(kHelpPageGeneral, 11, "page_general")             \
