@@ -92,7 +92,10 @@ bool HookSet::onCapturedKey(UINT virtual_key, LPARAM lParam) {
 }
 
 bool HookSet::onHeldKey(UINT virtual_key, LPARAM lParam) {
-  const bool held = virtual_key == held_key_ && (lParam & (kKeyUp | kKeyWasDown)) != 0;
+  if (virtual_key != held_key_) {
+    return false;
+  }
+  const bool held = (lParam & (kKeyUp | kKeyWasDown)) != 0;
   if (!held || (lParam & kKeyUp) != 0) {
     held_key_ = 0;
   }
