@@ -22,7 +22,7 @@ bool waitForViewer() {
 }  // namespace
 
 HelpViewer::HelpViewer(HWND owner, const char* path)
-    : requests_(std::make_shared<Requests>(owner, path, kIdle)) {}
+    : requests_(new Requests{owner, path, kIdle}) {}
 
 HelpViewer::~HelpViewer() {
   if (thread_ != nullptr) {
