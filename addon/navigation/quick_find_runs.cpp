@@ -106,7 +106,7 @@ std::vector<SearchStep> QuickFind::plan(Search search) const {
   }
   std::vector<SearchStep> steps =
       planSearch(search, {directory, open, source_path.view(), include_path.view(),
-                          function_mask_.view(), include_mask_.view()});
+                          settings.function_mask.value, settings.include_mask.value});
   for (SearchStep& step : steps) {
     // What is found below it is compared with the titles of editors.
     step.directory = fullPath(joinPath(step.directory, "").view());
@@ -122,7 +122,8 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     const std::string text = searchingText(name);
     showStatus(text.c_str());
     SearchWatch watch(text);
-    found = findFirst(plan(search), recurse_ != 0, NameMatcher(search, name), hit, &watch);
+    found = findFirst(plan(search), settings.recurse.value != 0, NameMatcher(search, name), hit,
+                      &watch);
     if (watch.stopped()) {
       showStatus((text + " stopped").c_str());
       return true;
@@ -146,7 +147,7 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
   const std::string text = searchingText(name);
   showStatus(text.c_str());
   SearchWatch watch(text);
-  collectHits(plan(search), recurse_ != 0, NameMatcher(search, name), hits, &watch);
+  collectHits(plan(search), settings.recurse.value != 0, NameMatcher(search, name), hits, &watch);
   if (!watch.stopped()) {
     watch.finished(text.c_str());
   } else if (quickFind == this) {
