@@ -31,7 +31,7 @@ int TaskList::todayReport(String& out, const TaskDate& today, const DateFormat& 
   Tableau<Task> due;
   due.setOwns(false);
   for (int i = 0; i < count(); ++i) {
-    if (settings.flash[at(i)->state] != 0 && isDue(*at(i), today)) {
+    if (settings.flash[at(i)->state].value != 0 && isDue(*at(i), today)) {
       due.append(at(i));
     }
   }
