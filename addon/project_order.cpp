@@ -172,8 +172,8 @@ constexpr ProjectStep kClosingLoaded[] = {resetAutoSave, [](Work) { unregisterMa
 
 constexpr ProjectStep kClosed[] = {tellGroupware, forgetMailRecipients};
 
-// The project's own menus go with it.
-constexpr ProjectStep kGone[] = {rebuildBarMenu};
+// The project's own menus go with it, and how it builds them.
+constexpr ProjectStep kGone[] = {readBarSettings, rebuildBarMenu};
 
 constexpr ProjectStep kSaved[] = {
     [](Work work) { writeBarConstruction(work.options); },

@@ -70,7 +70,11 @@ void PageExchange::text(int control, const char* help, std::string& value, std::
     SendDlgItemMessageA(dialog_, control, EM_LIMITTEXT, limit, 0);
     SetDlgItemTextA(dialog_, control, value.c_str());
   } else if (stores()) {
-    value = controlText(dialog_, control);
+    // The limit is for what is typed: a longer text that was there stays whole.
+    const std::string held = controlText(dialog_, control);
+    if (held != value) {
+      value = held.substr(0, limit);
+    }
   }
 }
 
