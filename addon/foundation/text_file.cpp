@@ -105,6 +105,20 @@ void takeLineFeeds(std::string& bytes) {
   bytes.resize(to);
 }
 
+std::string withCarriageReturns(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size() + text.size() / 16);
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    bytes += text.substr(0, end);
+    if (end < text.size()) {
+      bytes += "\r\n";
+    }
+    text.remove_prefix(std::min(text.size(), end + 1));
+  }
+  return bytes;
+}
+
 bool writeTextFile(const char* path, std::string_view text) {
   return writeWith("w", path, text);
 }

@@ -1,6 +1,7 @@
 #include "addon/groupware/groupware_settings.h"
 
 #include "addon/foundation/settings_store.h"
+#include "addon/groupware/group_lists.h"
 
 namespace kesto {
 
@@ -17,8 +18,7 @@ GroupwareSettings::GroupwareSettings() {
   mail_on_get_ = settings().readInteger(kSection, "MailOnGet", 0);
   mail_on_send_ = settings().readInteger(kSection, "MailOnSend", 1);
   char text[SettingsStore::kValueSize] = "";
-  settings().readString(kSection, "Filters", text, sizeof text,
-                        "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif");
+  settings().readString(kSection, "Filters", text, sizeof text, kExchangedFiles);
   filters_ = text;
 }
 

@@ -24,8 +24,8 @@ void readText(const char* name, const char* by_default, String& text) {
 }  // namespace
 
 QuickFind::QuickFind(HWND owner) : owner_(owner) {
-  readText("FunctionMask", "*.cpp;*.cc;*.c", function_mask_);
-  readText("IncludeMask", "*.h;*.rh", include_mask_);
+  readText("FunctionMask", kSourceMasks, function_mask_);
+  readText("IncludeMask", kHeaderMasks, include_mask_);
   for (int i = 0; i < kSearchCount; ++i) {
     readText(kTextNames[i], "???", key_texts_[i]);
   }

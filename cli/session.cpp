@@ -1,0 +1,123 @@
+#include "cli/session.h"
+
+#include <cerrno>
+
+#include "addon/foundation/path.h"
+#include "addon/foundation/text_file.h"
+
+namespace kesto::cli {
+namespace {
+
+constexpr auto kFirstWord = std::chrono::seconds(1);
+constexpr auto kPeriod = std::chrono::milliseconds(200);
+
+bool isBelow(std::string_view path, std::string_view folder, char separator) {
+  return path.size() > folder.size() && path.starts_with(folder) &&
+         path[folder.size()] == separator;
+}
+
+bool readAll(FILE* stream, std::string& bytes) {
+  constexpr std::size_t kPiece = 65536;
+  bytes.clear();
+  std::size_t given = 0;
+  do {
+    const std::size_t size = bytes.size();
+    bytes.resize(size + kPiece);
+    given = fread(bytes.data() + size, 1, kPiece, stream);
+    bytes.resize(size + given);
+  } while (given > 0 && bytes.size() < static_cast<std::size_t>(kTextFileLimit));
+  return ferror(stream) == 0;
+}
+
+}  // namespace
+
+Session::Session(System& system, Output& output, Complaints& complaints)
+    : system_(system), output_(output), complaints_(complaints) {
+  showBelow(system.corePath("."), ".");
+}
+
+void Session::showBelow(const std::string& core, std::string_view given) {
+  std::string disk = system_.diskPath(core);
+  while (!disk.empty() && disk.back() == system_.separator()) {
+    disk.pop_back();
+  }
+  std::string prefix(given == "." ? std::string_view() : given);
+  if (!prefix.empty() && prefix.back() != '/' && prefix.back() != system_.separator()) {
+    prefix += system_.separator();
+  }
+  shown_.insert(shown_.begin(), {disk, prefix});
+}
+
+std::string Session::shown(std::string_view core) {
+  std::string disk = system_.diskPath(core);
+  for (const Shown& one : shown_) {
+    if (isBelow(disk, one.disk, system_.separator())) {
+      return one.prefix + disk.substr(one.disk.size() + 1);
+    }
+  }
+  return disk;
+}
+
+std::string Session::folder(std::string_view given) {
+  const std::string core = system_.corePath(given);
+  const std::optional<FileStatus> status = system_.files().status(core.c_str());
+  if (status && status->is_directory) {
+    return core;
+  }
+  complaints_.tell(given, status ? "is no folder" : system_.reason());
+  return {};
+}
+
+bool Session::readGiven(const std::string& given, std::string& bytes) {
+  errno = 0;
+  if (given == "-" ? readAll(stdin, bytes) : readFileBytes(given.c_str(), bytes)) {
+    return true;
+  }
+  const std::string reason = errno != 0 ? system_.reason() : "cannot be read";
+  const std::optional<FileStatus> status = system_.files().status(system_.corePath(given).c_str());
+  complaints_.tell(given, status && status->is_directory ? "is a folder" : reason);
+  return false;
+}
+
+int Session::result(bool found) const {
+  return complaints_.any() ? kError : found ? kFound : kNothing;
+}
+
+Progress::Progress(Session& session)
+    : session_(session),
+      on_terminal_(session.system().isTerminal(stderr)),
+      next_(Clock::now() + kFirstWord) {}
+
+Progress::~Progress() {
+  if (told_) {
+    fputs("\r\x1b[K", stderr);
+  }
+}
+
+bool Progress::isTime() {
+  if (!on_terminal_ || Clock::now() < next_) {
+    return false;
+  }
+  next_ = Clock::now() + kPeriod;
+  told_ = true;
+  return true;
+}
+
+bool Progress::goOn(int directories, int files) {
+  if (directories >= kDirectoryLimit) {
+    session_.complaints().tell({}, "more than " + std::to_string(kDirectoryLimit) +
+                                       " folders: what is beyond them is left out");
+  }
+  if (isTime()) {
+    fprintf(stderr, "\r%d files in %d folders\x1b[K", files, directories);
+  }
+  return session_.output().open();
+}
+
+void Progress::tell(int done, int all, const char* of_what) {
+  if (isTime()) {
+    fprintf(stderr, "\r%d of %d %s\x1b[K", done, all, of_what);
+  }
+}
+
+}  // namespace kesto::cli
