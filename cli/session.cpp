@@ -46,16 +46,21 @@ void Session::showBelow(const std::string& core, std::string_view given) {
     prefix += system_.separator();
   }
   shown_.insert(shown_.begin(), {disk, prefix});
+  latest_core_.clear();
 }
 
-std::string Session::shown(std::string_view core) {
-  std::string disk = system_.diskPath(core);
-  for (const Shown& one : shown_) {
-    if (isBelow(disk, one.disk, system_.separator())) {
-      return one.prefix + disk.substr(one.disk.size() + 1);
+const std::string& Session::shown(std::string_view core) {
+  if (core != latest_core_) {
+    latest_core_ = core;
+    latest_shown_ = system_.diskPath(core);
+    for (const Shown& one : shown_) {
+      if (isBelow(latest_shown_, one.disk, system_.separator())) {
+        latest_shown_.replace(0, one.disk.size() + 1, one.prefix);
+        break;
+      }
     }
   }
-  return disk;
+  return latest_shown_;
 }
 
 std::string Session::folder(std::string_view given) {
@@ -105,8 +110,7 @@ bool Progress::isTime() {
 
 bool Progress::goOn(int directories, int files) {
   if (directories >= kDirectoryLimit) {
-    session_.complaints().tell({}, "more than " + std::to_string(kDirectoryLimit) +
-                                       " folders: what is beyond them is left out");
+    session_.complaints().tell({}, "there are too many folders: some are left out");
   }
   if (isTime()) {
     fprintf(stderr, "\r%d files in %d folders\x1b[K", files, directories);

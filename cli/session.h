@@ -29,8 +29,8 @@ class Session {
   // Paths below it are shown as they follow what the person gave for it.
   void showBelow(const std::string& core, std::string_view given);
   // A path of the core as a person reads it: from what was given or from the current
-  // directory on, else whole.
-  std::string shown(std::string_view core);
+  // directory on, else whole. Lives until another is asked for.
+  const std::string& shown(std::string_view core);
 
   // The core's whole path of an existing folder; empty, and told, when it is none.
   std::string folder(std::string_view given);
@@ -50,6 +50,9 @@ class Session {
   Output& output_;
   Complaints& complaints_;
   std::vector<Shown> shown_;
+  // Of the latest path that was shown: hits come a file at a time.
+  std::string latest_core_;
+  std::string latest_shown_;
 };
 
 // Tells on a terminal how far a command is that lasts, and takes that away in the end.

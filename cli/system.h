@@ -27,7 +27,7 @@ class System {
   virtual bool isUtf8() const = 0;
   // A whole path, as the core has it, of one that a person gave.
   virtual std::string corePath(std::string_view given) = 0;
-  // The same path as the system and a person have it.
+  // The same path as the system and a person have it; empty when it has none.
   virtual std::string diskPath(std::string_view core) = 0;
   // The file's bytes, which live until the next call. False when it cannot be read.
   virtual bool readBytes(const char* core, std::string_view& bytes) = 0;

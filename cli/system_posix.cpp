@@ -42,7 +42,7 @@ class SystemPosix : public System {
   char separator() const override { return '/'; }
   bool isUtf8() const override { return true; }
   std::string corePath(std::string_view given) override { return names_.corePath(given); }
-  std::string diskPath(std::string_view core) override { return names_.diskPath(core); }
+  std::string diskPath(std::string_view core) override { return names_.find(core); }
   bool readBytes(const char* core, std::string_view& bytes) override;
 
   TaskDate utcToday() override {
@@ -69,8 +69,11 @@ class SystemPosix : public System {
 // What is searched is read as fast as the system gives it, into memory that was used before.
 bool SystemPosix::readBytes(const char* core, std::string_view& bytes) {
   bytes = {};
-  std::string path = names_.diskPath(core);
-  const OwnedFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  int opened = open(names_.diskPath(core).c_str(), O_RDONLY | O_CLOEXEC);
+  if (opened < 0 && errno == ENOENT) {
+    opened = open(names_.find(core).c_str(), O_RDONLY | O_CLOEXEC);
+  }
+  const OwnedFile file(opened);
   struct stat found = {};
   if (file.get() < 0 || fstat(file.get(), &found) != 0) {
     return false;
