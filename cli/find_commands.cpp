@@ -21,7 +21,7 @@ class DiskTexts : public SourceTexts {
     System& system = session_.system();
     std::string_view bytes;
     if (!system.readBytes(path, bytes)) {
-      session_.complaints().tell(session_.shown(path), system.reason());
+      session_.tellFailure(path);
     }
     if (in_ansi_) {
       bytes = ansi_ = ansiOf(bytes);

@@ -81,7 +81,7 @@ bool Place::openProject(const std::string& given, const std::string& file) {
     return !session_.folder(system.diskPath(folder_)).empty();
   }
   if (!system.readBytes(file.c_str(), bytes)) {
-    session_.complaints().tell(session_.shown(file), system.reason());
+    session_.tellFailure(file);
     return false;
   }
   workbench::ProjectTree tree;

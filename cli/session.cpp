@@ -54,6 +54,10 @@ const std::string& Session::shown(std::string_view core) {
     latest_core_ = core;
     latest_shown_ = system_.diskPath(core);
     for (const Shown& one : shown_) {
+      if (latest_shown_ == one.disk) {
+        latest_shown_ = one.prefix.empty() ? "." : one.prefix;
+        break;
+      }
       if (isBelow(latest_shown_, one.disk, system_.separator())) {
         latest_shown_.replace(0, one.disk.size() + 1, one.prefix);
         break;
@@ -82,6 +86,11 @@ bool Session::readGiven(const std::string& given, std::string& bytes) {
   const std::optional<FileStatus> status = system_.files().status(system_.corePath(given).c_str());
   complaints_.tell(given, status && status->is_directory ? "is a folder" : reason);
   return false;
+}
+
+void Session::tellFailure(std::string_view core) {
+  const std::string reason = system_.reason();
+  complaints_.tell(shown(core), reason);
 }
 
 int Session::result(bool found) const {

@@ -37,6 +37,8 @@ class Session {
   // The bytes of a file that was given, of standard input for "-". False, and told, when
   // they cannot be read.
   bool readGiven(const std::string& given, std::string& bytes);
+  // Tells of a path of the core why the latest step failed.
+  void tellFailure(std::string_view core);
   // The exit code of a command that was not cut short.
   int result(bool found) const;
 

@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -7,31 +6,13 @@
 #include <cstring>
 #include <ctime>
 
-#include "addon/foundation/text_file.h"
 #include "cli/posix/disk_files.h"
 #include "cli/posix/disk_listing.h"
+#include "cli/posix/disk_reader.h"
 #include "cli/system.h"
 
 namespace kesto::cli {
 namespace {
-
-class OwnedFile {
- public:
-  explicit OwnedFile(int file) : file_(file) {}
-  ~OwnedFile() {
-    const int fault = errno;
-    if (file_ >= 0) {
-      close(file_);
-    }
-    errno = fault;
-  }
-  OwnedFile(const OwnedFile&) = delete;
-  OwnedFile& operator=(const OwnedFile&) = delete;
-  int get() const { return file_; }
-
- private:
-  int file_;
-};
 
 class SystemPosix : public System {
  public:
@@ -43,7 +24,9 @@ class SystemPosix : public System {
   bool isUtf8() const override { return true; }
   std::string corePath(std::string_view given) override { return names_.corePath(given); }
   std::string diskPath(std::string_view core) override { return names_.find(core); }
-  bool readBytes(const char* core, std::string_view& bytes) override;
+  bool readBytes(const char* core, std::string_view& bytes) override {
+    return names_.onDisk(core, [&](const std::string& path) { return reader_.read(path, bytes); });
+  }
 
   TaskDate utcToday() override {
     const std::time_t now = std::time(nullptr);
@@ -62,45 +45,8 @@ class SystemPosix : public System {
   DiskNames names_;
   DiskListing listing_{names_};
   DiskFiles files_{names_};
-  std::unique_ptr<char[]> buffer_;
-  std::size_t size_ = 0;
+  DiskReader reader_;
 };
-
-// What is searched is read as fast as the system gives it, into memory that was used before.
-bool SystemPosix::readBytes(const char* core, std::string_view& bytes) {
-  bytes = {};
-  int opened = open(names_.diskPath(core).c_str(), O_RDONLY | O_CLOEXEC);
-  if (opened < 0 && errno == ENOENT) {
-    opened = open(names_.find(core).c_str(), O_RDONLY | O_CLOEXEC);
-  }
-  const OwnedFile file(opened);
-  struct stat found = {};
-  if (file.get() < 0 || fstat(file.get(), &found) != 0) {
-    return false;
-  }
-  if (found.st_size > kTextFileLimit) {
-    errno = EFBIG;
-    return false;
-  }
-  const auto size = static_cast<std::size_t>(found.st_size);
-  if (size_ < size) {
-    size_ = size + size / 2;
-    buffer_.reset(new char[size_]);
-  }
-  std::size_t done = 0;
-  while (done < size) {
-    const ssize_t given = read(file.get(), buffer_.get() + done, size - done);
-    if (given < 0) {
-      return false;
-    }
-    if (given == 0) {
-      break;
-    }
-    done += static_cast<std::size_t>(given);
-  }
-  bytes = {buffer_.get(), done};
-  return true;
-}
 
 }  // namespace
 

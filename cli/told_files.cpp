@@ -6,7 +6,7 @@ namespace kesto::cli {
 
 bool ToldFiles::told(bool done, const char* path) {
   if (!done) {
-    session_.complaints().tell(session_.shown(path), session_.system().reason());
+    session_.tellFailure(path);
   }
   return done;
 }

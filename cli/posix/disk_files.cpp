@@ -21,7 +21,9 @@ constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
 
 std::optional<FileStatus> DiskFiles::status(const char* path) {
   struct stat found = {};
-  if (stat(names_.find(path).c_str(), &found) != 0) {
+  if (!names_.onDisk(path, [&found](const std::string& disk_path) {
+        return stat(disk_path.c_str(), &found) == 0;
+      })) {
     return std::nullopt;
   }
   return FileStatus{found.st_mtim.tv_sec * kNanoseconds + found.st_mtim.tv_nsec,
@@ -29,12 +31,26 @@ std::optional<FileStatus> DiskFiles::status(const char* path) {
 }
 
 bool DiskFiles::read(const char* path, std::string& text) {
-  return readTextFile(names_.find(path).c_str(), text);
+  std::string_view bytes;
+  const bool done = names_.onDisk(
+      path, [&](const std::string& disk_path) { return reader_.read(disk_path, bytes); });
+  text = bytes;
+  takeTextMode(text);
+  return done;
 }
 
 bool DiskFiles::holds(const char* path, std::string_view text) {
-  std::string bytes;
-  return readFileBytes(names_.find(path).c_str(), bytes) && bytes == withCarriageReturns(text);
+  return names_.onDisk(path,
+                       [&](const std::string& disk_path) { return holdsBytes(disk_path, text); });
+}
+
+bool DiskFiles::holdsBytes(const std::string& disk_path, std::string_view text) {
+  std::string_view bytes;
+  if (!reader_.read(disk_path, bytes)) {
+    return false;
+  }
+  errno = 0;
+  return bytes.size() >= text.size() && bytes == withCarriageReturns(text);
 }
 
 bool DiskFiles::put(const char* path, std::string_view text, const char* mode) {
@@ -95,8 +111,22 @@ bool DiskFiles::copy(const char* path, const char* new_path) {
   return utimensat(AT_FDCWD, to.c_str(), times, 0) == 0;
 }
 
-bool DiskFiles::move(const std::string& from, const std::string& to) {
-  if (::rename(from.c_str(), to.c_str()) != 0) {
+bool DiskFiles::move(const std::string& from, const std::string& to, bool only_new) {
+  int moved = -1;
+  errno = EINVAL;
+  if (only_new) {
+    moved = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+  }
+  // Not every file system has that.
+  struct stat found = {};
+  if (moved != 0 && errno == EINVAL) {
+    if (only_new && lstat(to.c_str(), &found) == 0) {
+      errno = EEXIST;
+      return false;
+    }
+    moved = ::rename(from.c_str(), to.c_str());
+  }
+  if (moved != 0) {
     return false;
   }
   names_.gone(from);
@@ -106,12 +136,7 @@ bool DiskFiles::move(const std::string& from, const std::string& to) {
 
 bool DiskFiles::rename(const char* path, const char* new_path) {
   const std::string to = names_.find(new_path);
-  struct stat found = {};
-  if (lstat(to.c_str(), &found) == 0) {
-    errno = EEXIST;
-    return false;
-  }
-  return move(names_.find(path), to);
+  return names_.onDisk(path, [&](const std::string& from) { return move(from, to, true); });
 }
 
 bool DiskFiles::replace(const char* path, const char* new_path) {
@@ -122,7 +147,7 @@ bool DiskFiles::replace(const char* path, const char* new_path) {
     errno = S_ISDIR(found.st_mode) ? EISDIR : EACCES;
     return false;
   }
-  return move(names_.find(path), to);
+  return names_.onDisk(path, [&](const std::string& from) { return move(from, to, false); });
 }
 
 void DiskFiles::remove(const char* path) {

@@ -5,6 +5,7 @@
 
 #include "addon/foundation/file_system.h"
 #include "cli/posix/disk_names.h"
+#include "cli/posix/disk_reader.h"
 
 namespace kesto::cli {
 
@@ -29,10 +30,12 @@ class DiskFiles : public FileSystem {
   void removeDirectory(const char* path) override;
 
  private:
+  bool holdsBytes(const std::string& disk_path, std::string_view text);
   bool put(const char* path, std::string_view text, const char* mode);
-  bool move(const std::string& from, const std::string& to);
+  bool move(const std::string& from, const std::string& to, bool only_new);
 
   DiskNames& names_;
+  DiskReader reader_;
 };
 
 }  // namespace kesto::cli

@@ -41,7 +41,7 @@ unsigned capital(char c) {
 bool comesBefore(const Entry& left, const Entry& right) {
   const auto ends =
       std::mismatch(left.name.begin(), left.name.end(), right.name.begin(), right.name.end(),
-                    [](char a, char b) { return capital(a) == capital(b); });
+                    [](char a, char b) { return a == b || capital(a) == capital(b); });
   if (ends.first == left.name.end() || ends.second == right.name.end()) {
     return ends.first == left.name.end() &&
            (ends.second != right.name.end() || left.name < right.name);

@@ -162,7 +162,8 @@ std::string DiskNames::find(std::string_view core) {
 // Of a path that is not there as it is written.
 std::string DiskNames::findExisting(const std::string& disk_path) {
   std::string directory = directoryOf(disk_path);
-  if (!directory.empty() && directory != disk_path && !isThere(directory)) {
+  if (!directory.empty() && directory != disk_path && known_.find(directory) == known_.end() &&
+      !isThere(directory)) {
     directory = findExisting(directory);
   }
   const std::string name = nameOf(disk_path);

@@ -5,6 +5,7 @@
 // One user, no locking.
 #pragma once
 
+#include <cerrno>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -22,6 +23,21 @@ class DiskNames {
   std::string diskPath(std::string_view core) const;
   // The path of what is there under that name, or, where nothing is, of what can be made.
   std::string find(std::string_view core);
+  // Takes a step with the path as it is written and, where nothing is there, with that of
+  // what is. The step yields whether it was done, and sets errno otherwise.
+  template <class Step>
+  bool onDisk(std::string_view core, const Step& step) {
+    const std::string path = diskPath(core);
+    if (step(path)) {
+      return true;
+    }
+    if (errno != ENOENT) {
+      return false;
+    }
+    const std::string found = find(core);
+    errno = ENOENT;
+    return found != path && step(found);
+  }
 
   // To be called of what this process has made, and of what it has taken away.
   void made(const std::string& disk_path);
