@@ -27,6 +27,7 @@
 #include "addon/mail/mail.h"
 #include "addon/navigation/editor_navigation.h"
 #include "addon/navigation/quick_find.h"
+#include "addon/pages/addon_chapter.h"
 #include "addon/project_order.h"
 #include "addon/rcgen/rc_generator.h"
 #include "addon/tasks/notifications.h"
@@ -178,6 +179,7 @@ void startAddon(IIde* ide) {
   create(htmlSettings);
   create(groupwareProject, projectTestA != nullptr ? projectTestA->service() : nullptr);
   create(documentationRun, barWindow);
+  addOptionsChapter();
   // The IDE may have no project to tell of; the menus come without one as well.
   PostMessageA(barWindow, WM_COMMAND, kCommandRebuildMenu, 0);
 }
@@ -215,6 +217,7 @@ void stopAddon() {
   if (projectTestA != nullptr) {
     projectTestA->unregisterClients();
   }
+  removeOptionsChapter();
   destroy(optionsServiceHolder);
   destroy(projectTestA);
   projectOrder = nullptr;

@@ -138,6 +138,9 @@ struct IMpdPage : IUnknown {
   virtual void STDMETHODCALLTYPE Fill(HWND dialog) = 0;
   // A control's notification; returns 1 when the page handled it.
   virtual int STDMETHODCALLTYPE Command(HWND dialog, int control, int notification) = 0;
+  // 1 when the user has changed what the page shows since it was filled or stored. Only such
+  // a page is asked to validate and to store.
+  virtual int STDMETHODCALLTYPE IsChanged() = 0;
   virtual IIdeString* STDMETHODCALLTYPE GetHelpText(int control) = 0;
   virtual void STDMETHODCALLTYPE ShowHelp() = 0;
   // Returns 0 to keep the dialog open; the page has then said why.

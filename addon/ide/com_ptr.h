@@ -31,6 +31,8 @@ class ComPtr {
     }
   }
   T* get() const { return pointer_; }
+  // Gives the reference to the caller.
+  T* detach() { return std::exchange(pointer_, nullptr); }
   T* operator->() const { return pointer_; }
   explicit operator bool() const { return pointer_ != nullptr; }
 

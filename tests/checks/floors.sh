@@ -19,9 +19,10 @@ addon/groupware 3
 addon/html 3
 addon/rcgen 3
 addon/topbar 4
-addon 5
-cli/posix 5
-cli 6
+addon/pages 5
+addon 6
+cli/posix 6
+cli 7
 workbench/events 0
 workbench/windows 0
 workbench/project 1

@@ -19,6 +19,8 @@ class EditorPage final : public Transient<EditorPage, IMpdPage> {
   IIdeString* STDMETHODCALLTYPE GetDescription() override;
   void STDMETHODCALLTYPE Fill(HWND dialog) override;
   int STDMETHODCALLTYPE Command(HWND dialog, int control, int notification) override;
+  // It costs nothing to store again what was there.
+  int STDMETHODCALLTYPE IsChanged() override { return 1; }
   IIdeString* STDMETHODCALLTYPE GetHelpText(int control) override;
   void STDMETHODCALLTYPE ShowHelp() override {}
   int STDMETHODCALLTYPE Validate(HWND dialog) override;

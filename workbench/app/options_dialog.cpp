@@ -147,7 +147,7 @@ class OptionsDialog final : public Dialog {
 
   bool accept() override {
     for (std::size_t i = 0; i < topics_.size(); ++i) {
-      if (windows_[i] == nullptr) {
+      if (!toStore(i)) {
         continue;
       }
       const bool valid = topics_[i].page->Validate(windows_[i]) != 0;
@@ -162,11 +162,15 @@ class OptionsDialog final : public Dialog {
       }
     }
     for (std::size_t i = 0; i < topics_.size(); ++i) {
-      if (windows_[i] != nullptr) {
+      if (toStore(i)) {
         topics_[i].page->Store(windows_[i]);
       }
     }
     return true;
+  }
+
+  bool toStore(std::size_t index) const {
+    return windows_[index] != nullptr && topics_[index].page->IsChanged() != 0;
   }
 
   const std::vector<OptionsTopic>& topics_;
