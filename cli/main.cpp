@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "addon/foundation/message_box.h"
+#include "addon/foundation/version.h"
 #include "cli/request.h"
 #include "cli/session.h"
 

@@ -17,6 +17,7 @@
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/gdi_handles.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/progress_bar.h"
 #include "addon/ide/report_header.h"
 #include "addon/ide/status_line.h"
@@ -110,6 +111,9 @@ INT_PTR CALLBACK Session::procedure(HWND dialog, UINT message, WPARAM wParam, LP
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrA(dialog, DWLP_USER, lParam);
     reinterpret_cast<Session*>(lParam)->fill(dialog);
+    return TRUE;
+  }
+  if (showHelpOn(message, kHelpDelivery)) {
     return TRUE;
   }
   auto* session = reinterpret_cast<Session*>(GetWindowLongPtrA(dialog, DWLP_USER));

@@ -12,6 +12,7 @@
 #include "addon/ide/current_project.h"
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/progress_bar.h"
 #include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
@@ -102,6 +103,9 @@ INT_PTR CALLBACK GroupDialog::procedure(HWND dialog, UINT message, WPARAM wParam
   auto* self = reinterpret_cast<GroupDialog*>(GetWindowLongPtrA(dialog, DWLP_USER));
   if (message == WM_DESTROY && self != nullptr) {
     self->end();
+  }
+  if (self != nullptr && showHelpOn(message, self->exchange_.look().help)) {
+    return TRUE;
   }
   if (message != WM_COMMAND || self == nullptr || self->busy_) {
     return FALSE;

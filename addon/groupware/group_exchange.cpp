@@ -9,9 +9,9 @@ namespace {
 constexpr int kSendStops[] = {292, 332, 380, 500, 600};
 constexpr int kGetStops[] = {219, 251, 291, 332, 380};
 constexpr ExchangeLook kSendLook = {"GroupwareSend", kSendStops, "\tNewer\tCONFLICT",
-                                    "Groupware SEND : project "};
+                                    "Groupware SEND : project ", kHelpGroupwareSend};
 constexpr ExchangeLook kGetLook = {"GroupwareGet", kGetStops, "\tYes\tNewer\tRefresh\tRefresh",
-                                   "Groupware GET : project "};
+                                   "Groupware GET : project ", kHelpGroupwareGet};
 
 // Names that stand below each other; more go on in lines, as far as a screen holds them.
 constexpr std::size_t kColumnOfNames = 20;

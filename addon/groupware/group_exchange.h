@@ -8,6 +8,7 @@
 
 #include "addon/groupware/group_lists.h"
 #include "addon/groupware/transfer.h"
+#include "addon/ide/help_topics.h"
 
 namespace kesto {
 
@@ -17,6 +18,7 @@ struct ExchangeLook {
   std::span<const int> stops;  // tab stops of its rows, in dialog units
   const char* row;             // what follows the name at the most; each field has a heading
   const char* subject;         // of the mail; the project's name follows
+  HelpTopic help;
 };
 
 class GroupExchange {

@@ -12,6 +12,7 @@
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/project_client.h"
 #include "addon/ide/project_nodes.h"
 
@@ -115,6 +116,9 @@ INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lPar
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrA(dialog, DWLP_USER, lParam);
     fill(dialog);
+    return TRUE;
+  }
+  if (showHelpOn(message, kHelpQuickAdd)) {
     return TRUE;
   }
   if (message != WM_COMMAND) {

@@ -29,17 +29,26 @@ HelpFile::HelpFile(HINSTANCE instance, HWND owner) : instance_(instance), owner_
                 "Fatal", kMessageIconHand);
     ExitProcess(0);
   }
+  viewer_ = std::make_unique<HelpViewer>(owner_, path_);
 }
 
 HelpFile::~HelpFile() {
   if (opened_) {
-    WinHelpA(owner_, path_, HELP_QUIT, 0);
+    viewer_->quit(instance_);
   }
 }
 
 void HelpFile::showTopic(DWORD context) {
   opened_ = TRUE;
-  WinHelpA(owner_, path_, HELP_CONTEXT, context);
+  viewer_->show(instance_, context);
+}
+
+bool showHelpOn(UINT message, HelpTopic topic) {
+  if (message != WM_HELP || helpFile == nullptr) {
+    return false;
+  }
+  helpFile->showTopic(topic);
+  return true;
 }
 
 }  // namespace kesto

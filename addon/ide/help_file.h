@@ -4,6 +4,11 @@
 
 #include <windows.h>
 
+#include <memory>
+
+#include "addon/ide/help_topics.h"
+#include "addon/ide/help_viewer.h"
+
 namespace kesto {
 
 class HelpFile {
@@ -16,6 +21,7 @@ class HelpFile {
   HelpFile(const HelpFile&) = delete;
   HelpFile& operator=(const HelpFile&) = delete;
 
+  // A number of HelpTopic. Returns at once: the viewer may have something to ask first.
   void showTopic(DWORD context);
   const char* path() const { return path_; }
 
@@ -24,12 +30,14 @@ class HelpFile {
   HINSTANCE instance_;
   HWND owner_;
   char path_[299];
+  std::unique_ptr<HelpViewer> viewer_;
 };
 
 extern HelpFile* helpFile;
 
-// The topic that the bar's help command opens.
-inline constexpr DWORD kHelpContents = 1;
+// For the procedure of a dialog: shows the topic when the message asks for help, as F1 does, and
+// returns whether it did.
+bool showHelpOn(UINT message, HelpTopic topic);
 
 // Replaces the three letters after the final "." by "hlp". Returns false, and
 // leaves the path alone, when it does not end in "." and three characters.

@@ -4,6 +4,7 @@
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/help_file.h"
 #include "addon/navigation/prompt_ids.h"
 #include "ideapi/ide_identifiers.h"
 
@@ -36,6 +37,9 @@ INT_PTR CALLBACK promptProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     SetWindowLongPtrA(dialog, DWLP_USER, lParam);
     fill(dialog, *reinterpret_cast<const Prompt*>(lParam));
     return FALSE;  // the focus is set
+  }
+  if (showHelpOn(message, kHelpSearchPrompt)) {
+    return TRUE;
   }
   if (message != WM_COMMAND || (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)) {
     return FALSE;

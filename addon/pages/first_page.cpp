@@ -8,7 +8,7 @@ namespace kesto {
 
 FirstPage::FirstPage(int dialog_id)
     : AddonPageBase(dialog_id, kFirstPageKind, "Kesto AddOn for Borland C++",
-                    "Set general Kesto AddOn options", kHelpContents) {}
+                    "Set general Kesto AddOn options", kHelpPageKesto) {}
 
 void FirstPage::exchange(PageExchange& controls) {
   controls.plain(PAGE_SYSTEM, "The system that the IDE runs on");

@@ -6,6 +6,7 @@
 #include "addon/foundation/message_box.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/dialog_place.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/status_line.h"
 #include "addon/mail/mail.h"
 #include "addon/tasks/notifications.h"
@@ -89,7 +90,7 @@ INT_PTR TaskDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       dates_.forget();
       return TRUE;
     default:
-      return FALSE;
+      return showHelpOn(message, kHelpTaskList) ? TRUE : FALSE;
   }
 }
 

@@ -5,6 +5,7 @@
 #include "addon/ide/current_project.h"
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/find_window.h"
+#include "addon/ide/help_file.h"
 #include "addon/tasks/flash_ids.h"
 #include "addon/tasks/flash_marker.h"
 #include "addon/tasks/system_dates.h"
@@ -80,7 +81,7 @@ INT_PTR TaskFlash::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
       }
       return TRUE;
     default:
-      return FALSE;
+      return showHelpOn(message, kHelpFlash) ? TRUE : FALSE;
   }
 }
 

@@ -8,10 +8,12 @@
 #include "addon/ide/editor_operations.h"
 #include "addon/ide/find_window.h"
 #include "addon/ide/header_recorder.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/hook_set.h"
 #include "addon/ide/modeless_dialogs.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/command_table.h"
+#include "addon/topbar/menu_help.h"
 #include "addon/topbar/placement.h"
 #include "addon/topbar/top_bar.h"
 
@@ -122,11 +124,18 @@ LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lPar
         onMenuLoop(message == WM_ENTERMENULOOP);
       }
       break;
+    case WM_INITMENUPOPUP:
+      noteMenuOpened(reinterpret_cast<HMENU>(wParam));
+      break;
     case WM_MENUSELECT:
+      noteMenuSelection(wParam, lParam);
       if (!isTitlePopupOpen()) {
         showCommandStatus(LOWORD(wParam), HIWORD(wParam));
       }
       break;
+    case WM_HELP:
+      showHelpOn(message, menuHelpTopic());
+      return TRUE;
     case WM_ACTIVATE:
       if (onActivation(bar, wParam, lParam)) {
         return 0;

@@ -242,6 +242,7 @@ TEST_CASE("the command line") {
       {{}, true, "", "", ""},
       {{"C:\\P"}, true, "C:\\P", "", ""},
       {{"--script", "-", "C:\\P", "--addon", "x.dll"}, true, "C:\\P", "x.dll", "-"},
+      {{"--addon", "", "C:\\P"}, true, "C:\\P", "", ""},
       {{"--addon"}, false, "", "", ""},
       {{"a", "b"}, false, "a", "", ""},
       {{"--what"}, false, "", "", ""},
@@ -254,5 +255,6 @@ TEST_CASE("the command line") {
     CHECK(line.path == each.path);
     CHECK(line.addon == each.addon);
     CHECK(line.script == each.script);
+    CHECK(line.own_addon == (each.arguments.size() < 3));
   }
 }

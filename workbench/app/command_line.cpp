@@ -13,6 +13,7 @@ bool parseCommandLine(const std::vector<std::string>& arguments, CommandLine* li
         *reason = argument + " needs a file.";
         return false;
       }
+      line->own_addon &= argument == "--script";
       (argument == "--addon" ? line->addon : line->script) = arguments[++i];
     } else if (argument.starts_with("--")) {
       *reason = "Unknown option " + argument +

@@ -7,9 +7,10 @@
 namespace workbench {
 
 struct CommandLine {
-  std::string path;    // project, folder or file; empty for none
-  std::string addon;   // a DLL
-  std::string script;  // a file, or "-" for standard input
+  std::string path;       // project, folder or file; empty for none
+  std::string addon;      // a DLL; empty for none
+  bool own_addon = true;  // nothing was said of one: the Workbench's own
+  std::string script;     // a file, or "-" for standard input
 };
 
 // [PATH] [--addon DLL] [--script FILE or -]; the arguments come without the

@@ -6,6 +6,7 @@
 
 #include "workbench/app/application.h"
 #include "workbench/app/command_line.h"
+#include "workbench/app/own_addon.h"
 #include "workbench/script/driver.h"
 #include "workbench/windows/names.h"
 
@@ -29,6 +30,9 @@ int runProgram(HINSTANCE instance, const std::vector<std::string>& arguments, in
     return 1;
   }
   const bool scripted = !line.script.empty();
+  if (line.own_addon) {
+    line.addon = ownAddon();
+  }
   if (!line.addon.empty() && !application.startAddon(line.addon, &reason)) {
     reportStartFailure(application, scripted, reason);
     if (scripted) {

@@ -15,7 +15,7 @@ std::string commandLine(bool with_addon) {
       line.append(" --addon \"").append(__argv[i + 1]).append("\"");
     }
   }
-  return line;
+  return with_addon ? line : line.append(" --addon \"\"");
 }
 
 }  // namespace

@@ -86,6 +86,8 @@ Step stepOf(Verb verb) {
       return stepExpect;
     case Verb::kExpectButtons:
       return stepExpectButtons;
+    case Verb::kExpectHelp:
+      return stepExpectHelp;
     case Verb::kExpectNot:
       return stepExpectNot;
     case Verb::kExpectRegistry:

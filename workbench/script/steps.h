@@ -69,6 +69,9 @@ StepResult stepPress(StepTry& step);
 // dialog_dump.cpp: the controls of a dialog
 StepResult dumpDialog(StepTry& step);
 
+// help_steps.cpp: the help viewer
+StepResult stepExpectHelp(StepTry& step);
+
 // repeat_steps.cpp: what is done several times
 StepResult stepRepeat(StepTry& step);
 StepResult stepEndRepeat(StepTry& step);

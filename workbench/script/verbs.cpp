@@ -39,6 +39,7 @@ constexpr VerbInfo kVerbs[] = {
     {Verb::kEndSession, kBeside, "end-session", 0, 0, "end-session"},
     {Verb::kExpect, kHeldUp, "expect", 3, 3, "expect EVENT KEY VALUE"},
     {Verb::kExpectButtons, kBeside, "expect-buttons", 1, 2, "expect-buttons FILE [left|right]"},
+    {Verb::kExpectHelp, kBeside, "expect-help", 1, 2, "expect-help TEXT [keep]"},
     {Verb::kExpectNot, kHeldUp, "expect-not", 1, 3, "expect-not EVENT [KEY VALUE]"},
     {Verb::kExpectRegistry, kBeside, "expect-registry", 3, 3, "expect-registry SECTION NAME TEXT"},
     {Verb::kHandles, kBeside, "handles", 0, 0, "handles"},

@@ -34,6 +34,7 @@ enum class Verb {
   kEndSession,
   kExpect,
   kExpectButtons,
+  kExpectHelp,
   kExpectNot,
   kExpectRegistry,
   kHandles,

@@ -26,6 +26,10 @@ INT_PTR CALLBACK Dialog::dialogProc(HWND window, UINT message, WPARAM w, LPARAM 
     self->timer();
     return TRUE;
   }
+  if (message == WM_HELP && self->item(IDHELP) != nullptr) {
+    self->command(IDHELP, BN_CLICKED);
+    return TRUE;
+  }
   if (message != WM_COMMAND) {
     return FALSE;
   }

@@ -21,6 +21,7 @@ class Dialog {
   virtual void fill() = 0;
   // Returns false to keep the dialog open.
   virtual bool accept() = 0;
+  // F1 comes as a click on the Help button, where there is one.
   virtual void command(int control, int notification);
   virtual void timer() {}
 

@@ -1,0 +1,9 @@
+#include "main.h"
+
+void Frame::Paint()
+{
+}
+
+int main()
+{
+}
