@@ -106,15 +106,19 @@ void takeLineFeeds(std::string& bytes) {
 }
 
 std::string withCarriageReturns(std::string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size() + text.size() / 16);
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    bytes += text.substr(0, end);
-    if (end < text.size()) {
-      bytes += "\r\n";
+  const auto ends = std::count(text.begin(), text.end(), '\n');
+  std::string bytes(text.size() + static_cast<std::size_t>(ends), '\r');
+  char* to = bytes.data();
+  for (std::size_t end = 0; !text.empty(); text.remove_prefix(end)) {
+    end = text.find('\n');
+    const bool ended = end != std::string_view::npos;
+    end = ended ? end : text.size();
+    to = std::copy_n(text.data(), end, to);
+    if (ended) {
+      *++to = '\n';
+      ++to;
+      ++end;
     }
-    text.remove_prefix(std::min(text.size(), end + 1));
   }
   return bytes;
 }
