@@ -30,7 +30,10 @@ void writePut(Session& session, const ToldFiles& files, bool verbose) {
 class SiteWatch : public SiteProgress {
  public:
   explicit SiteWatch(Session& session) : progress_(session) {}
-  void reading(int files_read) override { files = files_read; }
+  void reading(int files_read) override {
+    files = files_read;
+    progress_.tell(files, 0, "files read");
+  }
   void writing(int pages_written, int all_pages) override {
     pages = pages_written;
     all = all_pages;

@@ -25,8 +25,25 @@ bool readAll(FILE* stream, std::string& bytes) {
     bytes.resize(size + kPiece);
     given = fread(bytes.data() + size, 1, kPiece, stream);
     bytes.resize(size + given);
-  } while (given > 0 && bytes.size() < static_cast<std::size_t>(kTextFileLimit));
+  } while (given > 0 && bytes.size() <= static_cast<std::size_t>(kTextFileLimit));
+  if (ferror(stream) == 0 && bytes.size() > static_cast<std::size_t>(kTextFileLimit)) {
+    errno = EFBIG;
+    return false;
+  }
   return ferror(stream) == 0;
+}
+
+// What has no size, such as a pipe.
+bool readStream(const std::string& path, std::string& bytes) {
+  FILE* const file = fopen(path.c_str(), "rb");
+  if (file == nullptr) {
+    return false;
+  }
+  const bool done = readAll(file, bytes);
+  const int fault = errno;
+  fclose(file);
+  errno = fault;
+  return done;
 }
 
 }  // namespace
@@ -68,7 +85,7 @@ const std::string& Session::shown(std::string_view core) {
 }
 
 std::string Session::folder(std::string_view given) {
-  const std::string core = system_.corePath(given);
+  std::string core = system_.corePath(given);
   const std::optional<FileStatus> status = system_.files().status(core.c_str());
   if (status && status->is_directory) {
     return core;
@@ -79,7 +96,8 @@ std::string Session::folder(std::string_view given) {
 
 bool Session::readGiven(const std::string& given, std::string& bytes) {
   errno = 0;
-  if (given == "-" ? readAll(stdin, bytes) : readFileBytes(given.c_str(), bytes)) {
+  if (given == "-" ? readAll(stdin, bytes)
+                   : readFileBytes(given.c_str(), bytes) || readStream(given, bytes)) {
     return true;
   }
   const std::string reason = errno != 0 ? system_.reason() : "cannot be read";
@@ -129,7 +147,8 @@ bool Progress::goOn(int directories, int files) {
 
 void Progress::tell(int done, int all, const char* of_what) {
   if (isTime()) {
-    fprintf(stderr, "\r%d of %d %s\x1b[K", done, all, of_what);
+    const std::string of_all = all > 0 ? " of " + std::to_string(all) : std::string();
+    fprintf(stderr, "\r%d%s %s\x1b[K", done, of_all.c_str(), of_what);
   }
 }
 

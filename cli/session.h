@@ -67,7 +67,7 @@ class Progress : public WalkWatch {
 
   // Ends the walk when nobody reads what it finds; tells of a walk that has come to its limit.
   bool goOn(int directories, int files) override;
-  // So many of what there are in all.
+  // So many of what there are in all, 0 when that is not known.
   void tell(int done, int all, const char* of_what);
 
  private:

@@ -112,7 +112,7 @@ class ToldGroup : public GroupListing {
 // The server's folder, by the command line or the project; empty, and told, when there is none.
 std::string serverFolder(Session& session, const Request& request, Place& place) {
   if (request.has("server")) {
-    const std::string server = session.folder(request.value("server"));
+    std::string server = session.folder(request.value("server"));
     if (!server.empty()) {
       session.showBelow(server, request.value("server"));
     }
@@ -151,7 +151,7 @@ int runStatus(Session& session, const Request& request) {
   StatusWriter writer(session, roots);
   Progress progress(session);
   int rows = 0;
-  const auto writeAll = [&](const auto& list) {
+  const auto write_all = [&](const auto& list) {
     for (int i = 0; i < list.count() && session.output().open(); ++i) {
       writer.write(*list.at(i));
     }
@@ -160,12 +160,12 @@ int runStatus(Session& session, const Request& request) {
   if (!request.has("get")) {
     SendList list;
     fillSendList(list, files, roots, filters, &progress);
-    writeAll(list);
+    write_all(list);
   }
   if (!request.has("send")) {
     GetList list;
     fillGetList(list, files, roots, filters, &progress);
-    writeAll(list);
+    write_all(list);
   }
   return session.result(rows > 0);
 }

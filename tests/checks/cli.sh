@@ -86,6 +86,7 @@ is "paths from the current folder on" [ "$(cat out)" = "x.cpp:1:  use();$lf../sr
 # Standard input, and what keywords are taken and completed.
 is "keywords of standard input" [ "$(printf 'int S::a(int v)\nvoid *b(int)\nint c();\n' | "$cli" keywords -)" = "S${lf}a${lf}b" ]
 is "functions of standard input" [ "$(printf '\nint f()\n' | "$cli" functions - --json)" = '{"file":"-","line":2,"class":"","name":"f"}' ]
+is "functions of a pipe" [ "$("$cli" functions <(printf '\nint f()\n') | cut -d: -f2-)" = '2:f' ]
 gives 0 '' keywords 'my p/größe.cpp' --write
 is "the keyword file" [ "$(cat 'my p/größe.kwd')" = $'first\r\nA\r\nm\r\nfirst\r' ]
 printf 'print|Writes 5%%%% of it\nprintf|First\nprivate\n[x]\n' >words.kwd
