@@ -50,18 +50,20 @@ lf=$'\n'
 tab=$'\t'
 
 # A project with blanks and letters beyond ASCII in its names and texts.
-mkdir -p 'my p/inc' 'my p/src/.x' 'my p/lib' 'my p/none'
+mkdir -p 'my p/kopf' 'my p/src/.x' 'my p/teil' 'my p/none'
 printf 'int first(void)\r\n{\r\n  use();  // gr\xf6\xdfer\r\n}\r\nvoid A::m(int)\nint first(long)\nclass A {\n};\n' >'my p/größe.cpp'
 printf '#include <a b.h>\n/* #include "c.h" */\n#include ""\n\tuse(first);\nint last()\n' >'my p/src/s.CC'
-printf '  use();\n' | tee 'my p/src/.x/no.c' 'my p/inc/only.h' >'my p/lib/x.cpp'
-printf 'class A : B {\n// \xc3\xb6\n};\n' >'my p/inc/a.h'
-printf 'int f()\nint g()\n' >'my p/lib/l.c'
+printf '  use();\n' | tee 'my p/src/.x/no.c' 'my p/kopf/only.h' >'my p/teil/x.cpp'
+printf 'class A : B {\n// \xc3\xb6\n};\n' >'my p/kopf/a.h'
+printf 'int f()\nint g()\n' >'my p/teil/l.c'
+printf '\tgr\xc3\xb6\xc3\x9fer;\n' >'my p/src/u.cpp'
+mkdir -p plain/Include && cp 'my p/kopf/a.h' plain/Include
 cat >'my p/my.ide' <<'END'
 Workbench project 1
 option "KestoGroupwareServer" "~srv\x00"
 node "my.exe" ".exe" {
-  path 1 "INC;Z:\\no"
-  path 3 "lib"
+  path 1 "KOPF;Z:\\no"
+  path 3 "teil"
   node "größe.cpp" ".cpp"
 }
 end
@@ -69,18 +71,19 @@ END
 gives 0 "my p/größe.cpp:1:first$lf""my p/größe.cpp:6:first$lf""my p/größe.cpp:5:A::m$lf" functions 'my p/größe.cpp'
 gives 0 "my p/größe.cpp:1:first$lf""my p/größe.cpp:5:A::m$lf""my p/größe.cpp:6:first$lf" functions --unsorted 'my p/größe.cpp'
 gives 0 "a b.h${lf}c.h$lf" includes 'my p/src/s.CC'
-gives 1 '' includes 'my p/lib/l.c'
+gives 1 '' includes 'my p/teil/l.c'
 gives 0 "my p/größe.cpp:1:int first(void)$lf" find function first --project 'my p'
-gives 0 "my p/lib/l.c:2:int g()$lf" find function g --project 'my p/my.ide'
-gives 0 "my p/lib/l.c:2:int g()$lf" find function g --project 'my p' --no-recurse
+gives 0 "my p/teil/l.c:2:int g()$lf" find function g --project 'my p/my.ide'
+gives 0 "my p/teil/l.c:2:int g()$lf" find function g --project 'my p' --no-recurse
 gives 1 '' find function g --project 'my p' --no-recurse --source-path 'my p/none'
 gives 0 "my p/größe.cpp:5:A::m$lf" find method m --project 'my p'
-gives 0 "my p/inc/a.h:1:class A : B {$lf" find class A --project 'my p'
+gives 0 "my p/kopf/a.h:1:class A : B {$lf" find class A --project 'my p'
+gives 0 "plain/Include/a.h:1:class A : B {$lf" find class A --project plain
 gives 0 "{\"file\":\"my p/größe.cpp\",\"line\":7,\"text\":\"class A {\"}$lf" find class A --project 'my p' --include-path 'my p' --headers '*.cpp' --no-recurse --json
-gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/lib/x.cpp:1:  use();$lf""my p/src/s.CC:4:${tab}use(first);$lf" xref use --project 'my p'
-gives 0 "my p/größe.cpp:3:  use();  // größer$lf" xref größer --project 'my p'
+gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/teil/x.cpp:1:  use();$lf""my p/src/s.CC:4:${tab}use(first);$lf" xref use --project 'my p'
+gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/src/u.cpp:1:${tab}größer;$lf" xref größer --project 'my p'
 gives 1 '' xref absent --project 'my p'
-(cd 'my p/lib' && "$cli" xref use && "$cli" xref use --project ../src) >out
+(cd 'my p/teil' && "$cli" xref use && "$cli" xref use --project ../src) >out
 is "paths from the current folder on" [ "$(cat out)" = "x.cpp:1:  use();$lf../src/s.CC:4:${tab}use(first);" ]
 
 # Standard input, and what keywords are taken and completed.
@@ -116,6 +119,7 @@ gives 0 '{"name":"two","type":"Bug","state":"ended","public":false,"priority":7,
 gives 0 "to do${tab}1${lf}coded${tab}0${lf}tested${tab}0${lf}ended${tab}1${lf}" tasks 'my p' --counts
 run tasks 'my p' --day 2001-05-31
 is "the report of a day" [ "$code$(sed -n '1,2p;$p' out)" = "0one (1995-05-01 to 1995-05-31)${lf}Type : Bug, Priority : -5, State : to do${lf}That's all folks !" ]
+is "the report of other states" [ "$("$cli" tasks 'my p' --day 2001-05-01 --states ended | head -n 1)" = "two (1995-05-01 to 1995-05-31)" ]
 gives 1 "No task today !$lf" tasks 'my p' --day 1995-06-01
 is "the order turned round" [ "$("$cli" tasks 'my p' --sort priority --reverse | cut -f1 | tr '\n' ' ')" = 'two one ' ]
 tells 'no whole task file' tasks "$(head -c 150 'my p/my.ide.tsk' >'my p/cut.ide.tsk' && echo 'my p/cut.ide')"
@@ -125,13 +129,13 @@ gives 1 '' tasks dialogs.ide
 
 # The server of the project: a free copy of an edited file, a locked one that is older and
 # read-only here, one that is new there.
-mkdir -p 'my p/srv/inc'
-touch -d '2020-01-01 12:00:00' 'my p/größe.cpp' 'my p/lib/l.c'
-touch -d '2020-01-01 12:00:00.9' 'my p/srv/größe.cpp' 'my p/srv/inc/new.h'
-touch -d '2019-01-01' 'my p/srv/inc/a.h'
-chmod a-w 'my p/srv/inc/a.h' 'my p/inc/a.h'
-gives 0 "send${tab}größe.cpp${tab}Same${tab}CONFLICT${lf}send${tab}lib/l.c${tab}NEW!${tab}${lf}get${tab}größe.cpp${tab}Same${tab}${tab}ERROR${lf}get${tab}inc/a.h${tab}Older${tab}locked${tab}ERROR${lf}get${tab}inc/new.h${tab}NEW!${tab}${tab}Refresh${lf}" status 'my p' --filters 'gr*.cpp;l.c;a.h;new.h'
-gives 0 '{"list":"get","file":"inc/new.h","locked":false,"age":"NEW!","advice":"Refresh"}'"$lf" status 'my p' --get --json --server 'my p/srv' --filters 'n*.h'
+mkdir -p 'my p/srv/kopf'
+touch -d '2020-01-01 12:00:00' 'my p/größe.cpp' 'my p/teil/l.c'
+touch -d '2020-01-01 12:00:00.9' 'my p/srv/größe.cpp' 'my p/srv/kopf/new.h'
+touch -d '2019-01-01' 'my p/srv/kopf/a.h'
+chmod a-w 'my p/srv/kopf/a.h' 'my p/kopf/a.h'
+gives 0 "send${tab}größe.cpp${tab}Same${tab}CONFLICT${lf}send${tab}teil/l.c${tab}NEW!${tab}${lf}get${tab}größe.cpp${tab}Same${tab}${tab}ERROR${lf}get${tab}kopf/a.h${tab}Older${tab}locked${tab}ERROR${lf}get${tab}kopf/new.h${tab}NEW!${tab}${tab}Refresh${lf}" status 'my p' --filters 'gr*.cpp;l.c;a.h;new.h'
+gives 0 '{"list":"get","file":"kopf/new.h","locked":false,"age":"NEW!","advice":"Refresh"}'"$lf" status 'my p' --get --json --server 'my p/srv' --filters 'n*.h'
 tells 'none: No such file' status 'my p' --server none
 
 # Arguments that make no sense, and files that cannot be read.
@@ -193,7 +197,7 @@ is "a version" [ "$(cat full/VERSION.RC)" = $'FILEVERSION 1, 2, 3, 10\r' ]
 gives 1 '' stamp closed
 
 # Colours are for terminals, where nobody has asked for none.
-on_terminal() { TERM=xterm script -qec "'$cli' xref größer --project 'my p'" /dev/null </dev/null; }
+on_terminal() { TERM=xterm script -qec "'$cli' xref größer --project 'my p' --sources 'gr*'" /dev/null </dev/null; }
 is "colours" grep -q $'\x1b\\[35mmy p/' <(NO_COLOR='' on_terminal)
 is "no colours" [ "$(NO_COLOR=1 on_terminal | tr -d '\r')" = "my p/größe.cpp:3:  use();  // größer" ]
 
