@@ -1,12 +1,6 @@
 // What the system and the IDE call in the module.
 #include "addon/addon.h"
 
-// What the compiler's library keeps for the throwing of exceptions when memory is short,
-// and gives back at no unloading by itself.
-namespace __gnu_cxx {
-void __freeres();
-}
-
 extern "C" {
 
 // The IDE's root interface starts the add-on, 0 shuts it down.
@@ -24,7 +18,6 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
       return kesto::attachModule(instance) ? TRUE : FALSE;
     case DLL_PROCESS_DETACH:
       kesto::detachModule();
-      __gnu_cxx::__freeres();
       return TRUE;
     default:
       return TRUE;

@@ -13,6 +13,7 @@ constexpr std::uint16_t kNoPage = 0xFFFF;
 constexpr std::size_t kFileHeader = 9;
 constexpr std::size_t kTreeHeader = 38;
 constexpr std::size_t kLeafHeader = 8;
+constexpr std::uint32_t kMostCommonHash = 0x7FFFFFFF;
 constexpr std::size_t kSystemDate = 6;  // in |SYSTEM
 
 // Numbers have their least byte first. What lies outside reads as nothing.
@@ -73,16 +74,17 @@ std::optional<std::vector<Leaf>> leavesOf(std::string_view tree) {
   if (bytes.number(0, 2) != kTreeMagic || !size || !pages || !levels || !page) {
     return std::nullopt;
   }
-  const auto pageAt = [&](std::uint32_t number) {
-    return number < *pages ? bytes.part(kTreeHeader + number * *size, *size) : std::nullopt;
+  const auto page_at = [&](std::uint32_t number) {
+    return number < *pages ? bytes.part(kTreeHeader + std::size_t{number} * *size, *size)
+                           : std::nullopt;
   };
   for (std::uint32_t level = 1; level < *levels && page; ++level) {
-    const auto index = pageAt(*page);
+    const auto index = page_at(*page);
     page = index ? Bytes(*index).number(4, 2) : std::nullopt;
   }
   std::vector<Leaf> leaves;
   while (page && *page != kNoPage) {
-    const auto leaf = pageAt(*page);
+    const auto leaf = page_at(*page);
     const auto count = leaf ? Bytes(*leaf).number(2, 2) : std::nullopt;
     page = leaf ? Bytes(*leaf).number(6, 2) : std::nullopt;
     // Leaves that lead back to one another would never end.
@@ -164,6 +166,10 @@ std::string makeTable(std::string_view tree, std::span<const HelpContext> contex
   const auto topics = topicsOf(tree);
   if (!topics) {
     return "damaged: |CONTEXT cannot be read";
+  }
+  // Some readers take the hash for a signed number, and so seek in another order.
+  if (!topics->empty() && topics->rbegin()->first > kMostCommonHash) {
+    return "not every viewer finds a page by a word like one here: take at most five characters";
   }
   append(table, static_cast<std::uint32_t>(contexts.size()), 2);
   std::uint32_t before = 0;

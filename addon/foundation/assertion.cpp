@@ -1,6 +1,6 @@
 #include "addon/foundation/assertion.h"
 
-#include <cstdio>
+#include <string>
 
 #include "addon/foundation/message_box.h"
 
@@ -8,10 +8,9 @@ namespace kesto {
 
 bool checkThat(bool condition, const char* condition_text, const char* source, int line) {
   if (!condition) {
-    char text[512];
-    snprintf(text, sizeof text, "Assertion failed: %s, file %s, line %d", condition_text, source,
-             line);
-    showMessage(nullptr, text, "Erreur", kMessageIconHand);
+    const std::string text = std::string("Assertion failed: ") + condition_text + ", file " +
+                             source + ", line " + std::to_string(line);
+    showMessage(nullptr, text.c_str(), "Erreur", kMessageIconHand);
   }
   return condition;
 }

@@ -11,17 +11,17 @@ bool Folders::enter(const String& directory) {
   if (stopped_ || path.size() > kPathLimit) {
     return false;
   }
-  if (entered_.find(path) == entered_.end()) {
+  if (entered_.find(path) == nullptr) {
     if (entered_.size() == kDirectoryLimit) {
       return false;
     }
-    entered_.emplace(path, Folder());
+    entered_[path];
   }
   return ask();
 }
 
 const DirectoryEntries& Folders::entriesOf(const String& directory) {
-  Folder& folder = entered_[std::string(directory.view())];
+  Folder& folder = entered_[directory.view()];
   if (!folder.listed) {
     folder.listed = true;
     lister_.list(directory, "*", folder.entries);

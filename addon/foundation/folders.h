@@ -4,13 +4,13 @@
 // the thread that walks.
 #pragma once
 
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "addon/foundation/directory_lister.h"
 #include "addon/foundation/file_mask.h"
+#include "addon/foundation/name_table.h"
 #include "addon/foundation/string.h"
 
 namespace kesto {
@@ -55,7 +55,7 @@ class Folders {
 
   DirectoryLister& lister_;
   WalkWatch* watch_;
-  std::map<std::string, Folder, std::less<>> entered_;
+  NameTable<std::string, Folder> entered_;
   int files_ = 0;
   bool stopped_ = false;
 };

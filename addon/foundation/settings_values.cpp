@@ -1,14 +1,14 @@
 #include "addon/foundation/settings_values.h"
 
 #include <algorithm>
+#include <charconv>
 #include <climits>
-#include <cstdio>
 #include <cstdlib>
 
 namespace kesto {
 
 void formatInteger(int value, char (&text)[kIntegerTextSize]) {
-  snprintf(text, sizeof text, "%d", value);
+  *std::to_chars(text, text + sizeof text - 1, value).ptr = '\0';
 }
 
 int parseInteger(const char* text, int default_value) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "addon/foundation/binary_form.h"
 #include "addon/foundation/message_box.h"
@@ -14,18 +15,6 @@ namespace {
 std::size_t sizeOf(const char* text) {
   return text == nullptr ? 0 : strlen(text);
 }
-
-class NumberText {
- public:
-  explicit NumberText(long int number)
-      : size_(static_cast<std::size_t>(snprintf(text_, sizeof text_, "%ld", number))) {}
-  const char* text() const { return text_; }
-  std::size_t size() const { return size_; }
-
- private:
-  char text_[24];
-  std::size_t size_;
-};
 
 }  // namespace
 
@@ -42,8 +31,8 @@ String::String(std::string_view text) : text_(nullptr), length_(0) {
 }
 
 String::String(long int number) : text_(nullptr), length_(0) {
-  const NumberText digits(number);
-  assign(digits.text(), digits.size());
+  const std::string digits = std::to_string(number);
+  assign(digits.data(), digits.size());
 }
 
 String::String(const String& other) : Basic(other), text_(nullptr), length_(0) {
@@ -65,8 +54,8 @@ String& String::operator=(std::string_view text) {
 }
 
 String& String::operator=(long int number) {
-  const NumberText digits(number);
-  assign(digits.text(), digits.size());
+  const std::string digits = std::to_string(number);
+  assign(digits.data(), digits.size());
   return *this;
 }
 
@@ -93,8 +82,8 @@ String& String::operator+=(const String& other) {
 }
 
 String& String::operator+=(long int number) {
-  const NumberText digits(number);
-  append(digits.text(), digits.size());
+  const std::string digits = std::to_string(number);
+  append(digits.data(), digits.size());
   return *this;
 }
 

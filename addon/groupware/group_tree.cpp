@@ -163,21 +163,22 @@ void GroupTree::list(const char* directory, const char* mask, DirectoryEntries& 
   files_.list(directory, mask, listener);
   if (whole) {
     facts.sort();
-    folders_.insert_or_assign(directory, std::move(facts));
+    folders_[directory] = std::move(facts);
   }
 }
 
 // Folders of the walked tree are listed by the walk.
 FolderFacts& GroupTree::factsIn(std::string_view directory) {
-  const auto known = folders_.find(directory);
-  if (known != folders_.end()) {
-    return known->second;
+  if (FolderFacts* const known = folders_.find(directory); known != nullptr) {
+    return *known;
   }
   FolderFacts facts;
   Listener listener(*this, directory, &facts, nullptr);
   files_.list(std::string(directory).c_str(), "*", listener);
   facts.sort();
-  return folders_.emplace(directory, std::move(facts)).first->second;
+  FolderFacts& kept = folders_[directory];
+  kept = std::move(facts);
+  return kept;
 }
 
 }  // namespace kesto

@@ -3,12 +3,12 @@
 // thread only.
 #pragma once
 
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "addon/foundation/folders.h"
+#include "addon/foundation/name_table.h"
 #include "addon/groupware/group_files.h"
 
 namespace kesto {
@@ -83,7 +83,7 @@ class GroupTree : public DirectoryLister {
   GroupListing& files_;
   std::string root_;
   std::string other_root_;
-  std::map<std::string, FolderFacts, std::less<>> folders_;  // by directory
+  NameTable<std::string, FolderFacts> folders_;  // by directory
 };
 
 }  // namespace kesto

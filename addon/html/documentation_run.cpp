@@ -110,31 +110,30 @@ void DocumentationRun::post() {
 void DocumentationRun::showProgress() {
   const int done = done_;
   const int refused = all_ - done;
-  char text[100] = "";
+  std::string text = "HTML generation";
   switch (phase_) {
     case Phase::kIdle:
       return;
     case Phase::kReading:
-      snprintf(text, sizeof text, "HTML generation: %d files read", done);
+      text += ": " + std::to_string(done) + " files read";
       break;
     case Phase::kWriting:
-      snprintf(text, sizeof text, "HTML generation: page %d of %d", done, all_.load());
+      text += ": page " + std::to_string(done) + " of " + std::to_string(all_);
       break;
     case Phase::kDone:
+      text += ": " + std::to_string(done) + " pages written";
       if (refused > 0) {
-        snprintf(text, sizeof text, "HTML generation: %d pages written, %d refused", done, refused);
-      } else {
-        snprintf(text, sizeof text, "HTML generation: %d pages written", done);
+        text += ", " + std::to_string(refused) + " refused";
       }
       break;
     case Phase::kStopped:
-      snprintf(text, sizeof text, "HTML generation stopped");
+      text += " stopped";
       break;
   }
   // What was posted late tells the same.
   if (shown_ != text) {
     shown_ = text;
-    showStatus(text);
+    showStatus(text.c_str());
   }
 }
 

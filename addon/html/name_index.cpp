@@ -23,12 +23,12 @@ bool suits(const htSymbol& entry, EntryKind kind) {
 }  // namespace
 
 htSymbol* NameIndex::find(std::string_view name, EntryKind kind) {
-  const auto found = names_.find(name);
-  if (found == names_.end()) {
+  SameName* const found = names_.find(name);
+  if (found == nullptr) {
     return nullptr;
   }
-  const std::vector<htSymbol*>& entries = found->second.entries;
-  std::size_t& first = found->second.first[static_cast<std::size_t>(kind)];
+  const std::vector<htSymbol*>& entries = found->entries;
+  std::size_t& first = found->first[static_cast<std::size_t>(kind)];
   while (first < entries.size() && !suits(*entries[first], kind)) {
     ++first;
   }
@@ -42,12 +42,12 @@ void NameIndex::add(htSymbol& entry) {
 }
 
 bool NameIndex::holds(const htSymbol& entry) const {
-  const auto found = names_.find(entry.name.view());
-  if (found == names_.end()) {
+  const SameName* const found = names_.find(entry.name.view());
+  if (found == nullptr) {
     return false;
   }
   const auto number = static_cast<std::size_t>(entry.number);
-  return number < found->second.entries.size() && found->second.entries[number] == &entry;
+  return number < found->entries.size() && found->entries[number] == &entry;
 }
 
 }  // namespace kesto

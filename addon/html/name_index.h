@@ -6,8 +6,9 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
+
+#include "addon/foundation/name_table.h"
 
 namespace kesto {
 
@@ -37,7 +38,7 @@ class NameIndex {
     std::array<std::size_t, 4> first{};
   };
 
-  std::unordered_map<std::string_view, SameName> names_;
+  NameTable<std::string_view, SameName> names_;
 };
 
 }  // namespace kesto

@@ -152,8 +152,8 @@ void WordLinks::add(const Table& entries, Sort sort) {
 }
 
 void WordLinks::appendWord(std::string& page, std::string_view word, const htSymbol* entry) const {
-  const auto found = named_.find(word);
-  const Named named = found != named_.end() && !word.empty() ? found->second : Named();
+  const Named* const found = named_.find(word);
+  const Named named = found != nullptr && !word.empty() ? *found : Named();
   const auto leads = [entry](const htSymbol* to) { return to != nullptr && to != entry; };
   if (leads(named.of_class)) {
     append(page, {"<a href =\"Class ", word, ".html\" target=\"space\">", word, "</a>"});

@@ -6,8 +6,8 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "addon/foundation/name_table.h"
 #include "addon/html/ht_projet.h"
 
 namespace kesto {
@@ -33,7 +33,7 @@ class WordLinks {
   template <class Table>
   void add(const Table& entries, Sort sort);
 
-  std::unordered_map<std::string_view, Named> named_;
+  NameTable<std::string_view, Named> named_;
 };
 
 // The long form sets return value and parameters off in paragraphs of their own.

@@ -6,55 +6,56 @@
 
 namespace kesto {
 
-// NAME in the code, number, word in the pages ("Top" is the first page of all).
-#define KESTO_HELP_TOPICS(TOPIC)                          \
-  TOPIC(kHelpContents, 1, "Top")                          \
-  /* The option pages */                                  \
-  TOPIC(kHelpPageKesto, 10, "page_kesto")                 \
-  TOPIC(kHelpPageGeneral, 11, "page_general")             \
-  TOPIC(kHelpPageEditor, 12, "page_editor")               \
-  TOPIC(kHelpPageCompletion, 13, "page_completion")       \
-  TOPIC(kHelpPageDelivery, 14, "page_delivery")           \
-  TOPIC(kHelpPageMail, 15, "page_mail")                   \
-  TOPIC(kHelpPageTopBar, 16, "page_top_bar")              \
-  TOPIC(kHelpPageTask, 17, "page_task")                   \
-  TOPIC(kHelpPageGroupware, 18, "page_groupware")         \
-  TOPIC(kHelpPageHtml, 19, "page_html")                   \
-  TOPIC(kHelpPageKestoWindows, 20, "page_kesto_windows")  \
-  TOPIC(kHelpKeyCapture, 21, "key_capture")               \
-  /* The menus of the editors' title bars */              \
-  TOPIC(kHelpTitleBar, 30, "title_bar")                   \
-  TOPIC(kHelpMenuFunctions, 31, "menu_functions")         \
-  TOPIC(kHelpMenuIncludes, 32, "menu_includes")           \
-  TOPIC(kHelpMenuQuickFind, 33, "menu_quick_find")        \
-  TOPIC(kHelpMenuDocumentation, 34, "menu_documentation") \
-  TOPIC(kHelpMenuMethods, 35, "menu_methods")             \
-  /* The menus of the top screen bar */                   \
-  TOPIC(kHelpTopBar, 40, "top_bar")                       \
-  TOPIC(kHelpMenuKesto, 41, "menu_kesto")                 \
-  TOPIC(kHelpMenuLastIncludes, 42, "menu_last_includes")  \
-  TOPIC(kHelpMenuProject, 43, "menu_project")             \
-  TOPIC(kHelpMenuTasks, 44, "menu_tasks")                 \
-  TOPIC(kHelpMenuGroupware, 45, "menu_groupware")         \
-  TOPIC(kHelpMenuHtml, 46, "menu_html")                   \
-  /* The searches */                                      \
-  TOPIC(kHelpFindFunction, 50, "find_function")           \
-  TOPIC(kHelpFindMethod, 51, "find_method")               \
-  TOPIC(kHelpFindClass, 52, "find_class")                 \
-  TOPIC(kHelpCrossReference, 53, "cross_reference")       \
-  TOPIC(kHelpSearchPrompt, 54, "search_prompt")           \
-  /* The other dialogs */                                 \
-  TOPIC(kHelpTaskList, 60, "task_list")                   \
-  TOPIC(kHelpFlash, 61, "flash")                          \
-  TOPIC(kHelpDelivery, 62, "delivery")                    \
-  TOPIC(kHelpGroupwareSend, 63, "groupware_send")         \
-  TOPIC(kHelpGroupwareGet, 64, "groupware_get")           \
-  TOPIC(kHelpQuickAdd, 65, "quick_add")                   \
-  /* What goes on without a window of its own */          \
-  TOPIC(kHelpCompletion, 70, "completion")                \
-  TOPIC(kHelpDocumentation, 71, "documentation")          \
-  TOPIC(kHelpDialogClasses, 72, "dialog_classes")         \
-  TOPIC(kHelpVersions, 73, "versions")                    \
+// NAME in the code, number, word in the pages ("Top" is the first page of all). Of words of at
+// most five characters all viewers agree in which order they are.
+#define KESTO_HELP_TOPICS(TOPIC)                 \
+  TOPIC(kHelpContents, 1, "Top")                 \
+  /* The option pages */                         \
+  TOPIC(kHelpPageKesto, 10, "pgkes")             \
+  TOPIC(kHelpPageGeneral, 11, "pggen")           \
+  TOPIC(kHelpPageEditor, 12, "pgedi")            \
+  TOPIC(kHelpPageCompletion, 13, "pgcom")        \
+  TOPIC(kHelpPageDelivery, 14, "pgdel")          \
+  TOPIC(kHelpPageMail, 15, "pgmai")              \
+  TOPIC(kHelpPageTopBar, 16, "pgbar")            \
+  TOPIC(kHelpPageTask, 17, "pgtas")              \
+  TOPIC(kHelpPageGroupware, 18, "pggrp")         \
+  TOPIC(kHelpPageHtml, 19, "pghtm")              \
+  TOPIC(kHelpPageKestoWindows, 20, "pgwin")      \
+  TOPIC(kHelpKeyCapture, 21, "keys")             \
+  /* The menus of the editors' title bars */     \
+  TOPIC(kHelpTitleBar, 30, "title")              \
+  TOPIC(kHelpMenuFunctions, 31, "func")          \
+  TOPIC(kHelpMenuIncludes, 32, "incl")           \
+  TOPIC(kHelpMenuQuickFind, 33, "quick")         \
+  TOPIC(kHelpMenuDocumentation, 34, "doc")       \
+  TOPIC(kHelpMenuMethods, 35, "meths")           \
+  /* The menus of the top screen bar */          \
+  TOPIC(kHelpTopBar, 40, "bar")                  \
+  TOPIC(kHelpMenuKesto, 41, "kesto")             \
+  TOPIC(kHelpMenuLastIncludes, 42, "last")       \
+  TOPIC(kHelpMenuProject, 43, "proj")            \
+  TOPIC(kHelpMenuTasks, 44, "tasks")             \
+  TOPIC(kHelpMenuGroupware, 45, "group")         \
+  TOPIC(kHelpMenuHtml, 46, "html")               \
+  /* The searches */                             \
+  TOPIC(kHelpFindFunction, 50, "ffunc")          \
+  TOPIC(kHelpFindMethod, 51, "fmeth")            \
+  TOPIC(kHelpFindClass, 52, "fclas")             \
+  TOPIC(kHelpCrossReference, 53, "xref")         \
+  TOPIC(kHelpSearchPrompt, 54, "name")           \
+  /* The other dialogs */                        \
+  TOPIC(kHelpTaskList, 60, "list")               \
+  TOPIC(kHelpFlash, 61, "flash")                 \
+  TOPIC(kHelpDelivery, 62, "deliv")              \
+  TOPIC(kHelpGroupwareSend, 63, "send")          \
+  TOPIC(kHelpGroupwareGet, 64, "get")            \
+  TOPIC(kHelpQuickAdd, 65, "add")                \
+  /* What goes on without a window of its own */ \
+  TOPIC(kHelpCompletion, 70, "compl")            \
+  TOPIC(kHelpDocumentation, 71, "site")          \
+  TOPIC(kHelpDialogClasses, 72, "class")         \
+  TOPIC(kHelpVersions, 73, "versn")              \
   TOPIC(kHelpMake, 74, "make")
 
 #define KESTO_HELP_NUMBER(name, number, word) name = number,

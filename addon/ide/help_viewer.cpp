@@ -22,7 +22,8 @@ bool waitForViewer() {
 }  // namespace
 
 HelpViewer::HelpViewer(HWND owner, const char* path)
-    : requests_(std::make_shared<Requests>(owner, path, kIdle)) {}
+    // Not make_shared, which brings the library's exceptions along.
+    : requests_(new Requests{owner, path, kIdle}) {}
 
 HelpViewer::~HelpViewer() {
   if (thread_ != nullptr) {

@@ -37,6 +37,17 @@ struct LineMasks {
   std::uint64_t zero = 0;
 };
 
+// Of a mask that is not 0. Written out: where words have 32 bits std::countr_zero is a call,
+// of code that is newer than the i586.
+inline int lowestBit(std::uint64_t mask) {
+  if constexpr (sizeof(std::size_t) == sizeof mask) {
+    return std::countr_zero(mask);
+  }
+  const auto low = static_cast<std::uint32_t>(mask);
+  return low != 0 ? std::countr_zero(low)
+                  : 32 + std::countr_zero(static_cast<std::uint32_t>(mask >> 32));
+}
+
 // Both searches tell the same of the kLineBlock bytes at block: where it has CR, LF
 // and zero bytes, and which bytes of those in starts can begin a line flush left.
 
@@ -74,7 +85,7 @@ struct WordSearch {
   static std::uint64_t flushLeft(const char* block, std::uint64_t starts) {
     std::uint64_t found = 0;
     for (; starts != 0; starts &= starts - 1) {
-      const int byte = std::countr_zero(starts);
+      const int byte = lowestBit(starts);
       found |= std::uint64_t{beginsFlushLeft(block[byte])} << byte;
     }
     return found;
@@ -149,12 +160,11 @@ class FlushLeftLines {
       block_ += kLineBlock;
       enterBlock();
     }
-    start_ = std::countr_zero(starts_);
+    start_ = lowestBit(starts_);
     starts_ &= starts_ - 1;
     const std::uint64_t ends = ends_ >> start_;
     const char* const start = block_ + start_;
-    const char* const stop =
-        ends != 0 ? start + std::countr_zero(ends) : endBeyond(block_ + kLineBlock);
+    const char* const stop = ends != 0 ? start + lowestBit(ends) : endBeyond(block_ + kLineBlock);
     line = std::string_view(start, static_cast<std::size_t>(stop - start));
     return true;
   }
@@ -196,7 +206,7 @@ class FlushLeftLines {
     after_cr_ = found.cr >> (kLineBlock - 1);
     after_break_ = breaks >> (kLineBlock - 1);
     if (found.zero != 0) {
-      const int zero = std::countr_zero(found.zero);
+      const int zero = lowestBit(found.zero);
       end_ = block_ + zero;
       starts_ &= bitsBelow(zero);
     }
@@ -207,7 +217,7 @@ class FlushLeftLines {
     for (; end_ - at >= static_cast<std::ptrdiff_t>(kLineBlock); at += kLineBlock) {
       const LineMasks found = Search::masks(at);
       if (const std::uint64_t ends = found.cr | found.lf | found.zero; ends != 0) {
-        return at + std::countr_zero(ends);
+        return at + lowestBit(ends);
       }
     }
     while (at < end_ && !endsLine(*at)) {

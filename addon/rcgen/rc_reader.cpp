@@ -70,13 +70,16 @@ void RcReader::readDefines(std::string_view script) {
     const RcToken name = rcToken(line, kDefineName);
     define->name.assign(name.text);
     define->value.assign(rcToken(line, name.end).text);
-    defines_by_name_.emplace(define->name.view(), define);
+    const RcDefine*& first = defines_by_name_[define->name.view()];
+    if (first == nullptr) {
+      first = define;
+    }
   }
 }
 
 const RcDefine* RcReader::findDefine(std::string_view name) const {
-  const auto found = defines_by_name_.find(name);
-  return found != defines_by_name_.end() ? found->second : nullptr;
+  const RcDefine* const* const found = defines_by_name_.find(name);
+  return found != nullptr ? *found : nullptr;
 }
 
 void RcReader::readMenus(std::string_view script) {

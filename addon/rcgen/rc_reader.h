@@ -5,8 +5,8 @@
 #pragma once
 
 #include <string_view>
-#include <unordered_map>
 
+#include "addon/foundation/name_table.h"
 #include "addon/rcgen/dialog_emitter.h"
 #include "addon/rcgen/rc_tables.h"
 
@@ -31,7 +31,7 @@ class RcReader {
   const RcDefine* findDefine(std::string_view name) const;
 
   RcTable<RcDefine> defines_;
-  std::unordered_map<std::string_view, const RcDefine*> defines_by_name_;  // the first of each
+  NameTable<std::string_view, const RcDefine*> defines_by_name_;  // the first of each
   RcTable<RcMenuItem> menu_items_;
   RcDialog dialog_;
 };

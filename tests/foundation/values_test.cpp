@@ -5,11 +5,36 @@
 #include <vector>
 
 #include "addon/foundation/identifier.h"
+#include "addon/foundation/name_table.h"
 #include "addon/foundation/path.h"
 #include "addon/foundation/settings_values.h"
 #include "doctest.h"
 
 namespace kesto {
+
+TEST_CASE("values by names stay where they are, however many join") {
+  NameTable<std::string, int> table;
+  CHECK(table.find("") == nullptr);
+  int& first = table[""];
+  CHECK(first == 0);
+  for (int i = 1; i < 1000; ++i) {
+    table[std::to_string(i)] = i;
+  }
+  first = -1;
+  CHECK(table.size() == 1000);
+  CHECK(table.find("") == &first);
+  CHECK(&table[""] == &first);
+  for (int i = 1; i < 1000; ++i) {
+    const int* const found = table.find(std::to_string(i));
+    REQUIRE(found != nullptr);
+    CHECK(*found == i);
+  }
+  CHECK(table.find("1000") == nullptr);
+  table.clear();
+  CHECK(table.find("1") == nullptr);
+  CHECK(table["1"] == 0);
+  CHECK(table.size() == 1);
+}
 
 TEST_CASE("what an identifier may hold") {
   const std::string held = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";

@@ -66,12 +66,13 @@ std::string helpFile(const Files& files, std::size_t before_directory) {
          bytes(16 + body.size(), 4) + body;
 }
 
-// "a" is 0x11, "Top" 0x10959, "first_page" 0xF7AAAA50, which as a signed number is the first.
-// Their places are 7, 8 and 9, the first of them in a leaf of its own.
+// "a" is 0x11, "Top" 0x10959, "contents" 0x25F4558A. Their places are 7, 8 and 9, the first of
+// them in a leaf of its own.
 Files sampleFiles(const std::string& table, std::uint32_t date) {
-  const std::string first = bytes(0xF7AAAA50, 4) + bytes(9, 4);
-  const std::string rest = bytes(0x11, 4) + bytes(7, 4) + bytes(0x10959, 4) + bytes(8, 4);
-  const std::string index = bytes(0, 2) + bytes(1, 2) + bytes(0, 2) + bytes(0x11, 4) + bytes(1, 2);
+  const std::string first = bytes(0x11, 4) + bytes(7, 4);
+  const std::string rest = bytes(0x10959, 4) + bytes(8, 4) + bytes(0x25F4558A, 4) + bytes(9, 4);
+  const std::string index =
+      bytes(0, 2) + bytes(1, 2) + bytes(0, 2) + bytes(0x10959, 4) + bytes(1, 2);
   return {{"|FONT", "faces"},
           {"|CTXOMAP", table},
           {"|CONTEXT",
@@ -99,7 +100,7 @@ TEST_CASE("a page's word has the number that readers of help files give it") {
 }
 
 TEST_CASE("the table is filled and everything behind it is found again") {
-  const std::vector<HelpContext> contexts = {{1, "top"}, {12, "first_page"}, {70000, "A"}};
+  const std::vector<HelpContext> contexts = {{1, "top"}, {12, "contents"}, {70000, "A"}};
   const std::string table = bytes(3, 2) + bytes(1, 4) + bytes(8, 4) + bytes(12, 4) + bytes(9, 4) +
                             bytes(70000, 4) + bytes(7, 4);
   // The empty table, and one that is longer than the new one.
@@ -116,13 +117,17 @@ TEST_CASE("what is wrong is told, and the file stays as it was") {
   const std::string sample = helpFile(sampleFiles(bytes(0, 2), 5), 2);
   const auto refusal = [](std::string help, const std::vector<HelpContext>& contexts) {
     const std::string before = help;
-    const std::string wrong = fillHelpContexts(help, contexts);
+    std::string wrong = fillHelpContexts(help, contexts);
     CHECK((wrong.empty() || help == before));
     return wrong;
   };
   CHECK(refusal(sample, {{1, "top"}, {2, "nowhere"}}) == "no page has the word \"nowhere\"");
   CHECK(refusal(sample, {{2, "top"}, {2, "a"}}) == "the number of \"a\" does not ascend");
   CHECK(refusal(sample, {{0, "top"}}) == "the number of \"top\" does not ascend");
+  // A page that viewers seek at different places, whether it has a number or not.
+  std::string negative = sample;
+  negative.replace(negative.find(bytes(0x25F4558A, 4)), 4, bytes(0xF7AAAA50, 4));
+  CHECK(refusal(negative, {{1, "a"}}).rfind("not every viewer finds", 0) == 0);
   for (std::size_t size = 0; size < sample.size(); ++size) {
     CHECK_FALSE(refusal(sample.substr(0, size), {{1, "a"}}).empty());
   }

@@ -34,7 +34,8 @@ StepResult stepExpectHelp(StepTry& step) {
                                   : "it is \"" + shown.substr(0, shown.find('\r')) + "\""));
   }
   if (step.argCount() == 1) {
-    PostMessageA(viewer, WM_CLOSE, 0, 0);
+    // What is asked of it next must not meet one that is about to go.
+    SendMessageTimeoutA(viewer, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, kPatienceMs, nullptr);
   } else if (step.arg(1) != "keep") {
     return step.fail("only \"keep\" may follow the text");
   }
