@@ -34,7 +34,6 @@
 #include "addon/tasks/task_dialog.h"
 #include "addon/tasks/task_flash.h"
 #include "addon/tasks/task_list.h"
-#include "addon/tasks/task_settings.h"
 #include "addon/topbar/bar_menu.h"
 #include "addon/topbar/bar_window.h"
 #include "addon/topbar/recent_files.h"
@@ -53,7 +52,7 @@ FileSystemWin fileSystem;
 class AddonMenuFeatures : public MenuFeatures {
  public:
   bool groupwareActive() const override {
-    return groupwareSettings != nullptr && groupwareSettings->enabled();
+    return groupwareSettings != nullptr && groupwareSettings->enabled.value != 0;
   }
   bool htmlActive() const override { return htmlSettings != nullptr && htmlSettings->enabled(); }
   void quickAdd(unsigned node) override { showQuickAdd(node); }
@@ -62,8 +61,8 @@ AddonMenuFeatures menuFeatures;
 
 // Only where the end of a task is told to others, and not at once.
 std::string pendingNotifications(const std::string& project_file) {
-  const bool with_delivery = taskList != nullptr && taskList->settings.mail_on != 0 &&
-                             taskList->settings.key_is_delivery != 0;
+  const bool with_delivery = taskList != nullptr && taskList->settings.mail_on.value != 0 &&
+                             taskList->settings.key_is_delivery.value != 0;
   return with_delivery ? notificationPath(project_file).text() : "";
 }
 
@@ -84,7 +83,8 @@ void createTasks() {
   if (taskList == nullptr) {
     return;
   }
-  readTaskSettings(*taskList);
+  taskList->settings.section.read();
+  taskList->setTypes(taskList->settings.types.value);
   create(taskFlash, barWindow, fileSystem, *taskList);
   create(taskDialog, fileSystem, *taskList);
   // The clients may have been told of an open project before.
@@ -101,7 +101,8 @@ void destroyTasks() {
   destroy(taskDialog);
   destroy(taskFlash);
   if (taskList != nullptr) {
-    writeTaskSettings(*taskList);
+    taskList->settings.types.value = taskList->joinedTypes().text();
+    taskList->settings.section.write();
   }
   destroy(taskList);
 }

@@ -55,11 +55,7 @@ bool readDay(std::string_view text, TaskDate& date) {
 }
 
 // States by their words, "to do" without its blank as well; false for another word.
-template <class Flag>
-bool readStates(std::string_view list, Flag (&flags)[kTaskStates]) {
-  for (Flag& flag : flags) {
-    flag = 0;
-  }
+bool readStates(std::string_view list, int (&flags)[kTaskStates]) {
   while (!list.empty()) {
     const std::string_view word = list.substr(0, list.find(','));
     list.remove_prefix(std::min(list.size(), word.size() + 1));
@@ -148,10 +144,13 @@ class TaskWriter {
 // What the command line says of the list. False, and told, for what makes no sense.
 bool takeOptions(Session& session, const Request& request, TaskList& tasks, TaskDate& day) {
   Complaints& complaints = session.complaints();
-  const std::string states = request.list("states");
-  if (request.has("states") &&
-      (!readStates(states, tasks.show) || !readStates(states, tasks.settings.flash))) {
+  int states[kTaskStates] = {};
+  if (!readStates(request.list("states"), states)) {
     complaints.tell({}, "--states takes todo, coded, tested and ended, with \",\" between them");
+  }
+  for (int state = 0; request.has("states") && state < kTaskStates; ++state) {
+    tasks.show[state] = states[state];
+    tasks.settings.flash[state].value = states[state];
   }
   if (request.has("sort")) {
     tasks.order = 0;

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "addon/foundation/settings_store.h"
 #include "addon/ide/current_project.h"
 #include "addon/ide/environment.h"
 #include "addon/ide/find_window.h"
@@ -15,7 +14,6 @@ GeneralBehaviours* generalBehaviours = nullptr;
 
 namespace {
 
-constexpr char kSection[] = "General";
 constexpr char kDialogClass[] = "#32770";
 constexpr int kSecondsPerMinute = 60;
 // A point on the first tab of the message window.
@@ -64,9 +62,8 @@ void sendCommand(HWND window, int command) {
 }
 
 bool isOwnWindow(HWND window) {
-  return addonEnvironment != nullptr &&
-         reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(window, GWLP_HINSTANCE)) ==
-             addonEnvironment->instance;
+  return addonEnvironment != nullptr && reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(
+                                            window, GWLP_HINSTANCE)) == addonEnvironment->instance;
 }
 
 BOOL CALLBACK takeDialog(HWND window, LPARAM parameter) {
@@ -98,46 +95,26 @@ HWND findStatusBox() {
 }  // namespace
 
 GeneralBehaviours::GeneralBehaviours() {
-  SettingsStore& store = settings();
-  clear_on_make_ = store.readInteger(kSection, "ClearOnMake", 1);
-  close_on_make_ = store.readInteger(kSection, "CloseOnMake", 1);
-  close_project_on_make_ = store.readInteger(kSection, "CloseProjectOnMake", 1);
-  iconize_status_on_make_ = store.readInteger(kSection, "IconizeStatusOnMake", 1);
-  view_on_open_ = store.readInteger(kSection, "ViewOnOpen", 0);
-  timer_save_ = store.readInteger(kSection, "TimerSave", 1);
-  timer_count_ = store.readInteger(kSection, "TimerCount", 5);
-  unique_ = store.readInteger(kSection, "Unic", 1);
-  if (unique_ != 0) {
+  settings.section.read();
+  if (settings.unique.value != 0) {
     leaveToRunningIde();
   }
-}
-
-void GeneralBehaviours::writeOptions() const {
-  SettingsStore& store = settings();
-  store.writeInteger(kSection, "ClearOnMake", clear_on_make_);
-  store.writeInteger(kSection, "CloseOnMake", close_on_make_);
-  store.writeInteger(kSection, "CloseProjectOnMake", close_project_on_make_);
-  store.writeInteger(kSection, "IconizeStatusOnMake", iconize_status_on_make_);
-  store.writeInteger(kSection, "ViewOnOpen", view_on_open_);
-  store.writeInteger(kSection, "TimerSave", timer_save_);
-  store.writeInteger(kSection, "TimerCount", timer_count_);
-  store.writeInteger(kSection, "Unic", unique_);
 }
 
 void GeneralBehaviours::makeStarted() {
   active_before_ = activeDocument();
   // Clearing shows the window, whatever its size was.
   shown_ = placeOfDocument(documentWindow(ideapi::kMessageClass));
-  if (clear_on_make_ != 0) {
+  if (settings.clear_on_make.value != 0) {
     clearMessages();
   }
-  if (close_on_make_ != 0) {
+  if (settings.close_on_make.value != 0) {
     messages_ = closeDocument(ideapi::kMessageClass, shown_);
   }
-  if (close_project_on_make_ != 0) {
+  if (settings.close_project_on_make.value != 0) {
     project_ = closeDocument(ideapi::kProjectClass, {});
   }
-  if (iconize_status_on_make_ != 0) {
+  if (settings.iconize_status_on_make.value != 0) {
     minimiseStatusBox();
   }
   active_after_ = activeDocument();
@@ -167,7 +144,7 @@ void GeneralBehaviours::makeEnded() {
   const HWND frame = findFrame();
   const bool working = frame != nullptr && GetActiveWindow() == frame;
   reopenWindows();
-  if (iconize_status_on_make_ != 0 && status_box_ != nullptr) {
+  if (settings.iconize_status_on_make.value != 0 && status_box_ != nullptr) {
     SendMessageA(status_box_, WM_SYSCOMMAND, SC_RESTORE, 0);
     // The box shows how the make went; whoever is at work goes on where the caret is.
     if (working) {
@@ -185,10 +162,10 @@ void GeneralBehaviours::reopenWindows() {
     int command;
     const char* window_class;
     const DocumentPlace& place;
-  } windows[] = {{close_project_on_make_ != 0 && project_.window != nullptr,
+  } windows[] = {{settings.close_project_on_make.value != 0 && project_.window != nullptr,
                   ideapi::kCommandShowProject, ideapi::kProjectClass, project_},
-                 {close_on_make_ != 0 && messages_.window != nullptr, ideapi::kCommandShowMessages,
-                  ideapi::kMessageClass, messages_}};
+                 {settings.close_on_make.value != 0 && messages_.window != nullptr,
+                  ideapi::kCommandShowMessages, ideapi::kMessageClass, messages_}};
   const ActiveDocument now = activeDocument();
   const ActiveDocument before = now.window == active_after_.window ? active_before_ : now;
   ActiveDocument wanted = before;
@@ -207,25 +184,25 @@ void GeneralBehaviours::reopenWindows() {
   }
   activateDocument(wanted);
   const HWND messages = documentWindow(ideapi::kMessageClass);
-  if (clear_on_make_ != 0 && close_on_make_ == 0 && shown_.minimised() &&
-      messages == shown_.window) {
+  if (settings.clear_on_make.value != 0 && settings.close_on_make.value == 0 &&
+      shown_.minimised() && messages == shown_.window) {
     putDocument(messages, shown_);
   }
 }
 
 void GeneralBehaviours::viewOnOpen() const {
-  const HWND frame = view_on_open_ != 0 ? findFrame() : nullptr;
+  const HWND frame = settings.view_on_open.value != 0 ? findFrame() : nullptr;
   if (frame != nullptr && IsWindowEnabled(frame)) {
     PostMessageA(frame, WM_COMMAND, ideapi::kCommandShowProject, 0);
   }
 }
 
 void GeneralBehaviours::timerTick() {
-  if (timer_save_ == 0) {
+  if (settings.timer_save.value == 0) {
     return;
   }
   ++ticks_;
-  if (ticks_ / kSecondsPerMinute >= timer_count_) {
+  if (ticks_ / kSecondsPerMinute >= settings.timer_count.value) {
     ticks_ = 0;
     autoSave();
   }
@@ -247,7 +224,7 @@ void GeneralBehaviours::autoSave() {
   if (count <= 0 || generalBehaviours != this) {
     return;
   }
-  const std::string text = "Auto-save (" + std::to_string(timer_count_) +
+  const std::string text = "Auto-save (" + std::to_string(settings.timer_count.value) +
                            " min) : " + (names != nullptr ? names.get() : "") + ".";
   showStatus(text.c_str());
 }

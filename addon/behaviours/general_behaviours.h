@@ -6,12 +6,25 @@
 #include <windows.h>
 
 #include "addon/behaviours/document_place.h"
+#include "addon/foundation/setting.h"
 
 namespace kesto {
 
+struct GeneralSettings {
+  SettingSection section{"General"};
+  IntegerSetting clear_on_make{section, "ClearOnMake", 1};
+  IntegerSetting close_on_make{section, "CloseOnMake", 1};
+  IntegerSetting close_project_on_make{section, "CloseProjectOnMake", 1};
+  IntegerSetting iconize_status_on_make{section, "IconizeStatusOnMake", 1};
+  IntegerSetting view_on_open{section, "ViewOnOpen", 0};
+  IntegerSetting timer_save{section, "TimerSave", 1};
+  IntegerSetting timer_count{section, "TimerCount", 5};  // minutes
+  IntegerSetting unique{section, "Unic", 1};
+};
+
 class GeneralBehaviours {
  public:
-  // Reads section "General". When one instance is wanted and the IDE is running
+  // Reads the settings. When one instance is wanted and the IDE is running
   // already, brings that one forward and ends this process.
   GeneralBehaviours();
   GeneralBehaviours(const GeneralBehaviours&) = delete;
@@ -27,7 +40,7 @@ class GeneralBehaviours {
   // The period until the next saving starts anew.
   void resetAutoSave() { ticks_ = 0; }
 
-  void writeOptions() const;
+  GeneralSettings settings;
 
  private:
   void clearMessages() const;
@@ -42,14 +55,6 @@ class GeneralBehaviours {
   ActiveDocument active_after_;   // and after it
   int ticks_ = 0;
   HWND status_box_ = nullptr;  // minimised during a make
-  int clear_on_make_;
-  int close_on_make_;
-  int close_project_on_make_;
-  int iconize_status_on_make_;
-  int view_on_open_;
-  int timer_save_;
-  int timer_count_;  // minutes
-  int unique_;
 };
 
 extern GeneralBehaviours* generalBehaviours;

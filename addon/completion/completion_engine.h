@@ -4,43 +4,47 @@
 #pragma once
 
 #include "addon/completion/completion.h"
+#include "addon/foundation/key_code.h"
+#include "addon/foundation/setting.h"
 #include "addon/foundation/string.h"
-#include "addon/foundation/tableau.h"
 #include "addon/ide/completion_source.h"
 
 namespace kesto {
 
+struct CompletionSettings {
+  SettingSection section{"Completion"};
+  IntegerSetting enabled{section, "Enabled", 1};
+  IntegerSetting key_code{section, "KeyCode", 222};  // left of Enter on a US keyboard
+  TextSetting key_text{section, "TextCode", kNoKeyText};
+  ListSetting files{section, "Files"};  // of keywords
+};
+
 class CompletionEngine : public CompletionSource {
  public:
-  // Reads section "Completion" and loads the files of its list.
+  // Reads the settings and loads the keyword files.
   CompletionEngine();
-  // Writes it back.
+  // Writes them back.
   ~CompletionEngine() override;
   CompletionEngine(const CompletionEngine&) = delete;
   CompletionEngine& operator=(const CompletionEngine&) = delete;
 
   CompletionStep strike(std::string_view word) override { return completion_.strike(word); }
 
-  bool enabled() const { return enabled_ != 0; }
-  unsigned keyCode() const { return static_cast<unsigned>(key_code_); }
-  const Tableau<String>& keywordFiles() const { return keyword_files_; }
-  // Appends a file to the list, unless it is there, and loads them all anew.
-  void addKeywordFile(const char* path);
-
- private:
+  CompletionSettings settings;
+  bool enabled() const { return settings.enabled.value != 0; }
+  unsigned keyCode() const { return static_cast<unsigned>(settings.key_code.value); }
+  // Loads the files of the list anew.
   void load();
 
-  int enabled_;
-  int key_code_;
-  String key_text_;
-  Tableau<String> keyword_files_;
+ private:
   Completion completion_;
 };
 
 extern CompletionEngine* completionEngine;
 
-// Makes a keyword file of a source file and adds it to the list. What stands in the way is
-// told in a box, and so is a file that would be replaced, both over the owner.
-void addExtractedKeywords(void* owner, const char* source);
+// Makes a keyword file of a source file and returns its path, empty when there is none now.
+// What stands in the way is told in a box, and so is a file that would be replaced, both
+// over the owner.
+String extractKeywordsOf(void* owner, const char* source);
 
 }  // namespace kesto

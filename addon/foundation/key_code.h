@@ -7,6 +7,9 @@ inline constexpr unsigned kKeyCodeShift = 1000;
 inline constexpr unsigned kKeyCodeAlt = 2000;
 inline constexpr unsigned kKeyCodeCtrl = 4000;
 
+// What is read in place of a key's name where there is none.
+inline constexpr char kNoKeyText[] = "???";
+
 // The virtual key of a key code, or of a virtual key.
 constexpr unsigned virtualKeyOf(unsigned code) {
   return code % 1000;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace kesto {
 
@@ -38,7 +39,7 @@ class Setting {
   void write() const;
 
  protected:
-  enum class Kind { kInteger, kText };
+  enum class Kind { kInteger, kText, kList };
   Setting(SettingSection& section, const char* name, Kind kind)
       : section_(section.name()), name_(name), kind_(kind) {
     *section.end_ = this;
@@ -76,6 +77,13 @@ struct TextSetting : Setting {
   const char* const default_value;
   const std::size_t limit;  // characters that are read; what is longer is cut
   std::string value;
+};
+
+// Entries that are not there are passed over.
+struct ListSetting : Setting {
+  ListSetting(SettingSection& section, const char* name) : Setting(section, name, Kind::kList) {}
+
+  std::vector<std::string> value;
 };
 
 }  // namespace kesto

@@ -11,6 +11,9 @@
 
 namespace kesto {
 
+// What an entry of a list reads as that is not there.
+inline constexpr char kMissingEntry[] = "not found";
+
 class SettingsStore {
  public:
   // Bytes of a value that can be read, its terminator included; a longer one

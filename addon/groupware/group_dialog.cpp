@@ -168,7 +168,7 @@ void GroupDialog::fill() {
   server_ = serverState(files, roots_.server);
   SearchWatch watch("Groupware: listing");
   // A copy: the session may end while they are looked for.
-  const std::string filters(groupwareSettings->filters().view());
+  const std::string filters = groupwareSettings->filters.value;
   exchange_.fill(files, roots_, filters, &watch);
   if (groupwareProject == nullptr) {
     return;

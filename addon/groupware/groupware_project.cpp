@@ -35,13 +35,13 @@ void GroupwareProject::projectChanged() {
 void GroupwareProject::openSend(HWND owner) {
   SendExchange exchange;
   open(
-      exchange, [] { return groupwareSettings->mailOnSend(); }, owner);
+      exchange, [] { return groupwareSettings->mail_on_send.value != 0; }, owner);
 }
 
 void GroupwareProject::openGet(HWND owner) {
   GetExchange exchange;
   open(
-      exchange, [] { return groupwareSettings->mailOnGet(); }, owner);
+      exchange, [] { return groupwareSettings->mail_on_get.value != 0; }, owner);
 }
 
 void GroupwareProject::open(GroupExchange& exchange, bool (*mails)(), HWND owner) {

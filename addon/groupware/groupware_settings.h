@@ -3,7 +3,8 @@
 // user-interface thread only.
 #pragma once
 
-#include "addon/foundation/string.h"
+#include "addon/foundation/setting.h"
+#include "addon/groupware/group_lists.h"
 
 namespace kesto {
 
@@ -16,17 +17,12 @@ class GroupwareSettings {
   GroupwareSettings(const GroupwareSettings&) = delete;
   GroupwareSettings& operator=(const GroupwareSettings&) = delete;
 
-  bool enabled() const { return enabled_ != 0; }
-  bool mailOnGet() const { return mail_on_get_ != 0; }
-  bool mailOnSend() const { return mail_on_send_ != 0; }
+  SettingSection section{"Groupware"};
+  IntegerSetting enabled{section, "Enabled", 1};
+  IntegerSetting mail_on_get{section, "MailOnGet", 0};
+  IntegerSetting mail_on_send{section, "MailOnSend", 1};
   // Masks of the files that are exchanged, with ";" between them.
-  const String& filters() const { return filters_; }
-
- private:
-  int enabled_;
-  int mail_on_get_;
-  int mail_on_send_;
-  String filters_;
+  TextSetting filters{section, "Filters", kExchangedFiles};
 };
 
 // The lifecycle fills and clears the slot; null outside a session.

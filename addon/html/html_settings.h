@@ -1,11 +1,11 @@
 // The settings of the HTML documentation: those of the user, in the settings store, and
-// those of the open project, which go before them. One object, created and destroyed by
-// the lifecycle; user-interface thread only.
+// those of the open project, which go before them. What may be edited is whichever counts. One
+// object, created and destroyed by the lifecycle; user-interface thread only.
 #pragma once
 
 #include <string>
 
-#include "addon/foundation/string.h"
+#include "addon/foundation/setting.h"
 
 namespace kesto {
 
@@ -24,10 +24,10 @@ class HtmlSettings {
   // Masks of the files to read, with ";" between them.
   std::string filters() const;
 
- private:
-  int enabled_;
-  int automatic_;
-  String filters_;
+  SettingSection section{"HTML"};
+  IntegerSetting own_enabled{section, "Enabled", 1};
+  IntegerSetting own_automatic{section, "Auto", 1};
+  TextSetting own_filters{section, "Filters", "*.cpp;*.cc;*.c;*.h;*.rh"};
 };
 
 extern HtmlSettings* htmlSettings;

@@ -5,10 +5,10 @@
 
 namespace kesto {
 
-struct HtmlProjectOptions {
-  IntegerOption enabled{"Kesto_HTMLEN", 1};
-  IntegerOption automatic{"Kesto_HTMLAU", 0};
-  TextOption filters{"Kesto_HTMLFI", kTextMarker, "*.cpp;*.h"};
+struct HtmlProjectOptions : ProjectOptionGroup {
+  IntegerOption enabled{*this, "Kesto_HTMLEN", 1};
+  IntegerOption automatic{*this, "Kesto_HTMLAU", 0};
+  TextOption filters{*this, "Kesto_HTMLFI", kTextMarker, "*.cpp;*.h"};
 };
 
 extern HtmlProjectOptions htmlProjectOptions;

@@ -22,7 +22,6 @@ bool waitForViewer() {
 }  // namespace
 
 HelpViewer::HelpViewer(HWND owner, const char* path)
-    // Not make_shared, which brings the library's exceptions along.
     : requests_(new Requests{owner, path, kIdle}) {}
 
 HelpViewer::~HelpViewer() {

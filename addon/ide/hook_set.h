@@ -25,6 +25,9 @@ inline constexpr int kSearchKeyCount = 4;
 // Message to the window that captures a key: virtual key and the key message's lParam.
 inline constexpr UINT kCapturedKeyMessage = WM_USER + 1;
 
+// The key code of a key message, with what is held down beside the key.
+unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam);
+
 // What the hooks ask of the features above. Every answer may change between two calls.
 class HookHost {
  public:
@@ -71,7 +74,8 @@ class HookSet {
   HookSet(const HookSet&) = delete;
   HookSet& operator=(const HookSet&) = delete;
 
-  // While a window captures, every key goes to it and none to the IDE.
+  // While a window captures, every key goes to it and none to the IDE; of the last one
+  // neither the repeats nor the release do so afterwards.
   void startKeyCapture(HWND window) { key_capture_ = window; }
   void stopKeyCapture() { key_capture_ = nullptr; }
 
@@ -101,6 +105,7 @@ class HookSet {
   bool onKey(UINT virtual_key, LPARAM lParam);
   bool onSwallowedEscape(LPARAM lParam);
   bool onCapturedKey(UINT virtual_key, LPARAM lParam);
+  bool onHeldKey(UINT virtual_key, LPARAM lParam);
   bool onSearchKey(unsigned code);
   void onCommand(HWND window, WPARAM wParam);
   void post(int command, LPARAM lParam = 0);
@@ -114,6 +119,7 @@ class HookSet {
   HHOOK keyboard_ = nullptr;
   HWND bar_;
   HWND key_capture_ = nullptr;
+  UINT held_key_ = 0;  // the one captured last, until it comes up
   EditorTarget target_;
   bool suspended_ = false;
   bool posting_paint_ = false;

@@ -53,8 +53,33 @@ void writeText(ProjectOptionStore& store, const char* name, char marker, const s
   store.set(name, stored.c_str(), static_cast<int>(strlen(stored.c_str())) + 1);
 }
 
+ProjectOption::ProjectOption(ProjectOptionGroup* group, const char* its_name) : name(its_name) {
+  if (group != nullptr) {
+    *group->end_ = this;
+    group->end_ = &next_;
+  }
+}
+
+void ProjectOptionGroup::read(ProjectOptionStore& store) {
+  for (ProjectOption* option = first_; option != nullptr; option = option->next_) {
+    option->read(store);
+  }
+}
+
+void ProjectOptionGroup::write(ProjectOptionStore& store) const {
+  for (const ProjectOption* option = first_; option != nullptr; option = option->next_) {
+    option->write(store);
+  }
+}
+
+void ProjectOptionGroup::reset() {
+  for (ProjectOption* option = first_; option != nullptr; option = option->next_) {
+    option->reset();
+  }
+}
+
 void IntegerOption::read(ProjectOptionStore& store) {
-  value = default_value;
+  reset();
   readInteger(store, name, value);
 }
 
@@ -63,7 +88,7 @@ void IntegerOption::write(ProjectOptionStore& store) const {
 }
 
 void TextOption::read(ProjectOptionStore& store) {
-  value = default_value;
+  reset();
   readText(store, name, value);
 }
 

@@ -17,11 +17,6 @@ constexpr int kActiveTitleSize = 300;
 // Milliseconds after which an Escape that has not come was never in the queue.
 constexpr DWORD kSwallowTime = 5000;
 
-unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
-  return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
-                 GetKeyState(VK_SHIFT) < 0);
-}
-
 bool hasEditorText() {
   const HWND focus = GetFocus();
   return focus != nullptr && (isWindowOfClass(focus, ideapi::kEditorTextClass) ||
@@ -49,6 +44,11 @@ bool keysAreTaken() {
 
 }  // namespace
 
+unsigned pressedKeyCode(UINT virtual_key, LPARAM lParam) {
+  return keyCode(virtual_key, GetKeyState(VK_CONTROL) < 0, (lParam & kAltHeld) != 0,
+                 GetKeyState(VK_SHIFT) < 0);
+}
+
 void HookSet::swallowEscape() {
   swallowing_escape_ = true;
   swallowing_since_ = GetTickCount();
@@ -66,6 +66,9 @@ bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
   if (key_capture_ != nullptr) {
     return onCapturedKey(virtual_key, lParam);
   }
+  if (onHeldKey(virtual_key, lParam)) {
+    return true;
+  }
   if ((lParam & (kKeyUp | kKeyWasDown)) != 0) {
     return false;
   }
@@ -80,10 +83,23 @@ bool HookSet::onKey(UINT virtual_key, LPARAM lParam) {
 
 bool HookSet::onCapturedKey(UINT virtual_key, LPARAM lParam) {
   const bool modifier = virtual_key >= VK_SHIFT && virtual_key <= VK_MENU;
-  if ((lParam & kKeyUp) == 0 && !modifier) {
+  // What it does with the key may end the capture.
+  held_key_ = (lParam & kKeyUp) == 0 && !modifier ? virtual_key : 0;
+  if (held_key_ != 0) {
     SendMessageA(key_capture_, kCapturedKeyMessage, virtual_key, lParam);
   }
   return true;
+}
+
+bool HookSet::onHeldKey(UINT virtual_key, LPARAM lParam) {
+  if (virtual_key != held_key_) {
+    return false;
+  }
+  const bool held = (lParam & (kKeyUp | kKeyWasDown)) != 0;
+  if (!held || (lParam & kKeyUp) != 0) {
+    held_key_ = 0;
+  }
+  return held;
 }
 
 bool HookSet::onSearchKey(unsigned code) {

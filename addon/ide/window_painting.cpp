@@ -1,6 +1,8 @@
 #include "addon/ide/window_painting.h"
 
 #include "addon/ide/access.h"
+#include "addon/ide/find_window.h"
+#include "ideapi/ide_identifiers.h"
 
 namespace kesto {
 namespace {
@@ -14,7 +16,22 @@ bool hasSession() {
   return static_cast<bool>(acquireIde());
 }
 
+BOOL CALLBACK repaintFrame(HWND window, LPARAM) {
+  if (isWindowOfClass(window, ideapi::kEditorClass)) {
+    SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+  }
+  return TRUE;
+}
+
 }  // namespace
+
+void repaintEditorFrames() {
+  if (const HWND client = findMdiClient()) {
+    EnumChildWindows(client, repaintFrame, 0);
+  }
+}
 
 bool paintWindows() {
   MSG message;

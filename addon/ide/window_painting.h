@@ -1,4 +1,4 @@
-// Painting while something holds the user-interface thread.
+// Painting while something holds the user-interface thread, and painting anew.
 #pragma once
 
 #include <windows.h>
@@ -21,5 +21,8 @@ class PaintingWatch {
   DWORD looked_ = 0;  // milliseconds of the system's clock
   bool painted_ = false;
 };
+
+// Has the frames of all editors drawn anew, with or without their buttons.
+void repaintEditorFrames();
 
 }  // namespace kesto

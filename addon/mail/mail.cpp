@@ -12,7 +12,6 @@
 #include "addon/foundation/file_system_win.h"
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/safe_write.h"
-#include "addon/foundation/settings_store.h"
 #include "addon/foundation/text_file.h"
 #include "addon/mail/included_text.h"
 
@@ -21,8 +20,6 @@ namespace kesto {
 Mail* mail = nullptr;
 
 namespace {
-
-constexpr char kSection[] = "Mail";
 
 struct FreeModule {
   void operator()(HMODULE module) const { FreeLibrary(module); }
@@ -129,11 +126,11 @@ class Message {
 }  // namespace
 
 Mail::Mail() {
-  control_ = settings().readInteger(kSection, "Control", 0);
+  section.read();
 }
 
 Mail::~Mail() {
-  settings().writeInteger(kSection, "Control", control_);
+  section.write();
 }
 
 bool Mail::send(HWND owner, const char* subject, const char* body, const char* include_file) {
@@ -151,7 +148,7 @@ bool Mail::send(HWND owner, const char* subject, const char* body, const char* i
   }
   const IncludedFile included(include_file);
   Message message(recipients_, subject, body, included);
-  const FLAGS flags = MAPI_LOGON_UI | (control() ? MAPI_DIALOG : 0);
+  const FLAGS flags = MAPI_LOGON_UI | (control.value != 0 ? MAPI_DIALOG : 0);
   const bool sent = message.sendBy(send_mail, owner, flags);
   // From here on the object itself may be gone.
   if (sent) {

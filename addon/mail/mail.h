@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include "addon/foundation/setting.h"
 #include "addon/foundation/string.h"
 #include "addon/foundation/tableau.h"
 
@@ -25,9 +26,9 @@ class Mail {
   // What the options page has copied, to be pasted into another project's list.
   Ensemble<String>& copiedRecipients() { return copied_recipients_; }
 
-  // Whether MAPI's own dialog comes before each sending.
-  bool control() const { return control_ != 0; }
-  void setControl(bool control) { control_ = control ? 1 : 0; }
+  SettingSection section{"Mail"};
+  // Not 0: MAPI's own dialog comes before each sending.
+  IntegerSetting control{section, "Control", 0};
 
   // Whether the mail was sent. owner is the parent of MAPI's dialogs, or null. The text of
   // include_file, unless that is null or cannot be read, follows the body, and leaves the
@@ -38,7 +39,6 @@ class Mail {
  private:
   Ensemble<String> copied_recipients_;
   Ensemble<String> recipients_;
-  int control_;
 };
 
 // The lifecycle fills and clears the slot; null outside a session.

@@ -1,6 +1,5 @@
 #include "addon/navigation/editor_navigation.h"
 
-#include "addon/foundation/settings_store.h"
 #include "addon/ide/file_text.h"
 #include "addon/ide/status_line.h"
 #include "addon/navigation/menu_plan.h"
@@ -11,20 +10,9 @@ namespace kesto {
 
 EditorNavigation* editorNavigation = nullptr;
 
-namespace {
-
-constexpr char kSection[] = "Menus";
-
-}  // namespace
-
 EditorNavigation::EditorNavigation(HWND owner, bool new_shell)
-    : owner_(owner),
-      enabled_(0),
-      size_(0),
-      sorted_(settings().readInteger(kSection, "Sorted", 1)),
-      geometry_(buttonGeometry(new_shell)) {
-  size_ = settings().readInteger(kSection, "Size", 50);
-  enabled_ = settings().readInteger(kSection, "Enabled", 1);
+    : owner_(owner), geometry_(buttonGeometry(new_shell)) {
+  settings.section.read();
   bitmap_names_[kFunctionsButton] = "bmpFUNC";
   bitmap_names_[kIncludesButton] = "bmpINC";
   bitmap_names_[kQuickFindButton] = "bmpQKFIND";
@@ -34,14 +22,12 @@ EditorNavigation::EditorNavigation(HWND owner, bool new_shell)
 }
 
 EditorNavigation::~EditorNavigation() {
-  settings().writeInteger(kSection, "Sorted", sorted_);
-  settings().writeInteger(kSection, "Size", size_);
-  settings().writeInteger(kSection, "Enabled", enabled_);
+  settings.section.write();
 }
 
 HMENU EditorNavigation::scanFunctions(const char* file) {
   kesto::scanFunctions(readFileText(file).view(), functions_);
-  if (sorted_ != 0) {
+  if (settings.sorted.value != 0) {
     sortFunctions(functions_);
   }
   if (functions_.count() == 0) {
@@ -49,7 +35,7 @@ HMENU EditorNavigation::scanFunctions(const char* file) {
     showStatus("No functions or methods detected !");
     return nullptr;
   }
-  return createPopup(planFunctionsMenu(functions_, size_));
+  return createPopup(planFunctionsMenu(functions_, settings.size.value));
 }
 
 HMENU EditorNavigation::scanIncludes(const char* file) {

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include "addon/foundation/setting.h"
 #include "addon/foundation/string.h"
 #include "addon/foundation/tableau.h"
 #include "addon/navigation/fnc.h"
@@ -11,16 +12,24 @@
 
 namespace kesto {
 
+struct MenuSettings {
+  SettingSection section{"Menus"};
+  IntegerSetting sorted{section, "Sorted", 1};
+  IntegerSetting size{section, "Size", 50};  // items per column
+  IntegerSetting enabled{section, "Enabled", 1};
+};
+
 class EditorNavigation {
  public:
-  // Reads section "Menus". new_shell chooses between the two looks.
+  // Reads the settings. new_shell chooses between the two looks.
   EditorNavigation(HWND owner, bool new_shell);
-  // Writes it back.
+  // Writes them back.
   ~EditorNavigation();
   EditorNavigation(const EditorNavigation&) = delete;
   EditorNavigation& operator=(const EditorNavigation&) = delete;
 
-  bool enabled() const { return enabled_ != 0; }
+  MenuSettings settings;
+  bool enabled() const { return settings.enabled.value != 0; }
 
   // Each reads the file as the IDE holds it, refills its list and returns the
   // popup of it, which the caller destroys. Null, and the reason on the status
@@ -41,9 +50,6 @@ class EditorNavigation {
   int buttonsLeftOf(HWND editor, const RECT& frame) const;
 
   HWND owner_;
-  int enabled_;
-  int size_;  // items per column
-  int sorted_;
   Tableau<Fnc> functions_;
   const ButtonGeometry& geometry_;
   String bitmap_names_[kTitleButtons];

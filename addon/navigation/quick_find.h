@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "addon/foundation/key_code.h"
 #include "addon/foundation/path.h"
+#include "addon/foundation/setting.h"
 #include "addon/foundation/string.h"
 #include "addon/foundation/tableau.h"
 #include "addon/navigation/cross_reference.h"
@@ -20,20 +22,42 @@
 
 namespace kesto {
 
+// Those of the keys in the order of Search.
+struct QuickFindSettings {
+  SettingSection section{"QuickFind"};
+  TextSetting function_mask{section, "FunctionMask", kSourceMasks};
+  TextSetting include_mask{section, "IncludeMask", kHeaderMasks};
+  TextSetting key_texts[kSearchCount] = {{section, "TxtFunction", kNoKeyText},
+                                         {section, "TxtMethod", kNoKeyText},
+                                         {section, "TxtClass", kNoKeyText},
+                                         {section, "TxtCross", kNoKeyText}};
+  IntegerSetting recurse{section, "Recurse", 1};
+  IntegerSetting left_side{section, "LeftSide", 1};
+  IntegerSetting keys[kSearchCount] = {{section, "KeyFunction", 0},
+                                       {section, "KeyMethod", 0},
+                                       {section, "KeyClass", 0},
+                                       {section, "KeyCross", 0}};
+};
+
 class QuickFind {
  public:
-  // Reads section "QuickFind". The owner is the bar window.
+  // Reads the settings. The owner is the bar window.
   explicit QuickFind(HWND owner);
-  // Writes it back.
+  // Writes them back.
   ~QuickFind();
   QuickFind(const QuickFind&) = delete;
   QuickFind& operator=(const QuickFind&) = delete;
 
-  bool leftSide() const { return left_side_ != 0; }
+  QuickFindSettings settings;
+  bool leftSide() const { return settings.left_side.value != 0; }
   // The shortcut's key code, 0 for none.
-  unsigned short key(Search search) const { return keys_[static_cast<int>(search)]; }
+  unsigned short key(Search search) const {
+    return static_cast<unsigned short>(settings.keys[static_cast<int>(search)].value);
+  }
   // The shortcut as the user reads it.
-  const String& keyText(Search search) const { return key_texts_[static_cast<int>(search)]; }
+  const std::string& keyText(Search search) const {
+    return settings.key_texts[static_cast<int>(search)].value;
+  }
 
   // Asks for a name, searches it and shows what was found. A search that comes while
   // another still asks does nothing.
@@ -58,12 +82,6 @@ class QuickFind {
   void postFound(UINT message, const char* path, int line);
 
   HWND owner_;
-  String function_mask_;
-  String include_mask_;
-  int recurse_;
-  int left_side_;
-  unsigned short keys_[kSearchCount];
-  String key_texts_[kSearchCount];
   Tableau<QuickResu> method_results_;
   Tableau<QuickResu> cross_results_;
   CrossReferenceMessages messages_;

@@ -106,7 +106,7 @@ std::vector<SearchStep> QuickFind::plan(Search search) const {
   }
   std::vector<SearchStep> steps =
       planSearch(search, {directory, open, source_path.view(), include_path.view(),
-                          function_mask_.view(), include_mask_.view()});
+                          settings.function_mask.value, settings.include_mask.value});
   for (SearchStep& step : steps) {
     // What is found below it is compared with the titles of editors.
     step.directory = fullPath(joinPath(step.directory, "").view());
@@ -123,8 +123,8 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     showStatus(text.c_str());
     SearchWatch watch(text);
     IdeSources sources;
-    found = findFirst(sources.files(), plan(search), recurse_ != 0, NameMatcher(search, name), hit,
-                      &watch);
+    found = findFirst(sources.files(), plan(search), settings.recurse.value != 0,
+                      NameMatcher(search, name), hit, &watch);
     if (watch.stopped()) {
       showStatus((text + " stopped").c_str());
       return true;
@@ -149,8 +149,8 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
   showStatus(text.c_str());
   SearchWatch watch(text);
   IdeSources sources;
-  collectHits(sources.files(), plan(search), recurse_ != 0, NameMatcher(search, name), hits,
-              &watch);
+  collectHits(sources.files(), plan(search), settings.recurse.value != 0, NameMatcher(search, name),
+              hits, &watch);
   if (!watch.stopped()) {
     watch.finished(text.c_str());
   } else if (quickFind == this) {

@@ -39,7 +39,7 @@ void appendSearch(HMENU popup, Search search, const char* text) {
   std::string item(text);
   if (quickFind != nullptr && quickFind->key(search) != 0) {
     item += '\t';
-    item += menuText(quickFind->keyText(search).view());
+    item += menuText(quickFind->keyText(search));
   }
   AppendMenuA(popup, MF_STRING, kCommandFirstSearchKey + static_cast<UINT>(search), item.c_str());
 }

@@ -3,7 +3,17 @@
 #include <new>
 
 #include "addon/ide/koptions.h"
+#include "addon/pages/completion_page.h"
+#include "addon/pages/delivery_page.h"
+#include "addon/pages/editor_page.h"
 #include "addon/pages/first_page.h"
+#include "addon/pages/general_page.h"
+#include "addon/pages/groupware_page.h"
+#include "addon/pages/html_page.h"
+#include "addon/pages/kesto_windows_page.h"
+#include "addon/pages/mail_page.h"
+#include "addon/pages/task_page.h"
+#include "addon/pages/top_menu_page.h"
 
 namespace kesto {
 
@@ -28,6 +38,16 @@ void IMpdChapterAddon::add() {
 IMpdChapterAddon::IMpdChapterAddon() {
   pages_.setOwns(false);
   add<FirstPage>();
+  add<GeneralPage>();
+  add<EditorPage>();
+  add<TopMenuPage>();
+  add<CompletionPage>();
+  add<DeliveryPage>();
+  add<MailPage>();
+  add<TaskPage>();
+  add<GroupwarePage>();
+  add<HTMLPage>();
+  add<KestoWindowsPage>();
 }
 
 IMpdChapterAddon::~IMpdChapterAddon() {

@@ -5,9 +5,9 @@
 
 namespace kesto {
 
-struct RcgenProjectOptions {
-  IntegerOption dialog_classes{"Kesto_EWindows", 0};  // generate them at Make
-  IntegerOption version_stamping{"Kesto_GenRC", 0};   // stamp versions at Make
+struct RcgenProjectOptions : ProjectOptionGroup {
+  IntegerOption dialog_classes{*this, "Kesto_EWindows", 0};  // generate them at Make
+  IntegerOption version_stamping{*this, "Kesto_GenRC", 0};   // stamp versions at Make
 };
 
 extern RcgenProjectOptions rcgenProjectOptions;

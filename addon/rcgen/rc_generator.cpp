@@ -34,7 +34,7 @@ class StatusNotices : public GeneratorNotices {
 }  // namespace
 
 RcGenerator::RcGenerator() {
-  rcgenProjectOptions = RcgenProjectOptions();
+  rcgenProjectOptions.reset();
 }
 
 void RcGenerator::run(std::string_view project_directory) {

@@ -180,7 +180,7 @@ void TaskDialog::apply(HWND dialog) {
     return;
   }
   const bool had_ended = task->state == kEnded;
-  if (had_ended && tasks_.settings.ended_read_only != 0) {
+  if (had_ended && tasks_.settings.ended_read_only.value != 0) {
     const unsigned opening = opening_;
     showMessage(dialog, "You cannot modify an ended task (read-only) !", kWarningTitle,
                 kMessageIconExclamation);
@@ -191,12 +191,13 @@ void TaskDialog::apply(HWND dialog) {
   }
   takeForm(*task, shown_, fieldsOf(dialog), {isDayFirst(dates_), localNow()});
   refreshAndKeep(dialog, task);
-  if (had_ended || task->state != kEnded || tasks_.settings.mail_on == 0 || task->is_public == 0) {
+  if (had_ended || task->state != kEnded || tasks_.settings.mail_on.value == 0 ||
+      task->is_public == 0) {
     return;
   }
   // The list may be another when a mail or a box is done with.
   const Task ended(*task);
-  if (tasks_.settings.key_is_delivery != 0) {
+  if (tasks_.settings.key_is_delivery.value != 0) {
     keepForDelivery(files_, dialog, ended);
   } else {
     mailEnd(dialog, ended);

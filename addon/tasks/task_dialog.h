@@ -22,10 +22,13 @@ class TaskDialog final : public ModelessDialog {
 
   // Shows it over its owner, or brings the one that is open to the top.
   void open(HWND owner);
+  // The types, or what may be done with an ended task, are others now.
+  void settingsChanged();
 
  private:
   INT_PTR handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) override;
   void fill(HWND dialog);
+  void offerTypes(HWND dialog) const;
   void command(HWND dialog, int id, int notification);
   void changeOrder(HWND dialog, int id);
 

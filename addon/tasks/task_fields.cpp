@@ -91,12 +91,28 @@ void TaskDialog::fill(HWND dialog) {
     addTo(dialog, TASKS_ORDER, order);
   }
   SendDlgItemMessageA(dialog, TASKS_ORDER, CB_SETCURSEL, static_cast<WPARAM>(tasks_.order), 0);
-  for (int i = 0; i < tasks_.types.count(); ++i) {
-    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
-  }
+  offerTypes(dialog);
   columns_.setUp(dialog, dates_);
   refresh(dialog, std::min(0, tasks_.view().count() - 1), true);
   modified_ = false;
+}
+
+void TaskDialog::offerTypes(HWND dialog) const {
+  SendDlgItemMessageA(dialog, TASKS_TYPE, CB_RESETCONTENT, 0, 0);
+  for (int i = 0; i < tasks_.types.count(); ++i) {
+    addTo(dialog, TASKS_TYPE, tasks_.types[i]->text());
+  }
+}
+
+void TaskDialog::settingsChanged() {
+  if (!isOpen()) {
+    return;
+  }
+  const std::string type = textOf(window(), TASKS_TYPE);
+  offerTypes(window());
+  setText(window(), TASKS_TYPE, type);
+  const HWND list = GetDlgItem(window(), TASKS_LIST);
+  enable(window(), static_cast<int>(SendMessageA(list, LB_GETCURSEL, 0, 0)), true);
 }
 
 void TaskDialog::showCounts(HWND dialog) const {
@@ -177,7 +193,7 @@ TaskForm fieldsOf(HWND dialog) {
 void TaskDialog::enable(HWND dialog, int row, bool force) {
   const Task* task = taskAt(row);
   const bool read_only =
-      tasks_.settings.ended_read_only != 0 && task != nullptr && task->state == kEnded;
+      tasks_.settings.ended_read_only.value != 0 && task != nullptr && task->state == kEnded;
   const bool enabled = tasks_.view().count() > 0 && !read_only;
   if (force || enabled != enabled_) {
     enabled_ = enabled;

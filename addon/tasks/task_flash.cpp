@@ -19,7 +19,7 @@ TaskFlash::TaskFlash(HWND bar, FileSystem& files, TaskList& tasks)
 
 void TaskFlash::postWhenDue() {
   const String marker = flashMarkerPath(projectFile());
-  if (tasks_.settings.auto_flash != 0 &&
+  if (tasks_.settings.auto_flash.value != 0 &&
       !wasFlashShown(files_, marker, SystemDateFormat().shortDate(utcNow()))) {
     PostMessageA(bar_, WM_COMMAND, kCommandFlash, 0);
   }

@@ -144,16 +144,16 @@ bool TaskList::keepUnread(String& kept) {
 
 String TaskList::joinedTypes() const {
   std::string joined;
-  for (int i = 0; i < types.count() && joined.size() <= kTypesLimit; ++i) {
+  for (int i = 0; i < types.count() && joined.size() <= TaskSettings::kTypesLimit; ++i) {
     joined += i > 0 ? ";" : "";
     joined += types[i]->view();
   }
-  return String(std::string_view(joined).substr(0, kTypesLimit));
+  return String(std::string_view(joined).substr(0, TaskSettings::kTypesLimit));
 }
 
 void TaskList::setTypes(std::string_view joined) {
   types.clear();
-  joined = joined.substr(0, kTypesLimit);
+  joined = joined.substr(0, TaskSettings::kTypesLimit);
   while (!joined.empty()) {
     const std::string_view piece = joined.substr(0, joined.find(';'));
     types.append(new String(piece));

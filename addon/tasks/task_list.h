@@ -11,23 +11,12 @@
 #include "addon/foundation/tableau.h"
 #include "addon/tasks/task.h"
 #include "addon/tasks/task_order.h"
+#include "addon/tasks/task_settings.h"
 
 namespace kesto {
 
-// Section "Tasks" of the settings, but for the types.
-struct TaskSettings {
-  int flash[kTaskStates] = {1, 1, 1, 0};  // whether the flash shows the tasks of a state
-  int mail_on = 1;                        // the end of a public task is told to others
-  int key_is_delivery = 1;                // 1: with the next delivery, 0: at once
-  int ended_read_only = 1;
-  int auto_flash = 1;
-};
-
 class TaskList : public Ensemble<Task> {
  public:
-  // Characters of the joined types that are read and written at most.
-  static constexpr std::size_t kTypesLimit = 511;
-
   // The file system must outlive the list.
   explicit TaskList(FileSystem& files);
 
@@ -56,8 +45,8 @@ class TaskList : public Ensemble<Task> {
   // says so.
   int todayReport(String& out, const TaskDate& today, const DateFormat& format) const;
 
-  // The types as one text, ";" between them, cut at kTypesLimit; and back. An empty piece
-  // at the end is none.
+  // The types as one text, ";" between them, cut at TaskSettings::kTypesLimit; and back. An empty
+  // piece at the end is none.
   String joinedTypes() const;
   void setTypes(std::string_view joined);
 

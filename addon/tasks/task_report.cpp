@@ -31,7 +31,7 @@ void TaskList::dueTasks(Tableau<Task>& due, const TaskDate& today) const {
   due.setOwns(false);
   due.clear();
   for (int i = 0; i < count(); ++i) {
-    if (settings.flash[at(i)->state] != 0 && isDue(*at(i), today)) {
+    if (settings.flash[at(i)->state].value != 0 && isDue(*at(i), today)) {
       due.append(at(i));
     }
   }

@@ -1,10 +1,13 @@
 #include "addon/topbar/placement.h"
 
+#include <algorithm>
+
 namespace kesto {
 namespace {
 
 constexpr int kAboveScreen = 2;
 constexpr int kRoomBelow = 80;
+constexpr int kFarthest = 0x7FFF;
 
 int topOf(const ScreenMetrics& metrics, bool new_shell) {
   return new_shell ? -kAboveScreen : -kAboveScreen - metrics.menu_height;
@@ -22,8 +25,11 @@ BarPlacement creationPlacement(const ScreenMetrics& metrics, bool new_shell) {
 
 BarPlacement normalPlacement(const ScreenMetrics& metrics, bool new_shell, int left_margin,
                              int right_margin) {
-  return {left_margin, topOf(metrics, new_shell), metrics.screen_width - left_margin - right_margin,
-          oneRow(metrics, new_shell)};
+  // Margins are whatever somebody entered; coordinates have 16 bits on Windows 95.
+  const int left = std::clamp(left_margin, -kFarthest, kFarthest);
+  const int right = std::clamp(right_margin, -kFarthest, kFarthest);
+  const int width = std::clamp(metrics.screen_width - left - right, 0, kFarthest);
+  return {left, topOf(metrics, new_shell), width, oneRow(metrics, new_shell)};
 }
 
 int highestBar(const ScreenMetrics& metrics) {

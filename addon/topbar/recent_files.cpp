@@ -13,38 +13,11 @@ RecentFiles* recentFiles = nullptr;
 
 namespace {
 
-constexpr char kSection[] = "TopBar";
-constexpr char kMissing[] = "not found";
+constexpr int kProjectSlots = 50;
+constexpr int kHeaderSlots = 199;
 
-constexpr struct StoredList {
-  const char* name;
-  const char* maximum_name;
-  int slots;
-  int default_maximum;
-} kProjects = {"IDE", "MaxIDE", 50, 10}, kHeaders = {"INC", "MaxINC", 199, 50};
-
-static_assert(kFirstProjectId + kProjects.slots - 1 <= kLastProjectId);
-static_assert(kFirstHeaderId + kHeaders.slots - 1 <= kLastHeaderId);
-
-void load(const StoredList& stored, RecentList& list) {
-  list.setMaximum(settings().readInteger(kSection, stored.maximum_name, stored.default_maximum));
-  Tableau<String> entries;
-  settings().readList(kSection, stored.name, entries, list.room());
-  std::vector<std::string> paths;
-  for (int i = 0; i < entries.count() && !(*entries.at(i) == kMissing); ++i) {
-    paths.emplace_back(entries.at(i)->text());
-  }
-  list.assign(paths);
-}
-
-void store(const StoredList& stored, const RecentList& list) {
-  Tableau<String> entries;
-  for (int i = 0; i < list.count(); ++i) {
-    entries.append(new String(list.at(i)));
-  }
-  settings().writeInteger(kSection, stored.maximum_name, list.maximum());
-  settings().writeList(kSection, stored.name, entries);
-}
+static_assert(kFirstProjectId + kProjectSlots - 1 <= kLastProjectId);
+static_assert(kFirstHeaderId + kHeaderSlots - 1 <= kLastHeaderId);
 
 HMENU firstSubmenu(HMENU menu, int items) {
   for (int i = 0; i < items; ++i) {
@@ -57,12 +30,40 @@ HMENU firstSubmenu(HMENU menu, int items) {
 
 }  // namespace
 
+StoredRecentList::StoredRecentList(SettingSection& section, const char* name,
+                                   const char* maximum_name, int slots, int default_maximum)
+    : maximum(section, maximum_name, default_maximum),
+      list(slots, default_maximum),
+      section_(section),
+      name_(name) {}
+
+void StoredRecentList::load() {
+  maximum.read();
+  list.setMaximum(maximum.value);
+  Tableau<String> entries;
+  settings().readList(section_.name(), name_, entries, list.room());
+  std::vector<std::string> paths;
+  for (int i = 0; i < entries.count() && !(*entries.at(i) == kMissingEntry); ++i) {
+    paths.emplace_back(entries.at(i)->text());
+  }
+  list.assign(paths);
+}
+
+void StoredRecentList::store() const {
+  Tableau<String> entries;
+  for (int i = 0; i < list.count(); ++i) {
+    entries.append(new String(list.at(i)));
+  }
+  maximum.write();
+  settings().writeList(section_.name(), name_, entries);
+}
+
 RecentFiles::RecentFiles(HWND bar)
     : bar_(bar),
-      projects_(kProjects.slots, kProjects.default_maximum),
-      headers_(kHeaders.slots, kHeaders.default_maximum) {
-  load(kProjects, projects_);
-  load(kHeaders, headers_);
+      projects_(section_, "IDE", "MaxIDE", kProjectSlots, 10),
+      headers_(section_, "INC", "MaxINC", kHeaderSlots, 50) {
+  projects_.load();
+  headers_.load();
   headerRecorder = this;
 }
 
@@ -71,8 +72,13 @@ RecentFiles::~RecentFiles() {
 }
 
 void RecentFiles::save() const {
-  store(kProjects, projects_);
-  store(kHeaders, headers_);
+  projects_.store();
+  headers_.store();
+}
+
+void RecentFiles::cutToMaxima() {
+  projects_.list.setMaximum(projects_.maximum.value);
+  headers_.list.setMaximum(headers_.maximum.value);
 }
 
 int RecentFiles::headerUsed(const char* path, HWND new_editor) {
@@ -84,14 +90,14 @@ int RecentFiles::headerUsed(const char* path, HWND new_editor) {
     }
   }
   if (isHeader(file)) {
-    headers_.use(file);
+    headers_.list.use(file);
     refreshHeaderMenu();
   }
   return 1;
 }
 
 void RecentFiles::forgetHeader(const std::string& path) {
-  headers_.remove(path);
+  headers_.list.remove(path);
   refreshHeaderMenu();
 }
 
@@ -119,9 +125,9 @@ void RecentFiles::refreshHeaderMenu() const {
   while (GetMenuItemCount(submenu) > 0) {
     DeleteMenu(submenu, 0, MF_BYPOSITION);
   }
-  for (int i = 0; i < headers_.count(); ++i) {
+  for (int i = 0; i < headers_.list.count(); ++i) {
     AppendMenuA(submenu, MF_STRING, static_cast<UINT_PTR>(kFirstHeaderId + i),
-                menuText(headers_.at(i)).c_str());
+                menuText(headers_.list.at(i)).c_str());
   }
   DrawMenuBar(bar_);
 }

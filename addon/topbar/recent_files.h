@@ -4,10 +4,29 @@
 
 #include <string>
 
+#include "addon/foundation/setting.h"
 #include "addon/ide/header_recorder.h"
 #include "addon/topbar/recent_list.h"
 
 namespace kesto {
+
+// A list that is kept from one session to the next, with how many files it holds at most.
+class StoredRecentList {
+ public:
+  // The names are those of the settings.
+  StoredRecentList(SettingSection& section, const char* name, const char* maximum_name, int slots,
+                   int default_maximum);
+
+  void load();
+  void store() const;
+
+  IntegerSetting maximum;  // the list follows it when it is told
+  RecentList list;
+
+ private:
+  const SettingSection& section_;
+  const char* name_;
+};
 
 class RecentFiles : public HeaderRecorder {
  public:
@@ -19,8 +38,12 @@ class RecentFiles : public HeaderRecorder {
 
   void save() const;
 
-  RecentList& projects() { return projects_; }
-  RecentList& headers() { return headers_; }
+  RecentList& projects() { return projects_.list; }
+  RecentList& headers() { return headers_.list; }
+  IntegerSetting& maximumOfProjects() { return projects_.maximum; }
+  IntegerSetting& maximumOfHeaders() { return headers_.maximum; }
+  // Takes from each list what is beyond its maximum.
+  void cutToMaxima();
 
   int headerUsed(const char* path, HWND new_editor) override;
   // Takes a header that is gone out of the list.
@@ -30,8 +53,9 @@ class RecentFiles : public HeaderRecorder {
   void refreshHeaderMenu() const;
 
   HWND bar_;
-  RecentList projects_;
-  RecentList headers_;
+  SettingSection section_{"TopBar"};
+  StoredRecentList projects_;
+  StoredRecentList headers_;
 };
 
 extern RecentFiles* recentFiles;

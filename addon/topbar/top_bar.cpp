@@ -1,16 +1,12 @@
 #include "addon/topbar/top_bar.h"
 
-#include "addon/foundation/settings_store.h"
 #include "addon/ide/open_file.h"
-#include "addon/topbar/placement.h"
 
 namespace kesto {
 
 TopBar* topBar = nullptr;
 
 namespace {
-
-constexpr char kSection[] = "TopBar";
 
 ScreenMetrics screenMetrics() {
   return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), GetSystemMetrics(SM_CYMENU),
@@ -30,39 +26,61 @@ int clientHeight(HWND bar) {
 
 }  // namespace
 
-TopBar::TopBar(bool new_shell, HWND bar) : new_shell_(new_shell), bar_(bar) {
-  SettingsStore& store = settings();
-  enabled_ = store.readInteger(kSection, "Enabled", 1);
-  hide_with_ide_ = store.readInteger(kSection, "HideWithBCW", 1);
-  always_on_top_ = store.readInteger(kSection, "AlwaysOnTop", 0);
-  edit_other_view_ = store.readInteger(kSection, "EditOtherView", 0);
-  left_margin_ = store.readInteger(kSection, "LeftMargin", new_shell ? -1 : 17);
-  right_margin_ = store.readInteger(kSection, "RightMargin", new_shell ? 58 : 37);
-  menu_size_ = store.readInteger(kSection, "MenuSize", 50);
-  readMenuSettings();
-  setOpenInOtherView(edit_other_view_ != 0);
+TopBar::TopBar(bool new_shell, HWND bar) : settings(new_shell), new_shell_(new_shell), bar_(bar) {
+  settings.section.read();
+  useConstruction(settings.construction.value);
+  useHidesWithView(settings.hide_with_view.value);
+  setOpenInOtherView(settings.edit_other_view.value != 0);
 }
 
 TopBar::~TopBar() {
-  SettingsStore& store = settings();
-  store.writeInteger(kSection, "Enabled", enabled_);
-  store.writeInteger(kSection, "HideWithBCW", hide_with_ide_);
-  store.writeInteger(kSection, "HideWithView", stored_hide_with_view_);
-  store.writeInteger(kSection, "AlwaysOnTop", always_on_top_);
-  store.writeInteger(kSection, "EditOtherView", edit_other_view_);
-  store.writeInteger(kSection, "LeftMargin", left_margin_);
-  store.writeInteger(kSection, "RightMargin", right_margin_);
-  store.writeInteger(kSection, "MenuSize", menu_size_);
-  store.writeInteger(kSection, "Hierarchical", stored_construction_);
+  settings.section.write();
 }
 
 void TopBar::readMenuSettings() {
-  stored_construction_ = construction_ = settings().readInteger(kSection, "Hierarchical", 0);
-  stored_hide_with_view_ = hide_with_view_ = settings().readInteger(kSection, "HideWithView", 0);
+  settings.construction.read();
+  settings.hide_with_view.read();
+  useConstruction(settings.construction.value);
+  useHidesWithView(settings.hide_with_view.value);
+}
+
+void TopBar::chooseMenus(int construction, int hides_with_view) {
+  if (construction != construction_) {
+    settings.construction.value = construction_ = construction;
+  }
+  if (hides_with_view != hide_with_view_) {
+    settings.hide_with_view.value = hide_with_view_ = hides_with_view;
+  }
+}
+
+TopBar::Look TopBar::look() const {
+  return {settings.enabled.value, settings.always_on_top.value, settings.left_margin.value,
+          settings.right_margin.value};
+}
+
+void TopBar::follow(const Look& before) {
+  setOpenInOtherView(settings.edit_other_view.value != 0);
+  if (look().left_margin != before.left_margin || look().right_margin != before.right_margin) {
+    place(false);
+  }
+  if (look().enabled != before.enabled) {
+    ShowWindow(bar_, enabled() ? SW_SHOWNA : SW_HIDE);
+  }
+  if (look().always_on_top != before.always_on_top) {
+    SetWindowLongA(bar_, GWL_EXSTYLE,
+                   (new_shell_ ? WS_EX_TOOLWINDOW : 0) | (alwaysOnTop() ? WS_EX_TOPMOST : 0));
+    SetWindowPos(bar_, alwaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+  }
+}
+
+BarPlacement TopBar::normalPlace() const {
+  return normalPlacement(screenMetrics(), new_shell_, settings.left_margin.value,
+                         settings.right_margin.value);
 }
 
 void TopBar::place(bool expanded) {
-  BarPlacement place = normalPlacement(screenMetrics(), new_shell_, left_margin_, right_margin_);
+  BarPlacement place = normalPlace();
   if (!expanded) {
     moveTo(bar_, place);
     return;
@@ -81,7 +99,7 @@ void TopBar::place(bool expanded) {
 // until something of its client area shows.
 int TopBar::measureExpandedHeight() const {
   const ScreenMetrics metrics = screenMetrics();
-  BarPlacement place = normalPlacement(metrics, new_shell_, left_margin_, right_margin_);
+  BarPlacement place = normalPlace();
   moveTo(bar_, place);
   while (clientHeight(bar_) < 1 && place.height < highestBar(metrics)) {
     place.height += metrics.menu_height;

@@ -4,14 +4,36 @@
 
 #include <windows.h>
 
+#include "addon/foundation/setting.h"
+#include "addon/topbar/placement.h"
+
 namespace kesto {
 
 // How the project's menus are built into the bar.
 enum class BarConstruction : int { kLinear = 0, kHierarchical = 1, kNoMenu = 2 };
 
+// Margins in pixels, which may be negative; what the user has for projects that say nothing
+// of how they are built in. The section's other settings are those of the recent files.
+struct TopBarSettings {
+  explicit TopBarSettings(bool new_shell)
+      : left_margin(section, "LeftMargin", new_shell ? -1 : 17),
+        right_margin(section, "RightMargin", new_shell ? 58 : 37) {}
+
+  SettingSection section{"TopBar"};
+  IntegerSetting enabled{section, "Enabled", 1};
+  IntegerSetting hide_with_ide{section, "HideWithBCW", 1};
+  IntegerSetting hide_with_view{section, "HideWithView", 0};
+  IntegerSetting always_on_top{section, "AlwaysOnTop", 0};
+  IntegerSetting edit_other_view{section, "EditOtherView", 0};
+  IntegerSetting left_margin;
+  IntegerSetting right_margin;
+  IntegerSetting menu_size{section, "MenuSize", 50};  // items per column
+  IntegerSetting construction{section, "Hierarchical", 0};
+};
+
 class TopBar {
  public:
-  // Reads the settings of section "TopBar".
+  // Reads the settings.
   TopBar(bool new_shell, HWND bar);
   // Writes them back.
   ~TopBar();
@@ -19,18 +41,31 @@ class TopBar {
   TopBar& operator=(const TopBar&) = delete;
 
   HWND window() const { return bar_; }
-  bool enabled() const { return enabled_ != 0; }
-  bool hidesWithIde() const { return hide_with_ide_ != 0; }
+  TopBarSettings settings;
+  bool enabled() const { return settings.enabled.value != 0; }
+  bool hidesWithIde() const { return settings.hide_with_ide.value != 0; }
   bool hidesWithView() const { return hide_with_view_ != 0; }
-  bool alwaysOnTop() const { return always_on_top_ != 0; }
+  bool alwaysOnTop() const { return settings.always_on_top.value != 0; }
   BarConstruction construction() const { return static_cast<BarConstruction>(construction_); }
-  int menuSize() const { return menu_size_; }
+  int menuSize() const { return settings.menu_size.value; }
 
   // Takes construction and hiding from the settings, as a project opens.
   void readMenuSettings();
   // What the open project says of them; the settings stay as they are.
   void useConstruction(int construction) { construction_ = construction; }
   void useHidesWithView(int hides) { hide_with_view_ = hides; }
+
+  // What the user chose: in force from now on, and kept where it is another than before.
+  void chooseMenus(int construction, int hides_with_view);
+  // Has the window follow the settings, after they were these.
+  struct Look {
+    int enabled;
+    int always_on_top;
+    int left_margin;
+    int right_margin;
+  };
+  Look look() const;
+  void follow(const Look& before);
 
   // Moves the bar between its margins with one menu row, or with all rows.
   void place(bool expanded);
@@ -44,23 +79,15 @@ class TopBar {
   void forgetExpandedHeight() { expanded_height_ = 0; }
 
  private:
+  BarPlacement normalPlace() const;
   int measureExpandedHeight() const;
 
   bool new_shell_;
   HWND bar_;
   bool expanded_ = false;
   bool placed_ = false;
-  int enabled_;
-  int hide_with_ide_;
-  int hide_with_view_;  // in force
-  int stored_hide_with_view_;
-  int always_on_top_;
-  int edit_other_view_;
-  int left_margin_;   // pixels, may be negative
-  int right_margin_;  // pixels, may be negative
-  int menu_size_;     // items per column
-  int construction_;  // in force
-  int stored_construction_;
+  int hide_with_view_ = 0;   // in force
+  int construction_ = 0;     // in force
   int expanded_height_ = 0;  // pixels, 0 while unknown
 };
 

@@ -29,18 +29,17 @@ TEST_CASE("keyword files of the settings complete, and extracted ones join them"
   settings().writeString("Completion\\Files", "Entry2", "words.kwd");
   completionEngine = new CompletionEngine;
   CHECK(host.completionKey() == 222);
-  CHECK(completionEngine->keywordFiles().count() == 2);
+  CHECK(completionEngine->settings.files.value.size() == 2);
   CHECK(completionSource->strike("sta").text == "ck");
   CHECK(completionSource->strike("pu").text.empty());
 
   takeBoxes();
-  addExtractedKeywords(nullptr, "stack.cpp");
+  completionEngine->settings.files.value.emplace_back(extractKeywordsOf(nullptr, "stack.cpp"));
+  completionEngine->load();
   CHECK(completionSource->strike("pu").text == "sh");
-  addExtractedKeywords(nullptr, "STACK.CPP");
-  CHECK(completionEngine->keywordFiles().count() == 3);
   CHECK(takeBoxes().empty());
   for (const char* none : {"gone.cpp", "words.kwd"}) {
-    addExtractedKeywords(nullptr, none);
+    CHECK(extractKeywordsOf(nullptr, none).length() == 0);
     const std::vector<RecordedBox> boxes = takeBoxes();
     REQUIRE(boxes.size() == 1);
     CHECK(boxes[0].text == "Impossible to extract keywords");
@@ -53,7 +52,7 @@ TEST_CASE("keyword files of the settings complete, and extracted ones join them"
     completionEngine = nullptr;
   };
   box_answer = kAnswerYes;
-  addExtractedKeywords(nullptr, "stack.cpp");
+  CHECK(extractKeywordsOf(nullptr, "stack.cpp") == "stack.kwd");
   while_box = nullptr;
   box_answer = kAnswerOk;
   CHECK(takeBoxes().size() == 1);

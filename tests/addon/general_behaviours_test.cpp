@@ -51,7 +51,7 @@ TEST_CASE("periods of any size, and none") {
     session.openProject("C:\\p.ide");
     ticks(100);
     CHECK(session.ide.editor.savings == row.savings);
-    kesto::generalBehaviours->writeOptions();
+    kesto::generalBehaviours->settings.section.write();
     CHECK(kesto::settings().readInteger("General", "TimerCount", -1) == row.minutes);
     CHECK(kesto::settings().readInteger("General", "Unic", -1) == 0);
   }

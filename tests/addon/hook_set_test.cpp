@@ -100,6 +100,9 @@ struct Hooked {
 LRESULT CALLBACK captureProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kesto::kCapturedKeyMessage) {
     captured.push_back(wParam);
+    if (wParam == VK_F7) {
+      reinterpret_cast<kesto::HookSet*>(GetWindowLongA(window, GWL_USERDATA))->stopKeyCapture();
+    }
     return 0;
   }
   return DefWindowProcA(window, message, wParam, lParam);
@@ -174,6 +177,14 @@ TEST_CASE("a capturing window gets every key but the modifiers") {
   hooked.afterInput();
   hooked.press({222});
   CHECK(hooked.afterInput() == std::vector<int>{102});
+  // The key that ends the capture, held down and let go after another, is the capture's.
+  SetWindowLongA(capture, GWL_USERDATA, reinterpret_cast<LONG>(&hooked.hooks));
+  hooked.hooks.startKeyCapture(capture);
+  hooked.windows.keys.clear();
+  keybd_event(VK_F7, static_cast<BYTE>(MapVirtualKeyA(VK_F7, 0)), 0, 0);
+  hooked.press({VK_F7, 'A'});
+  hooked.afterInput();
+  CHECK(hooked.windows.keys == std::vector<WPARAM>{'A', 'A', VK_F13, VK_F13});
   DestroyWindow(capture);
 }
 

@@ -25,7 +25,8 @@ TEST_CASE("lists come back as they were saved; long entries are cut or end the l
     kesto::RecentFiles files(nullptr);
     REQUIRE(files.projects().count() == 2);
     CHECK(std::string(files.projects().at(0)) == std::string(255, 'p'));
-    files.projects().setMaximum(1);
+    files.maximumOfProjects().value = 1;
+    files.cutToMaxima();
     files.headers().use("C:\\a.h");
     files.save();
   }

@@ -61,8 +61,9 @@ class WindowFixture {
       if (message.hwnd == bar && message.message == WM_COMMAND) {
         ids.push_back(static_cast<int>(message.wParam));
         last_lparam = message.lParam;
-      } else if (message.message == WM_KEYUP) {
-        saw_key_up = message.wParam;
+      } else if (message.message == WM_KEYDOWN || message.message == WM_KEYUP) {
+        keys.push_back(message.wParam);
+        saw_key_up = message.message == WM_KEYUP ? message.wParam : saw_key_up;
       } else if (message.message == WM_NCMOUSEMOVE) {
         last_title_move = message.lParam;
       }
@@ -77,5 +78,6 @@ class WindowFixture {
   HWND bar;
   LPARAM last_lparam = 0;
   WPARAM saw_key_up = 0;
+  std::vector<WPARAM> keys;  // each that went down or up
   LPARAM last_title_move = 0;
 };

@@ -106,7 +106,7 @@ TEST_CASE("the report has what goes on today, whatever the year") {
   }
   may->state = kEnded;
   CHECK(report(list, day(1995, 5, 2), 0) == "No task today !");
-  list.settings.flash[kEnded] = 1;
+  list.settings.flash[kEnded].value = 1;
   CHECK(report(list, day(1995, 5, 2), 1).find(", State : ended\r\n") != std::string::npos);
 
   String out("Today: ");

@@ -1,0 +1,4 @@
+int first(int n)
+{
+  return n;
+}
