@@ -85,7 +85,8 @@ bool HookSet::onCapturedKey(UINT virtual_key, LPARAM lParam) {
   const bool modifier = virtual_key >= VK_SHIFT && virtual_key <= VK_MENU;
   // What it does with the key may end the capture.
   held_key_ = (lParam & kKeyUp) == 0 && !modifier ? virtual_key : 0;
-  if (held_key_ != 0) {
+  // One that was down before has opened the capture, and repeats.
+  if (held_key_ != 0 && (lParam & kKeyWasDown) == 0) {
     SendMessageA(key_capture_, kCapturedKeyMessage, virtual_key, lParam);
   }
   return true;

@@ -33,7 +33,11 @@ INT_PTR CALLBACK Dialog::dialogProc(HWND window, UINT message, WPARAM w, LPARAM 
   if (message != WM_COMMAND) {
     return FALSE;
   }
-  if (LOWORD(w) == IDOK) {
+  const HWND page = l != 0 ? GetParent(reinterpret_cast<HWND>(l)) : window;
+  if (page != window) {
+    // Enter on a button of a page is told to the dialog around it.
+    SendMessageA(page, message, w, l);
+  } else if (LOWORD(w) == IDOK) {
     if (self->accept()) {
       EndDialog(window, IDOK);
     }
