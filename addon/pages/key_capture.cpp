@@ -3,6 +3,7 @@
 #include "addon/foundation/key_code.h"
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/hook_set.h"
 #include "addon/pages/page_ids.h"
 
@@ -113,6 +114,8 @@ INT_PTR CALLBACK captureProcedure(HWND dialog, UINT message, WPARAM wParam, LPAR
       return TRUE;
     case WM_COMMAND:
       return onCommand(dialog, LOWORD(wParam)) ? TRUE : FALSE;
+    case WM_HELP:
+      return showHelpOn(message, kHelpKeyCapture) ? TRUE : FALSE;
     case WM_DESTROY:
       listen(false, dialog);
       return FALSE;
