@@ -367,7 +367,9 @@ Section
     ${EndIf}
   !insertmacro NextLine
   Call fillMenu
-  ${Say} "In $INSTDIR: Kesto ${VERSION}. No setting has been touched."
+  ${Say} "Kesto ${VERSION} is installed in"
+  ${Say} "  $INSTDIR"
+  ${Say} "No setting has been touched."
 SectionEnd
 
 ; ---------------------------------------------------------------------------
