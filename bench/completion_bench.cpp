@@ -23,8 +23,9 @@
 
 #include "addon/completion/completion.h"
 #include "addon/foundation/message_box.h"
-#include "bench/posix_files.h"
+#include "addon/foundation/text_file.h"
 #include "bench/turns.h"
+#include "cli/posix/disk_files.h"
 
 namespace kesto {
 
@@ -106,7 +107,8 @@ int make(const std::string& directory) {
 }
 
 struct Data {
-  PosixFiles files;
+  cli::DiskNames names;
+  cli::DiskFiles files{names};
   Tableau<String> paths;
   std::vector<std::string> prefixes;
 

@@ -27,9 +27,10 @@ bytes=$(sources | xargs -0 cat | wc -c)
 echo "$(sources | tr -dc '\0' | wc -c) sources, $bytes bytes, searching $name"
 
 grep_words() { grep -rnw --include='*.cpp' --include='*.cc' --include='*.c' -e "$name" "$tree"; }
-native_cross() { "$bin/find_bench" cross "$name" "$tree"; }
-native_method() { "$bin/find_bench" method "$name" "$tree"; }
-native_function() { "$bin/find_bench" function "$name" "$tree"; }
+# A name that is nowhere is no error.
+native_cross() { "$bin/kesto-cli" xref "$name" --project "$tree" || [ $? = 1 ]; }
+native_method() { "$bin/kesto-cli" find method "$name" --project "$tree" || [ $? = 1 ]; }
+native_function() { "$bin/kesto-cli" find function "$name" --project "$tree" || [ $? = 1 ]; }
 program=$bin/../../mingw32/bin/find_bench_win.exe
 windows() {
   KESTO_TIMEOUT=600 "$here/kesto" exec "$program" "$name" "Z:$(realpath "$tree" | tr / '\\')" |

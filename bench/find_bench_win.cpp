@@ -18,7 +18,7 @@
 #include "addon/ide/access.h"
 #include "addon/ide/file_text.h"
 #include "addon/ide/unknown_imp.h"
-#include "addon/navigation/name_search.h"
+#include "addon/navigation/ide_sources.h"
 #include "bench/turns.h"
 
 namespace kesto {
@@ -135,15 +135,17 @@ int measure(const char* name, const char* tree) {
   const NameMatcher cross(Search::kCross, name);
   const NameMatcher method(Search::kMethod, name);
   Tableau<QuickResu> hits;
+  IdeSources sources;
+  const SearchedFiles files = sources.files();
   Turns turns;
   turns.add("plain", [&] { PlainLoop().read(tree); });
-  turns.add("method", [&] { collectHits(plan, true, method, hits); });
-  turns.add("cross", [&] { collectHits(plan, true, cross, hits); });
+  turns.add("method", [&] { collectHits(files, plan, true, method, hits); });
+  turns.add("cross", [&] { collectHits(files, plan, true, cross, hits); });
   turns.run(kRounds);
   printf("hits %d\n", hits.count());
   printf("memory-before %lu\n", workingSetKilobytes());
   for (int i = 0; i < kSearches; ++i) {
-    collectHits(plan, true, i % 2 == 0 ? cross : method, hits);
+    collectHits(files, plan, true, i % 2 == 0 ? cross : method, hits);
   }
   printf("memory-after %lu\n", workingSetKilobytes());
   hits.clear();

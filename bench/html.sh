@@ -40,8 +40,8 @@ cp -r "$work/once/." "$work/twice"
 copy $((copies + 1)) $((2 * copies)) "$work/twice"
 
 # The rounds after the first read from the cache and write over what is there.
-once() { "$bin/html_bench" "$work/once" '*.cpp;*.cc;*.c;*.h'; }
-twice() { "$bin/html_bench" "$work/twice" '*.cpp;*.cc;*.c;*.h'; }
+once() { "$bin/kesto-cli" html "$work/once" --filters '*.cpp;*.cc;*.c;*.h' --json; }
+twice() { "$bin/kesto-cli" html "$work/twice" --filters '*.cpp;*.cc;*.c;*.h' --json; }
 plain_doxygen() {
   doxygen - <<SETTINGS >/dev/null 2>&1
 INPUT = "$work/once"
@@ -66,8 +66,10 @@ mkdir "$work/out"
     turns 1 "$work/out" once plain_doxygen
 } >"$work/all" || exit 1
 best <"$work/all" >"$work/times"
-read -r files pages <"$work/out/once"
-read -r _ pages_twice <"$work/out/twice"
+number() { sed 's/.*"'"$1"'":\([0-9]*\).*/\1/' "$work/out/$2"; }
+files=$(number files once)
+pages=$(number pages once)
+pages_twice=$(number pages twice)
 echo "$(size_of "$work/once") bytes in $files files, $pages pages"
 awk -v pages="$pages" -v pages_twice="$pages_twice" \
   -v made="$(find "$work/doxygen" -name '*.html' | wc -l)" '

@@ -14,8 +14,9 @@
 #include "addon/foundation/message_box.h"
 #include "addon/foundation/text_file.h"
 #include "addon/rcgen/generator_run.h"
-#include "bench/posix_files.h"
 #include "bench/turns.h"
+#include "cli/posix/disk_files.h"
+#include "cli/posix/disk_listing.h"
 
 namespace kesto {
 
@@ -34,34 +35,36 @@ constexpr int kDialogsOfScript = 6;
 constexpr int kRounds = 31;
 
 // What was done through it, besides doing it.
-class NotingFiles : public PosixFiles {
+class NotingFiles : public cli::DiskFiles {
  public:
+  explicit NotingFiles(cli::DiskNames& names) : DiskFiles(names), names_(names) {}
+
   std::vector<std::string> reads;
   std::map<std::string, std::string> writes;  // by the paths where they came to stand
 
   bool read(const char* path, std::string& text) override {
     if (noting_) {
-      reads.emplace_back(nativePath(path));
+      reads.emplace_back(names_.diskPath(path));
     }
-    return PosixFiles::read(path, text);
+    return DiskFiles::read(path, text);
   }
   bool write(const char* path, std::string_view text) override {
     if (noting_) {
       growing_[path] = text;
     }
-    return PosixFiles::write(path, text);
+    return DiskFiles::write(path, text);
   }
   bool append(const char* path, std::string_view text) override {
     if (noting_) {
       growing_[path] += text;
     }
-    return PosixFiles::append(path, text);
+    return DiskFiles::append(path, text);
   }
   bool replace(const char* path, const char* new_path) override {
     if (noting_) {
-      writes[nativePath(new_path)] = growing_[path];
+      writes[names_.diskPath(new_path)] = growing_[path];
     }
-    return PosixFiles::replace(path, new_path);
+    return DiskFiles::replace(path, new_path);
   }
 
   // Noting takes time of its own.
@@ -72,6 +75,7 @@ class NotingFiles : public PosixFiles {
   }
 
  private:
+  cli::DiskNames& names_;
   std::map<std::string, std::string> growing_;
   bool noting_ = false;
 };
@@ -82,8 +86,9 @@ class NoNotices : public GeneratorNotices {
 };
 
 struct Host {
-  PosixListing lister;
-  NotingFiles files;
+  cli::DiskNames names;
+  cli::DiskListing lister{names};
+  NotingFiles files{names};
   NoNotices notices;
 
   void run(const std::string& directory, GeneratorSwitches switches, std::int32_t& build_number) {

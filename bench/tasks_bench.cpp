@@ -13,8 +13,8 @@
 
 #include "addon/foundation/message_box.h"
 #include "addon/tasks/task_list.h"
-#include "bench/posix_files.h"
 #include "bench/turns.h"
+#include "cli/posix/disk_files.h"
 
 namespace kesto {
 
@@ -84,7 +84,8 @@ void addSort(Turns& turns, TaskList& list, const char* name,
 
 int measure(const std::string& directory) {
   const std::string path = directory + "/bench.ide.tsk";
-  PosixFiles files;
+  cli::DiskNames names;
+  cli::DiskFiles files(names);
   TaskList list(files);
   for (int i = 0; i < kTasks; ++i) {
     list.append(makeTask(i));

@@ -20,6 +20,12 @@ std::string_view fileNamePart(std::string_view path) {
   return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }
 
+std::string_view projectNamePart(std::string_view file) {
+  constexpr std::size_t kExtension = 4;
+  const std::string_view name = fileNamePart(file);
+  return name.substr(0, name.size() > kExtension ? name.size() - kExtension : 0);
+}
+
 std::string_view directoryPart(std::string_view path) {
   const std::size_t separator = path.find_last_of("\\/");
   return separator == std::string_view::npos ? path.substr(0, 0) : path.substr(0, separator);

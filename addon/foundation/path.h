@@ -9,8 +9,13 @@
 
 namespace kesto {
 
-// Characters of a path, as the system bounds them.
+// Characters of a path, and of a name in it, as the system bounds them.
+#ifdef _WIN32
 inline constexpr std::size_t kPathLimit = 259;
+#else
+inline constexpr std::size_t kPathLimit = 4095;
+#endif
+inline constexpr std::size_t kNameLimit = 255;
 // Directories that all walks of one search together look into.
 inline constexpr int kDirectoryLimit = 20000;
 
@@ -19,6 +24,8 @@ inline constexpr std::size_t kTitleLimit = 178;
 
 // What follows the last "\" or "/"; the whole path when it has none.
 std::string_view fileNamePart(std::string_view path);
+// The name of a project by its file: without directory and the ".ide" at its end.
+std::string_view projectNamePart(std::string_view file);
 // What precedes the last "\" or "/"; empty when the path has none.
 std::string_view directoryPart(std::string_view path);
 

@@ -19,7 +19,8 @@ String besidePath(std::string_view path, const char* ending, char mark) {
   String name(".");
   name += file;
   name += ending;
-  if (!file.empty() && directory.size() + name.view().size() > kPathLimit) {
+  const std::size_t size = name.view().size();
+  if (!file.empty() && (size > kNameLimit || directory.size() + size > kPathLimit)) {
     std::string short_name(file);
     short_name.back() = mark != file.back() ? mark : '_';
     name = String(short_name);

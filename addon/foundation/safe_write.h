@@ -1,7 +1,7 @@
 // New texts for files that somebody may miss. A new text is written beside its file and
 // takes its place when it is whole: whatever fails, the file is as it was and nothing else
 // is left. Beside a file means under its name with a "." before it and ".kesto-new" behind,
-// or, where the path would be too long, with "~" as its last character. A process that is
+// or, where that would be too long, with "~" as its last character. A process that is
 // ended on the way leaves at most that one file, which the next writing overwrites and no
 // mask of sources fits. Refer to the file system; any thread.
 #pragma once

@@ -105,6 +105,24 @@ void takeLineFeeds(std::string& bytes) {
   bytes.resize(to);
 }
 
+std::string withCarriageReturns(std::string_view text) {
+  const auto ends = std::count(text.begin(), text.end(), '\n');
+  std::string bytes(text.size() + static_cast<std::size_t>(ends), '\r');
+  char* to = bytes.data();
+  for (std::size_t end = 0; !text.empty(); text.remove_prefix(end)) {
+    end = text.find('\n');
+    const bool ended = end != std::string_view::npos;
+    end = ended ? end : text.size();
+    to = std::copy_n(text.data(), end, to);
+    if (ended) {
+      *++to = '\n';
+      ++to;
+      ++end;
+    }
+  }
+  return bytes;
+}
+
 bool writeTextFile(const char* path, std::string_view text) {
   return writeWith("w", path, text);
 }

@@ -26,6 +26,8 @@ bool isUtf16(std::string_view text);
 void takeTextMode(std::string& bytes);
 // Drops the carriage returns before line feeds, and nothing else.
 void takeLineFeeds(std::string& bytes);
+// The bytes that text mode writes for the text on Windows: CR LF for each line feed.
+std::string withCarriageReturns(std::string_view text);
 // Creates or overwrites the file; line feeds become the system's line ends. False when
 // the file cannot be created or written whole.
 bool writeTextFile(const char* path, std::string_view text);

@@ -34,13 +34,18 @@ class FileListener {
                    const FileFacts& facts) = 0;
 };
 
-class GroupFiles {
+// The part of it that looks on.
+class GroupListing {
  public:
-  virtual ~GroupFiles() = default;
+  virtual ~GroupListing() = default;
   // Tells what the system lists for "directory\mask" in its order, volume labels left out.
   virtual void list(const char* directory, const char* mask, FileListener& listener) = 0;
   // Nothing when there is no such file, or it cannot be asked.
   virtual std::optional<FileFacts> facts(const char* path) = 0;
+};
+
+class GroupFiles : public GroupListing {
+ public:
   virtual bool isDirectory(const char* path) = 0;
   // A file or a folder.
   virtual bool holdsAnything(const char* directory) = 0;

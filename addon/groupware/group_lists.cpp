@@ -122,13 +122,13 @@ void press(GetButton button, EltGWget& element, bool selected) {
 
 }  // namespace
 
-void fillSendList(SendList& list, GroupFiles& files, const GroupRoots& roots,
+void fillSendList(SendList& list, GroupListing& files, const GroupRoots& roots,
                   std::string_view filters, WalkWatch* watch) {
   GroupTree tree(files, roots.project, roots.server);
   fill(list, tree, filters, watch);
 }
 
-void fillGetList(GetList& list, GroupFiles& files, const GroupRoots& roots,
+void fillGetList(GetList& list, GroupListing& files, const GroupRoots& roots,
                  std::string_view filters, WalkWatch* watch) {
   GroupTree tree(files, roots.server, roots.project);
   fill(list, tree, filters, watch);

@@ -13,11 +13,14 @@ namespace kesto {
 using SendList = Tableau<EltGWsend>;
 using GetList = Tableau<EltGWget>;
 
+// Masks of the files that are exchanged where nothing else is set.
+inline constexpr char kExchangedFiles[] = "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif";
+
 // Each file of the project that may be written; of the server, each file. Sorted by full
 // path in byte order, every path once. What the list held before is gone.
-void fillSendList(SendList& list, GroupFiles& files, const GroupRoots& roots,
+void fillSendList(SendList& list, GroupListing& files, const GroupRoots& roots,
                   std::string_view filters, WalkWatch* watch = nullptr);
-void fillGetList(GetList& list, GroupFiles& files, const GroupRoots& roots,
+void fillGetList(GetList& list, GroupListing& files, const GroupRoots& roots,
                  std::string_view filters, WalkWatch* watch = nullptr);
 
 enum class SendButton { kClear, kUpdate, kSendAndUnlock };

@@ -32,6 +32,12 @@ std::string rootOf(std::string_view directory) {
   return root;
 }
 
+std::string serverDirectory(std::string_view project, std::string_view server) {
+  const bool whole =
+      server.starts_with('\\') || server.starts_with('/') || server.substr(1, 1) == ":";
+  return whole ? std::string(server) : std::string(joinPath(project, server).view());
+}
+
 std::string pathBelow(std::string_view root, std::string_view name) {
   std::string path(root);
   path += '\\';

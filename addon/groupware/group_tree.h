@@ -21,6 +21,9 @@ struct GroupRoots {
 
 // A directory as a root: with "\" alone, and none behind.
 std::string rootOf(std::string_view directory);
+// The server's directory as a project names it: one that is not whole is meant from the
+// project's directory on.
+std::string serverDirectory(std::string_view project, std::string_view server);
 // The path of a name below a root.
 std::string pathBelow(std::string_view root, std::string_view name);
 
@@ -61,7 +64,7 @@ class GroupTree : public DirectoryLister {
 
   // Files below root, with their copies below other_root, which is not entered even if
   // it lies within.
-  GroupTree(GroupFiles& files, std::string_view root, std::string_view other_root)
+  GroupTree(GroupListing& files, std::string_view root, std::string_view other_root)
       : files_(files), root_(root), other_root_(other_root) {}
 
   // Shows each file that one of the filters, patterns with ";" between, fits, in no
@@ -77,7 +80,7 @@ class GroupTree : public DirectoryLister {
 
   FolderFacts& factsIn(std::string_view directory);
 
-  GroupFiles& files_;
+  GroupListing& files_;
   std::string root_;
   std::string other_root_;
   NameTable<std::string, FolderFacts> folders_;  // by directory

@@ -19,19 +19,9 @@ namespace {
 constexpr char kNoServer[] =
     "You must specify a server directory (options dialog)\nbefore calling this function !";
 
-bool isWhole(std::string_view path) {
-  return path.starts_with('\\') || path.starts_with('/') || path.substr(1, 1) == ":";
-}
-
 // A drive alone would be its current directory.
 std::string wholeRoot(std::string_view directory) {
   return rootOf(fullPath(std::string(directory) + '\\'));
-}
-
-// One that is not whole is meant from the project's directory on.
-std::string serverRoot(const std::string& project, const std::string& directory) {
-  return wholeRoot(isWhole(directory) ? std::string_view(directory)
-                                      : joinPath(project, directory).view());
 }
 
 }  // namespace
@@ -65,7 +55,7 @@ void GroupwareProject::open(GroupExchange& exchange, bool (*mails)(), HWND owner
     return;
   }
   const std::string project = wholeRoot(projectDirectory());
-  GroupDialog(exchange, {project, serverRoot(project, server)}, mails).run(owner);
+  GroupDialog(exchange, {project, wholeRoot(serverDirectory(project, server))}, mails).run(owner);
 }
 
 }  // namespace kesto

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "addon/foundation/setting.h"
+#include "addon/groupware/group_lists.h"
 
 namespace kesto {
 
@@ -21,7 +22,7 @@ class GroupwareSettings {
   IntegerSetting mail_on_get{section, "MailOnGet", 0};
   IntegerSetting mail_on_send{section, "MailOnSend", 1};
   // Masks of the files that are exchanged, with ";" between them.
-  TextSetting filters{section, "Filters", "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif"};
+  TextSetting filters{section, "Filters", kExchangedFiles};
 };
 
 // The lifecycle fills and clears the slot; null outside a session.

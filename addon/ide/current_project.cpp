@@ -8,8 +8,6 @@
 namespace kesto {
 namespace {
 
-constexpr std::size_t kProjectExtension = 4;  // with its dot
-
 bool openFlag = false;
 std::string openFileName;
 
@@ -42,9 +40,7 @@ void setProjectFile(std::string file) {
 }
 
 std::string projectName() {
-  std::string name(fileNamePart(openFileName));
-  name.resize(name.size() > kProjectExtension ? name.size() - kProjectExtension : 0);
-  return name;
+  return std::string(projectNamePart(openFileName));
 }
 
 std::string projectDirectory() {

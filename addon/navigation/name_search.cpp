@@ -2,64 +2,71 @@
 
 #include <cstring>
 
-#include "addon/foundation/directory_listing.h"
 #include "addon/foundation/directory_walk.h"
-#include "addon/ide/file_text.h"
 
 namespace kesto {
 namespace {
 
-class FirstHitVisitor : public FileVisitor {
+class SearchVisitor : public FileVisitor {
  public:
-  FirstHitVisitor(const NameMatcher& matcher, FirstHit& hit) : matcher_(matcher), hit_(hit) {}
+  SearchVisitor(SourceTexts& texts, const NameMatcher& matcher, HitListener& listener)
+      : texts_(texts), matcher_(matcher), listener_(listener) {}
   bool visit(const char* path) override {
-    const FileText text = readFileText(path);
-    LineReader reader(text.view());
-    std::string_view shown;
-    if (!matcher_.findNext(reader, shown)) {
-      return false;
-    }
-    hit_ = {path, reader.number()};
-    found_ = true;
-    return true;
-  }
-  bool found() const { return found_; }
-
- private:
-  const NameMatcher& matcher_;
-  FirstHit& hit_;
-  bool found_ = false;
-};
-
-class CollectingVisitor : public FileVisitor {
- public:
-  CollectingVisitor(const NameMatcher& matcher, Tableau<QuickResu>& hits)
-      : matcher_(matcher), hits_(hits) {}
-  bool visit(const char* path) override {
-    const FileText text = readFileText(path);
-    LineReader reader(text.view());
+    LineReader reader(texts_.textOf(path));
     std::string_view shown;
     while (matcher_.findNext(reader, shown)) {
-      const size_t bytes = sizeof(QuickResu) + strlen(path) + shown.size();
-      if (bytes > bytes_left_) {
+      if (!listener_.hit(path, reader.number(), shown)) {
         return true;
       }
-      bytes_left_ -= bytes;
-      hits_.append(new QuickResu(reader.number(), path, shown));
     }
     return false;
   }
 
  private:
+  SourceTexts& texts_;
   const NameMatcher& matcher_;
+  HitListener& listener_;
+};
+
+class FirstHitListener : public HitListener {
+ public:
+  explicit FirstHitListener(FirstHit& first) : first_(first) {}
+  bool hit(const char* file, int line, std::string_view text) override {
+    first_ = {file, line, std::string(text)};
+    found_ = true;
+    return false;
+  }
+  bool found() const { return found_; }
+
+ private:
+  FirstHit& first_;
+  bool found_ = false;
+};
+
+class CollectingListener : public HitListener {
+ public:
+  explicit CollectingListener(Tableau<QuickResu>& hits) : hits_(hits) {}
+  bool hit(const char* file, int line, std::string_view text) override {
+    const size_t bytes = sizeof(QuickResu) + strlen(file) + text.size();
+    if (bytes > bytes_left_) {
+      return false;
+    }
+    bytes_left_ -= bytes;
+    hits_.append(new QuickResu(line, file, text));
+    return true;
+  }
+
+ private:
   Tableau<QuickResu>& hits_;
   size_t bytes_left_ = kHitBytesLimit;
 };
 
-void walkPlan(const std::vector<SearchStep>& plan, bool recurse, FileVisitor& visitor,
-              WalkWatch* watch) {
-  DirectoryListing listing;
-  Folders folders(listing, watch);
+}  // namespace
+
+void findAll(const SearchedFiles& files, const std::vector<SearchStep>& plan, bool recurse,
+             const NameMatcher& matcher, HitListener& listener, WalkWatch* watch) {
+  Folders folders(files.lister, watch);
+  SearchVisitor visitor(files.texts, matcher, listener);
   for (const SearchStep& step : plan) {
     if (walkDirectory(folders, step.directory, step.mask, recurse, visitor)) {
       return;
@@ -67,22 +74,20 @@ void walkPlan(const std::vector<SearchStep>& plan, bool recurse, FileVisitor& vi
   }
 }
 
-}  // namespace
-
-bool findFirst(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
-               FirstHit& hit, WalkWatch* watch) {
-  FirstHitVisitor visitor(matcher, hit);
-  walkPlan(plan, recurse, visitor, watch);
-  return visitor.found();
+bool findFirst(const SearchedFiles& files, const std::vector<SearchStep>& plan, bool recurse,
+               const NameMatcher& matcher, FirstHit& hit, WalkWatch* watch) {
+  FirstHitListener listener(hit);
+  findAll(files, plan, recurse, matcher, listener, watch);
+  return listener.found();
 }
 
-void collectHits(const std::vector<SearchStep>& plan, bool recurse, const NameMatcher& matcher,
-                 Tableau<QuickResu>& hits, WalkWatch* watch) {
+void collectHits(const SearchedFiles& files, const std::vector<SearchStep>& plan, bool recurse,
+                 const NameMatcher& matcher, Tableau<QuickResu>& hits, WalkWatch* watch) {
   constexpr int kStep = 256;
   hits.clear();
   hits.setStep(kStep);
-  CollectingVisitor visitor(matcher, hits);
-  walkPlan(plan, recurse, visitor, watch);
+  CollectingListener listener(hits);
+  findAll(files, plan, recurse, matcher, listener, watch);
 }
 
 }  // namespace kesto

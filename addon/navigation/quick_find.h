@@ -25,8 +25,8 @@ namespace kesto {
 // Those of the keys in the order of Search.
 struct QuickFindSettings {
   SettingSection section{"QuickFind"};
-  TextSetting function_mask{section, "FunctionMask", "*.cpp;*.cc;*.c"};
-  TextSetting include_mask{section, "IncludeMask", "*.h;*.rh"};
+  TextSetting function_mask{section, "FunctionMask", kSourceMasks};
+  TextSetting include_mask{section, "IncludeMask", kHeaderMasks};
   TextSetting key_texts[kSearchCount] = {{section, "TxtFunction", kNoKeyText},
                                          {section, "TxtMethod", kNoKeyText},
                                          {section, "TxtClass", kNoKeyText},

@@ -13,7 +13,7 @@
 #include "addon/ide/search_watch.h"
 #include "addon/ide/status_line.h"
 #include "addon/ide/wait_cursor.h"
-#include "addon/navigation/name_search.h"
+#include "addon/navigation/ide_sources.h"
 #include "addon/navigation/popup_menu.h"
 #include "addon/navigation/text_prompt.h"
 
@@ -122,8 +122,9 @@ bool QuickFind::findDefinition(Search search, const std::string& name) {
     const std::string text = searchingText(name);
     showStatus(text.c_str());
     SearchWatch watch(text);
-    found = findFirst(plan(search), settings.recurse.value != 0, NameMatcher(search, name), hit,
-                      &watch);
+    IdeSources sources;
+    found = findFirst(sources.files(), plan(search), settings.recurse.value != 0,
+                      NameMatcher(search, name), hit, &watch);
     if (watch.stopped()) {
       showStatus((text + " stopped").c_str());
       return true;
@@ -147,7 +148,9 @@ bool QuickFind::collect(Search search, const std::string& name, Tableau<QuickRes
   const std::string text = searchingText(name);
   showStatus(text.c_str());
   SearchWatch watch(text);
-  collectHits(plan(search), settings.recurse.value != 0, NameMatcher(search, name), hits, &watch);
+  IdeSources sources;
+  collectHits(sources.files(), plan(search), settings.recurse.value != 0, NameMatcher(search, name),
+              hits, &watch);
   if (!watch.stopped()) {
     watch.finished(text.c_str());
   } else if (quickFind == this) {

@@ -9,6 +9,10 @@
 
 namespace kesto {
 
+// The masks where nothing else is set.
+inline constexpr char kSourceMasks[] = "*.cpp;*.cc;*.c";
+inline constexpr char kHeaderMasks[] = "*.h;*.rh";
+
 struct SearchPlaces {
   std::string_view project_directory;  // the current directory without a project
   bool project_open;

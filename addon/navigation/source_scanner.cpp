@@ -73,7 +73,8 @@ DefinitionName splitHead(std::string_view head) {
 
 int compareFunctions(const Fnc& left, const Fnc& right) {
   const int classes = strcmp(left.className(), right.className());
-  return classes != 0 ? classes : strcmp(left.name(), right.name());
+  const int names = classes != 0 ? classes : strcmp(left.name(), right.name());
+  return names != 0 ? names : left.line() - right.line();
 }
 
 // The name between the first opening mark and the closing mark after it.

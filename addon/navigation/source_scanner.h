@@ -26,7 +26,7 @@ inline constexpr std::size_t kIncludeNameLimit = 199;
 
 // Replaces functions by those of the text, in the text's order.
 void scanFunctions(std::string_view text, Tableau<Fnc>& functions);
-// By class, then by name, in byte order.
+// By class, then by name, in byte order, then by line.
 void sortFunctions(Tableau<Fnc>& functions);
 
 // Replaces includes by the names of the text's "#include" lines.

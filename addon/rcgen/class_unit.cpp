@@ -92,7 +92,8 @@ class UnitOutput : private DialogDrain {
         continue;
       }
       if (isUtf16(script)) {
-        host_.notices.notice(std::string(path.view()) + " is UTF-16: no classes are made of it");
+        host_.notices.notice(host_.notices.shown(path.view()) +
+                             " is UTF-16: no classes are made of it");
       } else {
         reader->read(script, emitter);
       }
@@ -148,7 +149,7 @@ void updateClassUnit(const GeneratorHost& host, Folders& folders, const ClassUni
   output.compose(scripts, unit.name.view());
   // As long as the missing or older one stays, so does what makes the unit out of date.
   if (!output.put(header_time < implementation_time)) {
-    host.notices.notice("The classes in " + std::string(unit.directory.view()) +
+    host.notices.notice("The classes in " + host.notices.shown(unit.directory.view()) +
                         " could not be written");
   }
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "addon/foundation/directory_lister.h"
 #include "addon/foundation/file_system.h"
@@ -14,6 +15,8 @@ class GeneratorNotices {
   virtual ~GeneratorNotices() = default;
   // What became of a file otherwise than a person will expect, in a sentence.
   virtual void notice(const std::string& text) = 0;
+  // How a path stands in a sentence.
+  virtual std::string shown(std::string_view path) { return std::string(path); }
 };
 
 struct GeneratorHost {

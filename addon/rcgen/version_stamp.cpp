@@ -159,7 +159,8 @@ class Stamping {
       return false;
     }
     if (isUtf16(text)) {
-      host_.notices.notice(std::string(file.view()) + " is UTF-16: the version is not stamped");
+      host_.notices.notice(host_.notices.shown(file.view()) +
+                           " is UTF-16: the version is not stamped");
       return false;
     }
     return true;
@@ -190,7 +191,8 @@ class Stamping {
       return false;
     }
     host_.notices.notice(
-        std::string(file.view()) + " is made of a VERSION.BAK without a FILEVERSION line; " +
+        host_.notices.shown(file.view()) +
+        " is made of a VERSION.BAK without a FILEVERSION line; " +
         (kept_before ? "VERSION.OLD keeps an earlier text" : "VERSION.OLD keeps what it held"));
     return true;
   }

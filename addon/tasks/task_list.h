@@ -38,8 +38,11 @@ class TaskList : public Ensemble<Task> {
   // and so on up to NAME.bak9.
   void save();
 
-  // Appends the tasks whose days enclose today, of the states of the flash, in the order of
-  // the view, which stays as it is. 1 when out is not empty by then, else 0; out then says so.
+  // Replaces due, which does not own, by the tasks whose days enclose today, of the states of
+  // the flash, in the order of the view, which stays as it is.
+  void dueTasks(Tableau<Task>& due, const TaskDate& today) const;
+  // Appends what is to be read of these tasks. 1 when out is not empty by then, else 0; out then
+  // says so.
   int todayReport(String& out, const TaskDate& today, const DateFormat& format) const;
 
   // The types as one text, ";" between them, cut at TaskSettings::kTypesLimit; and back. An empty

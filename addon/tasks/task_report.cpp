@@ -27,15 +27,20 @@ void appendDue(std::string& report, const Task& task, const DateFormat& format) 
 }  // namespace
 
 // What is not due has no place in the order: it need not be sorted.
-int TaskList::todayReport(String& out, const TaskDate& today, const DateFormat& format) const {
-  Tableau<Task> due;
+void TaskList::dueTasks(Tableau<Task>& due, const TaskDate& today) const {
   due.setOwns(false);
+  due.clear();
   for (int i = 0; i < count(); ++i) {
     if (settings.flash[at(i)->state].value != 0 && isDue(*at(i), today)) {
       due.append(at(i));
     }
   }
   sortTasks(due, order, reverse != 0);
+}
+
+int TaskList::todayReport(String& out, const TaskDate& today, const DateFormat& format) const {
+  Tableau<Task> due;
+  dueTasks(due, today);
   // No text takes more.
   std::string report;
   for (int i = 0; i < due.count() && report.size() < String::kMaxLength; ++i) {

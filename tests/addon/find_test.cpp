@@ -11,7 +11,7 @@
 #include "addon/ide/access.h"
 #include "addon/ide/clipboard.h"
 #include "addon/navigation/cross_reference.h"
-#include "addon/navigation/name_search.h"
+#include "addon/navigation/ide_sources.h"
 #include "addon/navigation/quick_find.h"
 #include "doctest.h"
 #include "tests/addon/bar_session.h"
@@ -182,28 +182,30 @@ TEST_CASE("the files of a tree are searched as the IDE holds them") {
   const NameMatcher matcher(Search::kCross, "call");
   {
     Tableau<QuickResu> hits;
-    collectHits(plan, true, matcher, hits);
+    IdeSources sources;
+    const SearchedFiles files = sources.files();
+    collectHits(files, plan, true, matcher, hits);
     REQUIRE(hits.count() == 4);
-    collectHits(plan, false, matcher, hits);
+    collectHits(files, plan, false, matcher, hits);
     CHECK(hits.count() == 2);
     // The system has a short name for what it lists, "page.html" for one.
-    collectHits({{folder.path(), "*.htm"}}, false, matcher, hits);
+    collectHits(files, {{folder.path(), "*.htm"}}, false, matcher, hits);
     CHECK(hits.count() == 2);
 
     // The file of the first reads cannot be read; the search goes on behind it.
     ide.stream.negative_reads = 2;
     FirstHit hit;
-    CHECK(findFirst(plan, true, matcher, hit));
+    CHECK(findFirst(files, plan, true, matcher, hit));
     CHECK(hit.file == folder.path() + "\\sub\\b.cpp");
     CHECK(hit.line == 3);
-    CHECK_FALSE(findFirst(plan, true, NameMatcher(Search::kClass, "call"), hit));
+    CHECK_FALSE(findFirst(files, plan, true, NameMatcher(Search::kClass, "call"), hit));
 
     // Hits without end are cut off before memory is.
     ide.stream.disk.clear();
     for (int i = 0; i < 2000; ++i) {
       ide.stream.disk += " call" + std::string(40000, '.') + "\n";
     }
-    collectHits(plan, true, matcher, hits);
+    collectHits(files, plan, true, matcher, hits);
     CHECK(hits.count() > 1000);
     CHECK(hits.count() * size_t{40000} <= kHitBytesLimit);
   }

@@ -3,7 +3,8 @@
 set -u
 
 # Each folder's floor. Files of addon/ itself are its roof; those of workbench/ itself
-# say what may be asked of the Workbench's roof, which is app/.
+# say what may be asked of the Workbench's roof, which is app/. The command line is another
+# roof over the add-on's core, and a reader of the Workbench's project files.
 floors='
 ideapi 0
 addon/foundation 0
@@ -20,6 +21,8 @@ addon/rcgen 3
 addon/topbar 4
 addon/pages 5
 addon 6
+cli/posix 6
+cli 7
 workbench/events 0
 workbench/windows 0
 workbench/project 1
@@ -44,14 +47,26 @@ complain() {
 }
 
 # FILE INCLUDED, a line for each include in quotes.
-includes=$(grep -rHE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' addon ideapi workbench \
+includes=$(grep -rHE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' addon ideapi workbench cli \
   --include='*.h' --include='*.cpp' | sed -E 's/^([^:]+):[^"]*"([^"]*)".*/\1 \2/')
 [ -n "$includes" ] || complain "found no includes at all: is this the root of the repository?"
 
+# core FOLDER LIBRARY: the sources of the library, by FOLDER/CMakeLists.txt.
+core() {
+  awk -v library="$2" '
+    $0 ~ "^add_library\\(" library "[ )]" { inside = 1; next }
+    inside && /\)/ { exit }
+    inside { print $1 }' "$1/CMakeLists.txt" | sed "s|^|$1/|"
+}
+
 # Down, by the floors; addon and workbench know nothing of each other.
-wrong=$(printf '%s\n' "$includes" | awk -v floors="$floors" -v sideways="$sideways" '
+wrong=$(printf '%s\n' "$includes" | awk -v floors="$floors" -v sideways="$sideways" \
+  -v readers="$(core workbench workbench_project)" '
   function folder(path) { sub("/[^/]*$", "", path); return path }
   BEGIN {
+    count = split(readers, files, "\n")
+    for (i = 1; i <= count; i++) { sub("[.]cpp$", ".h", files[i]); shared[files[i]] = 1 }
+    shared["workbench/project/project_file.h"] = 1
     count = split(floors, words, /[ \n]+/)
     for (i = 1; i < count; i++) if (words[i] != "") { floor[words[i]] = words[i + 1]; i++ }
     count = split(sideways, rows, "\n")
@@ -60,10 +75,12 @@ wrong=$(printf '%s\n' "$includes" | awk -v floors="$floors" -v sideways="$sidewa
   {
     from = folder($1)
     to = folder($2)
-    if ($2 !~ /^(addon|ideapi|workbench)\//) {
+    if ($2 !~ /^(addon|ideapi|workbench|cli)\//) {
       print $1 ": includes \"" $2 "\", which is no path from the root"
-    } else if (from ~ /^workbench/ ? to ~ /^addon/ : to ~ /^workbench/) {
+    } else if (from ~ /^cli/ ? to ~ /^ideapi/ : from ~ /^workbench/ ? to ~ /^addon/ : to ~ /^workbench/) {
       print $1 ": includes \"" $2 "\" of the other program"
+    } else if (from ~ /^cli/ && to ~ /^workbench/) {
+      if (!($2 in shared)) print $1 ": includes \"" $2 "\", which is no part of a project file"
     } else if (from != to) {
       if (!(from in floor)) print $1 ": its folder has no floor"
       else if (!(to in floor)) print $1 ": the folder of \"" $2 "\" has no floor"
@@ -81,15 +98,9 @@ circle=$(printf '%s\n' "$includes" | awk '
 $circle"
 
 # The plain core gets along without Windows: its own files and whatever they include.
-# core FOLDER LIBRARY: the sources of the library, by FOLDER/CMakeLists.txt.
-core() {
-  awk -v library="$2" '
-    $0 ~ "^add_library\\(" library "[ )]" { inside = 1; next }
-    inside && /\)/ { exit }
-    inside { print $1 }' "$1/CMakeLists.txt" | sed "s|^|$1/|"
-}
-plain=$(core addon addon_core; core workbench workbench_core)
-for library in addon workbench; do
+plain=$(core addon addon_core; core workbench workbench_core; core workbench workbench_project
+  core cli cli_core)
+for library in addon workbench cli; do
   printf '%s\n' "$plain" | grep -q "^$library/" || complain "found no plain core of $library"
 done
 while :; do

@@ -5,7 +5,7 @@ longest=500
 
 wrong=$(
   # What tests and scenarios work on is text for them, not code of the house.
-  find addon ideapi workbench tests bench fuzz \( -path tests/scenarios -o -path 'tests/*/data' \) -prune -o \
+  find addon ideapi workbench cli tests bench fuzz \( -path tests/scenarios -o -path 'tests/*/data' \) -prune -o \
     -type f \( -name '*.h' -o -name '*.cpp' \) -print 2>/dev/null | sort |
     while read -r file; do
       lines=$(wc -l <"$file")

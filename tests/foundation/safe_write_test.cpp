@@ -1,6 +1,7 @@
 // The steps of putting a new text in its place. What they add up to for the features is
 // tested with these; on Windows the real file system has its turn as well.
 #include "addon/foundation/safe_write.h"
+#include "addon/foundation/path.h"
 
 #include <map>
 #include <string>
@@ -21,12 +22,13 @@ TEST_CASE("what grows beside a file is in its folder, and no source by its name"
   CHECK(newTextPath("C:\\P\\rc.cpp").view() == "C:\\P\\.rc.cpp.kesto-new");
   CHECK(oldTextPath("a/b").view() == "a/.b.kesto-old");
   CHECK(newTextPath("b").view() == ".b.kesto-new");
-  // 259 characters are the most that the system takes.
-  const std::string folder = "C:\\" + std::string(242, 'd') + "\\";
+  // "C:\", "\.ab" and ".kesto-new" are the 17 beside.
+  const std::string folder = "C:\\" + std::string(kPathLimit - 17, 'd') + "\\";
   CHECK(newTextPath(folder + "ab").view() == folder + ".ab.kesto-new");
   CHECK(newTextPath(folder + "abc").view() == folder + "ab~");
   CHECK(oldTextPath(folder + "abc").view() == folder + "ab!");
   CHECK(newTextPath(folder + "ab~").view() == folder + "ab_");
+  CHECK(newTextPath("f/" + std::string(245, 'n')).view() == "f/" + std::string(244, 'n') + '~');
 }
 
 TEST_CASE("where no file replaces another, the old one is there until the new one is") {

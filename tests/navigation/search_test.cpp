@@ -181,11 +181,12 @@ TEST_CASE("directories without end and paths without end are left") {
     CHECK_FALSE(walkDirectory(folders, root, "*.h", true, visits));
     CHECK(tree.listed.size() == kDirectoryLimit);
   }
-  // "C:\P\" and 254 characters are 259.
-  tree.sources["C:\\R"] = {std::string(253, 'x') + ".c", std::string(252, 'y') + ".c"};
+  // "C:\R\" and ".c" are the 7 beside.
+  const std::string longest = std::string(kPathLimit - 7, 'y') + ".c";
+  tree.sources["C:\\R"] = {'x' + longest, longest};
   Folders others(tree);
   CHECK_FALSE(walkDirectory(others, "C:\\R", "*.c", false, visits));
-  CHECK(visits.paths == "C:\\R\\" + std::string(252, 'y') + ".c ");
+  CHECK(visits.paths == "C:\\R\\" + longest + ' ');
 }
 
 TEST_CASE("who looks on ends all walks of a search") {
