@@ -124,13 +124,18 @@ Function check
   StrCpy $Trouble ""
   StrCpy $Upgrade ""
   ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "InstallLocation"
-  ${If} ${FileExists} "$0\uninstall.exe"
+  ${If} $0 != ""
+  ${AndIf} ${FileExists} "$0\uninstall.exe"
     ${If} $0 == $INSTDIR
       StrCpy $Upgrade "yes"
     ${Else}
       StrCpy $Trouble "Kesto is installed in $0.$\r$\n$\r$\nInstall it in that folder, or remove it there first."
       Return
     ${EndIf}
+  ${EndIf}
+  ; Where one was cut short, what it had placed is its own.
+  ${If} ${FileExists} "${NEW}\*.*"
+    StrCpy $Upgrade "yes"
   ${EndIf}
   !insertmacro ForLines "$PLUGINSDIR\files.lst"
     ${If} $Trouble == ""
@@ -362,7 +367,9 @@ Section
     ${EndIf}
   !insertmacro NextLine
   Call fillMenu
-  ${Say} "In $INSTDIR: Kesto ${VERSION}. No setting has been touched."
+  ${Say} "Kesto ${VERSION} is installed in"
+  ${Say} "  $INSTDIR"
+  ${Say} "No setting has been touched."
 SectionEnd
 
 ; ---------------------------------------------------------------------------

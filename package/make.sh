@@ -33,7 +33,8 @@ stage() { # BIN STAGE
     case $kind in P | E) ;; *) continue ;; esac
     case $source in bin/*) source=$bin/${source#bin/} ;; esac
     names=$(members "$source")
-    for member in $names; do
+    [ -n "$names" ] || die "the package lacks what is in $source"
+    while IFS= read -r member; do
       target=$place${member#"$source"}
       mkdir -p "$(dirname "$folder/$target")"
       cp "$member" "$folder/$target"
@@ -42,7 +43,7 @@ stage() { # BIN STAGE
         package/*.TXT) sed -i 's/$/\r/' "$folder/$target" ;;
       esac
       printf '%s %s\n' "$kind" "$target" >>"$2/kinds"
-    done
+    done <<<"$names"
   done <package/files.txt
   list "$2"
 }

@@ -132,7 +132,8 @@ bool chooseInclude(int index) {
 
 bool editDocumentation() {
   activateFrame();
-  if (hookSet != nullptr) {
+  // The groupware menu has the command, too, when no title has been clicked yet.
+  if (hookSet != nullptr && hookSet->target().documented[0] != '\0') {
     // Each view of a file leads to the file's one documentation.
     openFile((std::string(fileWithoutLine(hookSet->target().documented)) + ".txt").c_str());
   }

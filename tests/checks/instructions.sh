@@ -17,6 +17,8 @@ wrong=$(
   i686-w64-mingw32-objdump -s -j .gnu_debuglink "$dll" 2>/dev/null | grep -q 'Kestoaob\.dbg' ||
     echo "does not name its symbols"
   i686-w64-mingw32-objdump -h "$symbols" | grep -q '\.debug_line' || echo "has no symbols beside it"
+  # It holds a checksum of them.
+  TZ=UTC i686-w64-mingw32-objdump -p "$symbols" | grep -q '^Time/Date.* 1970$' || echo "tells by its symbols when it was built"
 
   # Behind the code the linker puts the lists of what to call at start and end.
   names=$(i686-w64-mingw32-nm -n "$symbols" | awk '$2 ~ /[tT]/ { print $1, $3 }')

@@ -97,6 +97,9 @@ ends 2 "an installation over a person's file" wine "$work/old.exe" /S '/D=C:\Too
 value_is "$addon_key" Path '' "a refused installation"
 rm -r "$disk/Tools"
 
+# One that was cut short had placed a part, and not registered yet.
+mkdir -p "$folder/~kesto.new" "$folder/Keywords"
+cp "$old/files/Kestoaob.cnt" "$old/files/files.lst" "$folder"
 ends 0 "the older version's installation" wine "$work/old.exe" /S '/D=C:\Tools\Kesto'
 value_is "$addon_key" Path 'C:\Tools\Kesto\Kestoaob.dll' "the IDE's entry"
 for file in main.cpp ../gone/mine.cpp; do echo '// mine' >>"$folder/Examples/shapes/$file"; done
