@@ -45,7 +45,8 @@ class Session {
  private:
   struct Shown {
     std::string disk;    // without a separator behind
-    std::string prefix;  // what stands for it and the separator
+    std::string given;   // what stands for it
+    std::string prefix;  // and for it and the separator
   };
 
   System& system_;
@@ -77,7 +78,6 @@ class Progress : public WalkWatch {
 
   Session& session_;
   bool on_terminal_;
-  bool told_ = false;
   Clock::time_point next_;
 };
 
