@@ -123,6 +123,14 @@ void Session::tellFailure(std::string_view core) {
   complaints_.tell(shown(core), reason);
 }
 
+void Session::tellUnlisted(const char* core) {
+  const std::string reason = system_.reason();
+  const std::optional<FileStatus> status = system_.files().status(core);
+  if (status && status->is_directory) {
+    complaints_.tell(shown(core), reason);
+  }
+}
+
 int Session::result(bool found) const {
   return complaints_.any() ? kError : found ? kFound : kNothing;
 }

@@ -39,6 +39,8 @@ class Session {
   bool readGiven(const std::string& given, std::string& bytes);
   // Tells of a path of the core why the latest step failed.
   void tellFailure(std::string_view core);
+  // Tells why nothing was listed in a folder of the core, if it is there.
+  void tellUnlisted(const char* core);
   // The exit code of a command that was not cut short.
   int result(bool found) const;
 
