@@ -76,7 +76,7 @@ void checkReport(const TaskList& list, std::string_view bytes) {
 
 void checkTypes(TaskList& list) {
   const String joined = list.joinedTypes();
-  FUZZ_CHECK(joined.view().size() <= TaskList::kTypesLimit);
+  FUZZ_CHECK(joined.view().size() <= TaskSettings::kTypesLimit);
   list.setTypes(joined.view());
   const String again = list.joinedTypes();
   const bool ends_empty = joined.view().ends_with(';');

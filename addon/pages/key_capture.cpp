@@ -3,6 +3,7 @@
 #include "addon/foundation/key_code.h"
 #include "addon/ide/dialog_place.h"
 #include "addon/ide/environment.h"
+#include "addon/ide/help_file.h"
 #include "addon/ide/hook_set.h"
 #include "addon/pages/page_ids.h"
 
@@ -15,7 +16,8 @@ constexpr int kNameSize = 64;
 
 struct Capture {
   NamedKey key;
-  bool striking;  // waits for a key while the dialog is in front
+  bool striking;   // waits for a key while the dialog is in front
+  bool took_help;  // the key taken last is that of the help
 };
 
 Capture* captureOf(HWND dialog) {
@@ -66,11 +68,21 @@ void endStriking(HWND dialog, const NamedKey& key) {
 
 void onKey(HWND dialog, UINT virtual_key, LPARAM lParam) {
   const unsigned code = pressedKeyCode(virtual_key, lParam);
+  captureOf(dialog)->took_help = virtual_key == VK_F1;
   if (code == VK_ESCAPE) {
     EndDialog(dialog, IDCANCEL);
   } else {
     endStriking(dialog, {code, keyText(code, nameOfKey(virtual_key, lParam))});
   }
+}
+
+// The system may ask for help at a key that nobody else got.
+void onHelp(HWND dialog) {
+  Capture& capture = *captureOf(dialog);
+  if (!capture.striking && !capture.took_help) {
+    showHelpOn(WM_HELP, kHelpKeyCapture);
+  }
+  capture.took_help = false;
 }
 
 bool onCommand(HWND dialog, int control) {
@@ -111,6 +123,9 @@ INT_PTR CALLBACK captureProcedure(HWND dialog, UINT message, WPARAM wParam, LPAR
       }
       onKey(dialog, static_cast<UINT>(wParam), lParam);
       return TRUE;
+    case WM_HELP:
+      onHelp(dialog);
+      return TRUE;
     case WM_COMMAND:
       return onCommand(dialog, LOWORD(wParam)) ? TRUE : FALSE;
     case WM_DESTROY:
@@ -124,7 +139,7 @@ INT_PTR CALLBACK captureProcedure(HWND dialog, UINT message, WPARAM wParam, LPAR
 }  // namespace
 
 bool captureKey(HWND owner, NamedKey& key) {
-  Capture capture = {key, true};
+  Capture capture = {key, true, false};
   if (addonEnvironment == nullptr ||
       DialogBoxParamA(addonEnvironment->instance, "KeyCapture", owner, captureProcedure,
                       reinterpret_cast<LPARAM>(&capture)) != IDOK) {
