@@ -11,11 +11,11 @@
 namespace kesto::cli {
 namespace {
 
-// The sources as they lie on the disk. A name beyond ASCII is sought in Windows-1252, to
-// which texts in UTF-8 are turned meanwhile.
+// The sources as they lie on the disk. A name beyond ASCII is sought in UTF-8, to which
+// other texts are turned meanwhile.
 class DiskTexts : public SourceTexts {
  public:
-  DiskTexts(Session& session, bool in_ansi) : session_(session), in_ansi_(in_ansi) {}
+  DiskTexts(Session& session, bool in_utf8) : session_(session), in_utf8_(in_utf8) {}
 
   std::string_view textOf(const char* path) override {
     System& system = session_.system();
@@ -23,21 +23,24 @@ class DiskTexts : public SourceTexts {
     if (!system.readBytes(path, bytes)) {
       session_.tellFailure(path);
     }
-    if (in_ansi_) {
-      bytes = ansi_ = ansiOf(bytes);
+    if (in_utf8_) {
+      bytes = utf8_ = utf8Of(bytes);
     }
     return bytes;
   }
 
  private:
   Session& session_;
-  bool in_ansi_;
-  std::string ansi_;
+  bool in_utf8_;
+  std::string utf8_;
 };
 
 class HitWriter : public HitListener {
  public:
-  HitWriter(Session& session, bool first_only) : session_(session), first_only_(first_only) {}
+  HitWriter(Session& session, bool first_only, bool in_utf8)
+      : session_(session),
+        first_only_(first_only),
+        to_ansi_(in_utf8 && !session.system().isUtf8()) {}
 
   bool hit(const char* file, int line, std::string_view text) override {
     found_ = true;
@@ -46,7 +49,7 @@ class HitWriter : public HitListener {
     if (output.json()) {
       output.add(Row().text("file", shown).number("line", line).text("text", text));
     } else {
-      output.located(shown, line, text);
+      output.located(shown, line, to_ansi_ ? ansiOf(text) : std::string(text));
     }
     return !first_only_ && output.open();
   }
@@ -55,6 +58,7 @@ class HitWriter : public HitListener {
  private:
   Session& session_;
   bool first_only_;
+  bool to_ansi_;
   bool found_ = false;
 };
 
@@ -99,11 +103,12 @@ int search(Session& session, const Request& request, Search search, const std::s
   const std::string headers = request.list("headers", kHeaderMasks);
   const std::vector<SearchStep> plan =
       planSearch(search, {place.folder(), true, source_path, include_path, sources, headers});
-  const std::string sought = ansiOf(name);
+  const bool in_utf8 = !isAscii(name);
+  const std::string sought = utf8Of(name);
   const NameMatcher matcher(search, sought);
-  DiskTexts texts(session, sought != name);
+  DiskTexts texts(session, in_utf8);
   ToldFolders folders(session);
-  HitWriter writer(session, search == Search::kFunction || search == Search::kClass);
+  HitWriter writer(session, search == Search::kFunction || search == Search::kClass, in_utf8);
   Progress progress(session);
   findAll({folders, texts}, plan, !request.has("no-recurse"), matcher, writer, &progress);
   return session.result(writer.found());

@@ -78,7 +78,7 @@ int run(const std::vector<std::string>& arguments) {
   Complaints told;
   complaints = &told;
   const std::unique_ptr<System> system = openSystem();
-  Output output(stdout);
+  Output output(stdout, told);
   const int code = runCommand(arguments, *system, output, told);
   if (const int fault = output.finish(); fault != 0) {
     told.tell("standard output", strerror(fault));

@@ -1,6 +1,7 @@
 #include "cli/output.h"
 
 #include <cerrno>
+#include <utility>
 
 #include "cli/text_form.h"
 
@@ -24,6 +25,7 @@ void Output::put(std::string_view bytes) {
 
 int Output::finish() {
   if (fault_ == 0 && !buffer_.empty()) {
+    complaints_.clearProgress();
     errno = 0;
     const bool written = fwrite(buffer_.data(), 1, buffer_.size(), stream_) == buffer_.size() &&
                          fflush(stream_) == 0;
@@ -96,6 +98,17 @@ void Complaints::note(std::string_view file, std::string_view text) {
   print(file, text);
 }
 
+void Complaints::showProgress(const std::string& text) {
+  fprintf(stderr, "\r%s\x1b[K", text.c_str());
+  in_progress_ = true;
+}
+
+void Complaints::clearProgress() {
+  if (std::exchange(in_progress_, false)) {
+    fputs("\r\x1b[K", stderr);
+  }
+}
+
 void Complaints::print(std::string_view file, std::string_view text) {
   std::string line = "kesto-cli: ";
   if (!file.empty()) {
@@ -105,6 +118,7 @@ void Complaints::print(std::string_view file, std::string_view text) {
   line += text;
   line += '\n';
   if (told_.insert(line).second) {
+    clearProgress();
     fwrite(line.data(), 1, line.size(), stderr);
   }
 }

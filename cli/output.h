@@ -17,11 +17,13 @@ struct OutputStyle {
   bool utf8 = true;      // names and texts that are shown, else Windows-1252
 };
 
+class Complaints;
 class Row;
 
 class Output {
  public:
-  explicit Output(FILE* stream, OutputStyle style = {}) : stream_(stream), style_(style) {}
+  // The complaints must outlive it: they may share its terminal.
+  Output(FILE* stream, Complaints& complaints) : stream_(stream), complaints_(complaints) {}
   void setStyle(const OutputStyle& style) { style_ = style; }
 
   bool json() const { return style_.json; }
@@ -43,6 +45,7 @@ class Output {
   void put(std::string_view bytes);
 
   FILE* stream_;
+  Complaints& complaints_;
   OutputStyle style_;
   std::string buffer_;
   int fault_ = 0;
@@ -70,11 +73,16 @@ class Complaints {
   void note(std::string_view file, std::string_view text);
   bool any() const { return any_; }
 
+  // For a terminal: a line that stands there until something else is written.
+  void showProgress(const std::string& text);
+  void clearProgress();
+
  private:
   void print(std::string_view file, std::string_view text);
 
   std::set<std::string> told_;
   bool any_ = false;
+  bool in_progress_ = false;
 };
 
 }  // namespace kesto::cli

@@ -73,12 +73,13 @@ bool Place::openProject(const std::string& given, const std::string& file) {
   folder_ = workbench::folderOf(file);
   if (!given.empty()) {
     const std::string_view directory = directoryPart(given);
-    session_.showBelow(folder_, directory.empty() && given.front() != '/' ? "." : directory);
+    const std::string_view top = given.front() == '/' ? "/" : ".";
+    session_.showBelow(folder_, directory.empty() ? top : directory);
   }
   std::string_view bytes;
   System& system = session_.system();
   if (!system.files().status(file.c_str())) {
-    return !session_.folder(system.diskPath(folder_)).empty();
+    return !session_.folder(std::string(session_.shown(folder_))).empty();
   }
   if (!system.readBytes(file.c_str(), bytes)) {
     session_.tellFailure(file);

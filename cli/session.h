@@ -39,13 +39,16 @@ class Session {
   bool readGiven(const std::string& given, std::string& bytes);
   // Tells of a path of the core why the latest step failed.
   void tellFailure(std::string_view core);
+  // Tells why nothing was listed in a folder of the core, if it is there.
+  void tellUnlisted(const char* core);
   // The exit code of a command that was not cut short.
   int result(bool found) const;
 
  private:
   struct Shown {
     std::string disk;    // without a separator behind
-    std::string prefix;  // what stands for it and the separator
+    std::string given;   // what stands for it
+    std::string prefix;  // and for it and the separator
   };
 
   System& system_;
@@ -77,7 +80,6 @@ class Progress : public WalkWatch {
 
   Session& session_;
   bool on_terminal_;
-  bool told_ = false;
   Clock::time_point next_;
 };
 

@@ -78,13 +78,9 @@ class ToldGroup : public GroupListing {
 
   void list(const char* directory, const char* mask, FileListener& listener) override {
     Counting counting(listener);
-    System& system = session_.system();
-    system.group().list(directory, mask, counting);
+    session_.system().group().list(directory, mask, counting);
     if (!counting.any && mask == std::string_view("*")) {
-      const std::string reason = system.reason();
-      if (const auto status = system.files().status(directory); status && status->is_directory) {
-        session_.complaints().tell(session_.shown(directory), reason);
-      }
+      session_.tellUnlisted(directory);
     }
   }
   std::optional<FileFacts> facts(const char* path) override {

@@ -25,7 +25,7 @@ class System {
   virtual char separator() const = 0;
   // Whether names and what is written to a terminal are UTF-8, else Windows-1252.
   virtual bool isUtf8() const = 0;
-  // A whole path, as the core has it, of one that a person gave.
+  // A whole path, as the core has it, of one that a person gave; empty when it has none.
   virtual std::string corePath(std::string_view given) = 0;
   // The same path as the system and a person have it; empty when it has none.
   virtual std::string diskPath(std::string_view core) = 0;

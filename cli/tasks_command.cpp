@@ -93,7 +93,7 @@ class TaskWriter {
     const bool any = tasks_.todayReport(report, day, PlainDates()) != 0;
     std::string text(report.view());
     std::erase(text, '\r');
-    session_.output().line(session_.output().shown(text));
+    session_.output().line(shownApart(text, '\n'));
     return session_.result(any);
   }
 
@@ -114,6 +114,20 @@ class TaskWriter {
   }
 
  private:
+  // Texts that were written at different times may differ in their encoding.
+  std::string shownApart(std::string_view texts, char separator) const {
+    std::string all;
+    for (;;) {
+      const std::size_t end = texts.find(separator);
+      all += session_.output().shown(texts.substr(0, end));
+      if (end == texts.npos) {
+        return all;
+      }
+      all += separator;
+      texts.remove_prefix(end + 1);
+    }
+  }
+
   void write(const Tableau<Task>& tasks) {
     const PlainDates dates;
     Output& output = session_.output();
@@ -132,7 +146,7 @@ class TaskWriter {
       } else {
         std::string row;
         task.appendRow(row, dates);
-        output.line(output.shown(row));
+        output.line(shownApart(row, '\t'));
       }
     }
   }

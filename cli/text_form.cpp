@@ -7,10 +7,6 @@
 namespace kesto::cli {
 namespace {
 
-bool isAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return (c & '\x80') == 0; });
-}
-
 void appendEscape(std::string& json, unsigned char code) {
   constexpr char kDigits[] = "0123456789abcdef";
   switch (code) {
@@ -31,6 +27,10 @@ void appendEscape(std::string& json, unsigned char code) {
 }
 
 }  // namespace
+
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return (c & '\x80') == 0; });
+}
 
 bool isUtf8(std::string_view text) {
   while (!text.empty()) {

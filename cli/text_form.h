@@ -7,11 +7,12 @@
 
 namespace kesto::cli {
 
+bool isAscii(std::string_view text);
 // Whether all of it is UTF-8.
 bool isUtf8(std::string_view text);
 std::string utf8Of(std::string_view text);
-// A text that is searched for or in, as Windows-1252: UTF-8 becomes it, "?" for what that
-// does not have, and any other text stays.
+// The text in Windows-1252: UTF-8 becomes it, "?" for what that does not have, and any other
+// text stays.
 std::string ansiOf(std::string_view text);
 // A JSON string of UTF-8, with its quotes; a byte that is none becomes U+FFFD.
 std::string jsonOf(std::string_view utf8);

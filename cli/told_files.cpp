@@ -77,19 +77,13 @@ bool ToldFiles::makeDirectory(const char* path) {
 }
 
 void ToldFolders::list(const char* directory, const char* mask, DirectoryEntries& entries) {
-  DirectoryEntries listed;
-  System& system = session_.system();
-  system.lister().list(directory, mask, entries);
+  session_.system().lister().list(directory, mask, entries);
   // Where there is a folder, there is its "." as well.
   bool empty = true;
   entries.each(
       [&empty](DirectoryEntries::Kind, std::string_view, std::string_view) { empty = false; });
   if (empty && mask == std::string_view("*")) {
-    const std::string reason = system.reason();
-    const std::optional<FileStatus> status = system.files().status(directory);
-    if (status && status->is_directory) {
-      session_.complaints().tell(session_.shown(directory), reason);
-    }
+    session_.tellUnlisted(directory);
   }
 }
 

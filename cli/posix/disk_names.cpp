@@ -67,12 +67,8 @@ std::string tidy(std::string_view path) {
   return result;
 }
 
-std::string wholePath(std::string_view disk) {
-  std::string path(disk);
-  if (!path.starts_with('/')) {
-    char here[PATH_MAX] = "";
-    path = std::string(getcwd(here, sizeof here) != nullptr ? here : "") + '/' + path;
-  }
+// Of a path that starts at the current directory or the root.
+std::string wholePath(std::string path) {
   // Above a link is not where its name stands.
   char real[PATH_MAX] = "";
   if (path.find("..") != std::string::npos && realpath(path.c_str(), real) != nullptr) {
@@ -84,8 +80,17 @@ std::string wholePath(std::string_view disk) {
 }  // namespace
 
 std::string DiskNames::corePath(std::string_view disk) {
+  std::string path(disk);
+  if (!disk.starts_with('/')) {
+    char here[PATH_MAX] = "";
+    if (disk.empty() || getcwd(here, sizeof here) == nullptr) {
+      errno = ENOENT;
+      return {};
+    }
+    path = here + ('/' + path);
+  }
   std::string core(kDrive);
-  const std::string whole = wholePath(disk);
+  const std::string whole = wholePath(path);
   std::string_view rest = whole;
   while (!rest.empty()) {
     rest.remove_prefix(1);
@@ -132,6 +137,9 @@ std::string DiskNames::diskName(std::string_view core_name) const {
 }
 
 std::string DiskNames::diskPath(std::string_view core) const {
+  if (core.empty()) {
+    return {};
+  }
   if (core.size() >= 2 && core[1] == ':') {
     if (core[0] != 'Z' && core[0] != 'z') {
       return {};

@@ -15,10 +15,10 @@ namespace kesto::cli {
 class DiskNames {
  public:
   // A whole path, "." and ".." taken out; one that is not whole starts at the current
-  // directory.
+  // directory. Empty, and errno set, for one that is empty or starts where nothing is.
   std::string corePath(std::string_view disk);
   std::string coreName(std::string_view disk_name);
-  // The path as the core writes it, not looked up; empty for one on another drive. One
+  // The path as the core writes it, not looked up; empty for none or one on another drive. One
   // with "/" instead of a drive is taken as well.
   std::string diskPath(std::string_view core) const;
   // The path of what is there under that name, or, where nothing is, of what can be made.

@@ -56,7 +56,7 @@ printf '#include <a b.h>\n/* #include "c.h" */\n#include ""\n\tuse(first);\nint 
 printf '  use();\n' | tee 'my p/src/.x/no.c' 'my p/kopf/only.h' >'my p/teil/x.cpp'
 printf 'class A : B {\n// \xc3\xb6\n};\n' >'my p/kopf/a.h'
 printf 'int f()\nint g()\n' >'my p/teil/l.c'
-printf '\tgr\xc3\xb6\xc3\x9fer;\n' >'my p/src/u.cpp'
+printf '\tgr\xc3\xb6\xc3\x9fer(\xce\xb1 ? 1);\n' >'my p/src/u.cpp'
 mkdir -p plain/Include && cp 'my p/kopf/a.h' plain/Include
 cat >'my p/my.ide' <<'END'
 Workbench project 1
@@ -81,7 +81,8 @@ gives 0 "my p/kopf/a.h:1:class A : B {$lf" find class A --project 'my p'
 gives 0 "plain/Include/a.h:1:class A : B {$lf" find class A --project plain
 gives 0 "{\"file\":\"my p/größe.cpp\",\"line\":7,\"text\":\"class A {\"}$lf" find class A --project 'my p' --include-path 'my p' --headers '*.cpp' --no-recurse --json
 gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/teil/x.cpp:1:  use();$lf""my p/src/s.CC:4:${tab}use(first);$lf" xref use --project 'my p'
-gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/src/u.cpp:1:${tab}größer;$lf" xref größer --project 'my p'
+gives 0 "my p/größe.cpp:3:  use();  // größer$lf""my p/src/u.cpp:1:${tab}größer(α ? 1);$lf" xref größer --project 'my p'
+gives 0 "my p/src/u.cpp:1:${tab}größer(α ? 1);$lf" xref α --project 'my p'
 gives 1 '' xref absent --project 'my p'
 (cd 'my p/teil' && "$cli" xref use && "$cli" xref use --project ../src) >out
 is "paths from the current folder on" [ "$(cat out)" = "x.cpp:1:  use();$lf../src/s.CC:4:${tab}use(first);" ]
@@ -89,6 +90,9 @@ is "paths from the current folder on" [ "$(cat out)" = "x.cpp:1:  use();$lf../sr
 # Standard input, and what keywords are taken and completed.
 is "keywords of standard input" [ "$(printf 'int S::a(int v)\nvoid *b(int)\nint c();\n' | "$cli" keywords -)" = "S${lf}a${lf}b" ]
 is "functions of standard input" [ "$(printf '\nint f()\n' | "$cli" functions - --json)" = '{"file":"-","line":2,"class":"","name":"f"}' ]
+mkfifo pipe
+(echo 'int f()' >pipe) &
+is "functions of a pipe that has a name" [ "$(timeout 20 "$cli" functions pipe)" = 'pipe:1:f' ]
 is "functions of a pipe" [ "$("$cli" functions <(printf '\nint f()\n') | cut -d: -f2-)" = '2:f' ]
 gives 0 '' keywords 'my p/größe.cpp' --write
 is "the keyword file" [ "$(cat 'my p/größe.kwd')" = $'first\r\nA\r\nm\r\nfirst\r' ]
@@ -148,7 +152,12 @@ tells 'no.cpp: No such file' functions no.cpp 'my p/größe.cpp'
 is "the file after a missing one" grep -q 'größe.cpp:1:first' out
 tells 'my p: is a folder' includes 'my p'
 tells 'no: No such file' html no
-tells 'no/x.ide\|no: No such file' xref a --project no/x.ide
+tells ' no: No such file' xref a --project no/x.ide
+tells '"": No such file' functions ''
+tells '"": No such file' find class A --project ''
+tells '"": No such file' status . --server ''
+mkdir gone
+is "a current folder that is gone" [ "$(cd gone && rmdir ../gone && "$cli" find function a --no-recurse 2>&1)" = 'kesto-cli: .: No such file or directory' ]
 printf 'Workbench project 1\nnode "a"\nend\n' >bad.ide
 tells 'bad.ide:2: "node" needs' xref a --project bad.ide
 tells 'words.kwd: is no folder' classes words.kwd
