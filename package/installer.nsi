@@ -44,7 +44,7 @@ Var Kind       ; of its line
 Var Name
 Var High       ; time of the installed files
 Var Low
-Var Upgrade    ; "yes" where the folder has an installation
+Var Upgrade    ; "yes" where the folder has an installation, "cut" where one was cut short
 Var Trouble    ; why it cannot be done; or empty
 Var OldPath    ; what was registered
 Var OldVersion
@@ -135,7 +135,7 @@ Function check
   ${EndIf}
   ; Where one was cut short, what it had placed is its own.
   ${If} ${FileExists} "${NEW}\*.*"
-    StrCpy $Upgrade "yes"
+    StrCpy $Upgrade "cut"
   ${EndIf}
   !insertmacro ForLines "$PLUGINSDIR\files.lst"
     ${If} $Trouble == ""
@@ -286,6 +286,26 @@ Function place
   !insertmacro NextLine
 FunctionEnd
 
+; What had a program file's name and was not installed with the others is a person's. It
+; stays, under a name that is free.
+Function keepBeside
+  !insertmacro ForLines "$PLUGINSDIR\files.lst"
+    ${If} $Kind == "P"
+    ${AndIf} $Name != "uninstall.exe"
+    ${AndIf} ${FileExists} "${OLD}\$Name"
+      GetFileTime "${OLD}\$Name" $1 $2
+      ${If} "$1:$2" != "$High:$Low"
+        StrCpy $0 "$Name.old"
+        ${While} ${FileExists} "$INSTDIR\$0"
+          StrCpy $0 "$0.old"
+        ${EndWhile}
+        Rename "${OLD}\$Name" "$INSTDIR\$0"
+        ${Say} "Kept, as it was not of Kesto: $0"
+      ${EndIf}
+    ${EndIf}
+  !insertmacro NextLine
+FunctionEnd
+
 Function register
   ${Say} "Registered for the IDE, below HKEY_LOCAL_MACHINE:"
   ${Say} "  ${ADDON_KEY}"
@@ -359,6 +379,10 @@ Section
   ${EndIf}
   StrCpy $Begun ""
 
+  ${If} $Upgrade == "yes"
+  ${AndIf} $High != "none"
+    Call keepBeside
+  ${EndIf}
   RMDir /r "${NEW}"
   RMDir /r "${OLD}"
   !insertmacro ForLines "$PLUGINSDIR\old.lst"

@@ -75,8 +75,8 @@ echo older >>"$old/files/Kestoaob.dll"
 echo older >"$old/files/Examples/shapes/canvas.cpp"
 mkdir "$old/files/Examples/gone"
 echo older | tee "$old/files/Examples/gone/gone.cpp" >"$old/files/Examples/gone/mine.cpp"
-rm -r "$old/files/Keywords/c++.kwd" "$old/files/Examples/ledger"
-sed -i '/c++.kwd/d; /ledger/d' "$old/kinds"
+rm -r "$old/files/Keywords/c++.kwd" "$old/files/Examples/ledger" "$old/files/kesto-cli.exe"
+sed -i '/c++.kwd/d; /ledger/d; /kesto-cli.exe/d' "$old/kinds"
 printf 'E Examples/gone/%s\n' gone.cpp mine.cpp >>"$old/kinds"
 bash package/make.sh list "$old"
 bash package/make.sh installer "$old" 1.1 "$work/old.exe" >/dev/null || fail "no older installer"
@@ -104,6 +104,7 @@ ends 0 "the older version's installation" wine "$work/old.exe" /S '/D=C:\Tools\K
 value_is "$addon_key" Path 'C:\Tools\Kesto\Kestoaob.dll' "the IDE's entry"
 for file in main.cpp ../gone/mine.cpp; do echo '// mine' >>"$folder/Examples/shapes/$file"; done
 echo note >"$folder/Examples/note.txt"
+echo mine >"$folder/kesto-cli.exe"
 wine reg add "$addon_key\\Menus" /v Size /d 3 /f >/dev/null 2>&1
 
 # In use, by a Workbench from elsewhere that finds the module by its entry.
@@ -144,6 +145,8 @@ cat $stage/Examples/shapes/main.cpp "$work/mine" | cmp - "$folder/Examples/shape
 tail -n 1 "$folder/Examples/gone/mine.cpp" | cmp - "$work/mine" || fail "an edit of an example that is gone is lost"
 (cd $stage && find . -type f ! -path ./Examples/shapes/main.cpp -exec cmp {} "$folder"/{} \;) >"$work/differs" 2>&1
 [ ! -s "$work/differs" ] || { head -n 5 "$work/differs"; fail "not all files are those of the new version"; }
+[ "$(cat "$folder/kesto-cli.exe.old")" = mine ] || fail "a file with a new program's name is lost"
+[ "$(ls "$folder"/*.old)" = "$folder/kesto-cli.exe.old" ] || fail "what was of Kesto is kept"
 [ ! -e "$folder/Examples/gone/gone.cpp" ] || fail "a file of the older version is left"
 [ -z "$(ls -d "$folder"/~* 2>/dev/null)" ] || fail "the upgrade left its own folders"
 value_is "$addon_key\\Menus" Size 3 "the upgrade"
@@ -172,7 +175,7 @@ gone() { # DATA: waits for the end of an uninstaller, which goes on in a copy of
 ends 0 "the uninstaller" wine "$folder/uninstall.exe" /S
 gone
 (cd "$disk/Tools" && find . -type f | sort) >"$work/left"
-printf './Kesto/Examples/%s\n' gone/mine.cpp note.txt shapes/main.cpp | diff - "$work/left" ||
+printf './Kesto/%s\n' Examples/gone/mine.cpp Examples/note.txt Examples/shapes/main.cpp kesto-cli.exe.old | diff - "$work/left" ||
   fail "other files are left than a person's"
 value_is "$addon_key\\Menus" Size 3 "the uninstallation"
 
