@@ -55,7 +55,9 @@ void append(std::string& bytes, std::uint32_t value, std::size_t width) {
 
 // What a file within the file holds.
 std::optional<std::string_view> contentAt(const Bytes& help, std::size_t offset) {
-  const auto used = help.number(offset + 4, 4);
+  // An offset near the largest number would come round to the file's beginning.
+  const auto header = help.part(offset, kFileHeader);
+  const auto used = header ? Bytes(*header).number(4, 4) : std::nullopt;
   return used ? help.part(offset + kFileHeader, *used) : std::nullopt;
 }
 
