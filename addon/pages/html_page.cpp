@@ -18,6 +18,10 @@ void HTMLPage::exchange(PageExchange& controls) {
     return;
   }
   project_.meet(controls);
+  // What a project that has gone meanwhile had is not the user's own.
+  if (controls.stores() && !project_.isOpen() && !project_.isNone()) {
+    return;
+  }
   HtmlProjectOptions& its = htmlProjectOptions;
   HtmlSettings& own = *htmlSettings;
   const bool open = project_.isOpen();
@@ -38,7 +42,7 @@ void HTMLPage::filled(HWND dialog) {
 void HTMLPage::stored(HWND) {
   if (project_.isOpen()) {
     saveProjectOptions();
-  } else if (htmlSettings != nullptr) {
+  } else if (htmlSettings != nullptr && project_.isNone()) {
     htmlSettings->section.write();
   }
   if (barMenu != nullptr) {

@@ -18,6 +18,8 @@ class ShownProject {
     }
   }
   bool isOpen() const { return isProjectOpen() && projectFile() == file_; }
+  // No project was open when the page was filled, whatever has been opened since.
+  bool isNone() const { return file_.empty(); }
 
   void flag(PageExchange& controls, int control, const char* help, int& value) const {
     int none = 0;
