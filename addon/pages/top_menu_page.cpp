@@ -40,6 +40,7 @@ void TopMenuPage::exchangeBar(PageExchange& controls) {
 void TopMenuPage::exchangeMenus(PageExchange& controls) {
   int construction = static_cast<int>(topBar->construction());
   int hides_with_view = topBar->hidesWithView() ? 1 : 0;
+  const ShownMenus in_force = {construction, hides_with_view};
   controls.choice(PAGE_BAR_LINEAR, "Linear construction of top bar", construction,
                   static_cast<int>(BarConstruction::kLinear));
   controls.choice(PAGE_BAR_HIERARCHICAL, "Hierarchical construction of top bar", construction,
@@ -49,8 +50,14 @@ void TopMenuPage::exchangeMenus(PageExchange& controls) {
   controls.flag(PAGE_BAR_HIDE_WITH_VIEW, "Hide menus when project view is opened", hides_with_view);
   controls.number(PAGE_BAR_MENU_SIZE, "Set size of one column in the top bar menu",
                   topBar->settings.menu_size.value);
+  // They may be another project's by now: what was left alone stays as that one has it.
   if (controls.stores()) {
-    topBar->chooseMenus(construction, hides_with_view);
+    topBar->chooseMenus(
+        construction != menus_.construction ? construction : in_force.construction,
+        hides_with_view != menus_.hides_with_view ? hides_with_view : in_force.hides_with_view);
+  }
+  if (controls.stores() || controls.fills()) {
+    menus_ = {construction, hides_with_view};
   }
 }
 

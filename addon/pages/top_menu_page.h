@@ -16,9 +16,15 @@ class TopMenuPage : public AddonPageBase {
 
  private:
   static void exchangeBar(PageExchange& controls);
-  static void exchangeMenus(PageExchange& controls);
+  void exchangeMenus(PageExchange& controls);
   static void exchangeFiles(PageExchange& controls);
 
+  struct ShownMenus {
+    int construction;
+    int hides_with_view;
+  };
+
+  ShownMenus menus_ = {};     // as they were shown or stored last
   TopBar::Look before_ = {};  // the page was stored
 };
 
