@@ -1,9 +1,6 @@
 // The table of the commands, and what their helps say.
 #include "cli/commands.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace kesto::cli {
 namespace {
 
