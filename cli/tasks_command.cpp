@@ -57,7 +57,8 @@ bool readDay(std::string_view text, TaskDate& date) {
 // States by their words, "to do" without its blank as well; false for another word.
 bool readStates(std::string_view list, int (&flags)[kTaskStates]) {
   while (!list.empty()) {
-    const std::string_view word = list.substr(0, list.find(','));
+    // A repeated option is joined with ";".
+    const std::string_view word = list.substr(0, list.find_first_of(",;"));
     list.remove_prefix(std::min(list.size(), word.size() + 1));
     int state = 0;
     while (state < kTaskStates && word != taskStateWord(state) &&

@@ -119,7 +119,7 @@ task() { # NAME STATE PUBLIC PRIORITY
   task one 0 1 -5 && task two 3 0 7
 } >'my p/my.ide.tsk'
 gives 0 "one${tab}Bug${tab}TO DO${tab}-5${tab}1995-05-01${tab}1995-05-31${lf}two${tab}Bug${tab}ended${tab}7${tab}1995-05-01${tab}1995-05-31${lf}" tasks 'my p'
-gives 0 '{"name":"two","type":"Bug","state":"ended","public":false,"priority":7,"start":"1995-05-01","end":"1995-05-31","text":"what\n"}'"$lf" tasks 'my p/my.ide' --states ended --json
+gives 0 '{"name":"two","type":"Bug","state":"ended","public":false,"priority":7,"start":"1995-05-01","end":"1995-05-31","text":"what\n"}'"$lf" tasks 'my p/my.ide' --states ended --states ended --json
 gives 0 "to do${tab}1${lf}coded${tab}0${lf}tested${tab}0${lf}ended${tab}1${lf}" tasks 'my p' --counts
 run tasks 'my p' --day 2001-05-31
 is "the report of a day" [ "$code$(sed -n '1,2p;$p' out)" = "0one (1995-05-01 to 1995-05-31)${lf}Type : Bug, Priority : -5, State : to do${lf}That's all folks !" ]
